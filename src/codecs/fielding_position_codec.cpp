@@ -1,0 +1,32 @@
+#include "codecs/fielding_position_codec.h"
+
+#include <algorithm>
+#include <array>
+
+#include "codecs/code_page.h"
+#include "codecs/hex_text.h"
+
+namespace morlek {
+namespace {
+
+constexpr std::array<std::string_view, 12> kPositions = {"P",  "C",  "LF", "CF", "RF", "3B",
+                                                         "SS", "2B", "1B", "DH", "IF", "OF"};
+
+}  // namespace
+
+const std::string& FieldingPositionCodec::DecodeFieldingPosition(std::uint8_t code) {
+  const std::size_t place = code / 2U;
+  if (code % 2 == 0 && place < kPositions.size()) decoded_position_ = kPositions.at(place);
+  return decoded_position_;
+}
+
+const std::string& FieldingPositionCodec::EncodeFieldingPosition(std::string_view text) {
+  const auto found = std::ranges::find(kPositions, UpperCase(text));
+  if (found != kPositions.end()) {
+    encoded_position_code_ =
+        ByteToTwoDigits(static_cast<std::uint8_t>(2 * (found - kPositions.begin())));
+  }
+  return encoded_position_code_;
+}
+
+}  // namespace morlek

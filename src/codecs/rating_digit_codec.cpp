@@ -1,0 +1,37 @@
+#include "codecs/rating_digit_codec.h"
+
+#include "codecs/hex_text.h"
+#include "codecs/number_text.h"
+
+namespace morlek {
+namespace {
+
+/// Subtracts from the joined texts and reads the decimal digits of the difference as hexadecimal.
+std::optional<std::int32_t> DigitsOfDifference(const std::string& joined, double subtrahend) {
+  const std::optional<double> number = TextToNumber(joined);
+  if (!number) return std::nullopt;
+  return ByteTextToNumber(NumberToText(*number - subtrahend));
+}
+
+}  // namespace
+
+RatingTexts RatingDigitCodec::FormatRatingBytes(int slot) const {
+  const auto index = static_cast<std::size_t>(slot);
+  return {ByteToTwoDigits(first_bytes.at(index)), ByteToTwoDigits(second_bytes.at(index))};
+}
+
+std::optional<std::string> ShownRating(std::string_view digits) {
+  const std::optional<double> stored = TextToNumber(digits);
+  if (!stored) return std::nullopt;
+  return NumberToText(*stored + 1);
+}
+
+std::optional<std::int32_t> PackRatings(std::string_view first, std::string_view second) {
+  return DigitsOfDifference(std::string(first).append(second), 11);
+}
+
+std::optional<std::int32_t> PackSingleRating(std::string_view rating) {
+  return DigitsOfDifference(std::string("0").append(rating), 1);
+}
+
+}  // namespace morlek

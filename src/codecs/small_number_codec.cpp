@@ -1,0 +1,42 @@
+#include "codecs/small_number_codec.h"
+
+#include <charconv>
+#include <optional>
+
+#include "codecs/hex_text.h"
+
+namespace morlek {
+namespace {
+
+constexpr std::uint8_t kLargestNumber = 200;
+
+/// The number from 0 to 200 that is shown as exactly this text, or nothing.
+std::optional<std::uint8_t> ShownNumber(std::string_view text) {
+  std::uint8_t number = 0;
+  const auto parsed = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (parsed.ec != std::errc() || number > kLargestNumber) return std::nullopt;
+  if (std::to_string(number) != text) return std::nullopt;
+  return number;
+}
+
+}  // namespace
+
+const std::string& SmallNumberCodec::DecodeSmallNumber(int slot) {
+  const std::uint8_t number = number_bytes.at(static_cast<std::size_t>(slot));
+  if (number <= kLargestNumber) decoded_number_ = std::to_string(number);
+  return decoded_number_;
+}
+
+const std::string& SmallNumberCodec::EncodeSmallNumber(int slot) {
+  const std::uint8_t number = number_bytes.at(static_cast<std::size_t>(slot));
+  if (number <= kLargestNumber) decoded_number_ = ByteToTwoDigits(number);
+  return decoded_number_;
+}
+
+const std::string& SmallNumberCodec::EncodeUniformNumber(int slot, std::string_view text) {
+  std::string& encoded = encoded_uniform_numbers_.at(static_cast<std::size_t>(slot));
+  if (const auto number = ShownNumber(text)) encoded = ByteToTwoDigits(*number);
+  return encoded;
+}
+
+}  // namespace morlek

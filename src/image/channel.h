@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <ios>
+#include <memory>
+#include <optional>
+#include <streambuf>
+#include <string_view>
+
+namespace morlek {
+
+/// Opens `path` in `mode`; null when that fails. A test puts a failing device in its place.
+using FileOpener = std::function<std::unique_ptr<std::streambuf>(const std::filesystem::path& path,
+                                                                 std::ios_base::openmode mode)>;
+
+/// The opener of the real program. Folders, pipes and sockets are refused, for they could neither
+/// be positioned in nor be relied on to answer. Nothing is buffered but text that is read.
+[[nodiscard]] std::unique_ptr<std::streambuf> OpenFile(const std::filesystem::path& path,
+                                                       std::ios_base::openmode mode);
+
+/// File channel 1, through which the program does all its file access, one file at a time.
+/// Opening it while it is open fails, so an operation that ends without closing it makes the later
+/// ones fail until something closes it. That is how the editor is meant to behave.
+class Channel {
+ public:
+  explicit Channel(FileOpener opener = OpenFile);
+
+  /// Opens an existing file for reading and writing single bytes. Never creates a file.
+  /// False when the channel is open already or the file cannot be opened for both.
+  [[nodiscard]] bool OpenBinary(const std::filesystem::path& path);
+
+  /// Opens an existing file for reading text; false as above.
+  [[nodiscard]] bool OpenTextInput(const std::filesystem::path& path);
+
+  /// Creates or empties a file for writing text; false as above, and then nothing is created.
+  [[nodiscard]] bool OpenTextOutput(const std::filesystem::path& path);
+
+  /// Closes the channel; harmless when nothing is open.
+  void Close();
+
+  [[nodiscard]] bool is_open() const { return file_ != nullptr; }
+
+  /// The byte at a 1-based position of a binary file; 0 past the end of the file.
+  /// Throws OperationFailed when the channel is not open for bytes or the read fails.
+  [[nodiscard]] std::uint8_t ReadByte(std::int64_t position);
+
+  /// Writes the byte at a 1-based position of a binary file; false when that fails.
+  [[nodiscard]] bool WriteByte(std::int64_t position, std::uint8_t value);
+
+  /// The next character of a text file, or nothing at its end. Throws OperationFailed when the
+  /// channel is not open for reading text or the read fails.
+  [[nodiscard]] std::optional<char> ReadCharacter();
+
+  /// The character that ReadCharacter would give next, which stays unread; fails alike.
+  [[nodiscard]] std::optional<char> PeekCharacter();
+
+  /// Writes the text and a carriage return and line feed, all the way to the system.
+  /// Throws OperationFailed when the channel is not open for writing text or the write fails.
+  void WriteLine(std::string_view text);
+
+ private:
+  enum class Mode { kClosed, kBinary, kTextInput, kTextOutput };
+
+  [[nodiscard]] bool Open(const std::filesystem::path& path, Mode mode,
+                          std::ios_base::openmode flags);
+  [[nodiscard]] bool Seek(std::int64_t position);
+  void Require(Mode mode) const;
+
+  FileOpener opener_;
+  Mode mode_ = Mode::kClosed;
+  std::unique_ptr<std::streambuf> file_;
+};
+
+}  // namespace morlek
