@@ -2,12 +2,14 @@
 
 #include <fstream>
 #include <iostream>
+#include <span>
 #include <vector>
 
 #include "sample_image.h"
 
-int main(int argument_count, char** arguments) {
-  if (argument_count != 2) {
+int main(int argument_count, char** argument_values) {
+  const std::span arguments(argument_values, static_cast<std::size_t>(argument_count));
+  if (arguments.size() != 2) {
     std::cerr << "usage: make_sample_image FILE\n";
     return 2;
   }

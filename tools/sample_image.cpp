@@ -12,6 +12,7 @@ namespace morlek {
 namespace {
 
 constexpr std::size_t kImageBytes = 1573376;
+constexpr std::size_t kRecordBytes = std::size_t{kSlotBytes} * kSlotCount;
 
 constexpr std::array<std::string_view, 50> kSurnames = {
     "ALDERSON", "ASHWORTH", "BARROW",   "BELLAMY",  "BIRCH",    "BRANNIGA", "CALLOWAY", "CARDEW",
@@ -118,7 +119,7 @@ void PutTeam(std::span<std::uint8_t> record, Dice& dice) {
   constexpr int kUniformStep = 37;  // prime to 99, so that no number comes twice
   int uniform_number = dice.Between(1, 99);
   for (int row = 0; row < kSlotCount; ++row) {
-    Slot slot(record.subspan(static_cast<std::size_t>(kSlotBytes * row), kSlotBytes));
+    Slot slot(record.subspan(std::size_t{kSlotBytes} * static_cast<std::size_t>(row), kSlotBytes));
     slot.PutName(static_cast<char>('A' + dice.Between(0, 25)), dice.OneOf(kSurnames));
     slot.Put(offset::kUniformNumber, static_cast<std::uint8_t>(uniform_number));
     uniform_number = (uniform_number + kUniformStep - 1) % 99 + 1;
@@ -146,7 +147,7 @@ std::vector<std::uint8_t> MakeSampleImage() {
   const std::span<std::uint8_t> bytes(image);
   for (const Team& team : kTeamDirectory) {
     const auto start = static_cast<std::size_t>(team.base) - 1;
-    PutTeam(bytes.subspan(start, kSlotBytes * kSlotCount), dice);
+    PutTeam(bytes.subspan(start, kRecordBytes), dice);
   }
   Slot first_brave(
       bytes.subspan(static_cast<std::size_t>(kTeamDirectory.front().base) - 1, kSlotBytes));

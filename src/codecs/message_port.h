@@ -5,7 +5,7 @@
 namespace morlek {
 
 /// The title of most of the program's message boxes.
-inline constexpr char kProgramTitle[] = "MORLEK EDITOR";
+inline constexpr const char* kProgramTitle = "MORLEK EDITOR";
 
 /// One message for the person at the screen: a modal box with an OK button. Its texts are in the
 /// code page of the grid.

@@ -32,7 +32,7 @@ bool CartridgeImage::WriteField(int slot, int offset, std::uint8_t value) {
 }
 
 std::int64_t CartridgeImage::FieldPosition(int slot, int offset) const {
-  return *team_base_ + kSlotBytes * slot + offset;
+  return *team_base_ + std::int64_t{kSlotBytes} * slot + offset;
 }
 
 }  // namespace morlek
