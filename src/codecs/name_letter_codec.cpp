@@ -20,7 +20,7 @@ const std::string& NameLetterCodec::DecodeNameLetter(std::uint8_t code) {
   } else if (code >= kCodeOfA && code < kCodeOfA + kAlphabet.size()) {
     decoded_letter_ = kAlphabet[static_cast<std::size_t>(code - kCodeOfA)];
   } else if (code == kSmallCCode) {
-    decoded_letter_ = "c";
+    decoded_letter_ = 'c';
   }
   return decoded_letter_;
 }

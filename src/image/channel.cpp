@@ -32,7 +32,10 @@ std::unique_ptr<std::streambuf> OpenFile(const std::filesystem::path& path,
   std::error_code ignored;
   const auto type = std::filesystem::status(path, ignored).type();
   using enum std::filesystem::file_type;
-  if (type == directory || type == fifo || type == socket) return nullptr;
+  const bool is_read = (mode & std::ios_base::in) != 0;
+  if (is_read ? type != regular : type == directory || type == fifo || type == socket) {
+    return nullptr;
+  }
 
   auto file = std::make_unique<std::filebuf>();
   if ((mode & std::ios_base::out) != 0) file->pubsetbuf(nullptr, 0);

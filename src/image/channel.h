@@ -15,8 +15,8 @@ namespace morlek {
 using FileOpener = std::function<std::unique_ptr<std::streambuf>(const std::filesystem::path& path,
                                                                  std::ios_base::openmode mode)>;
 
-/// The opener of the real program. Folders, pipes and sockets are refused, for they could neither
-/// be positioned in nor be relied on to answer. Nothing is buffered but text that is read.
+/// The opener of the real program. It reads regular files only and never writes to a folder, a pipe
+/// or a socket, which might keep the program waiting. Nothing is buffered but text that is read.
 [[nodiscard]] std::unique_ptr<std::streambuf> OpenFile(const std::filesystem::path& path,
                                                        std::ios_base::openmode mode);
 

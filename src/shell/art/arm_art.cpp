@@ -1,0 +1,101 @@
+#include "shell/art/arm_art.h"
+
+#include <QPainter>
+#include <cmath>
+
+#include "shell/art/shapes.h"
+
+namespace morlek::art {
+namespace {
+
+constexpr qreal kShoulderRadius = 7.6;
+constexpr qreal kElbowRadius = 5.4;
+constexpr qreal kWristRadius = 4.2;
+
+/// The upper arm from the shoulder to a share of the way to the elbow, widened by some units.
+QPainterPath UpperArmPart(const Arm& arm, qreal to, qreal widening) {
+  const qreal radius = std::lerp(kShoulderRadius, kElbowRadius, to);
+  return Taper({arm.shoulder, kShoulderRadius + widening},
+               {Between(arm.shoulder, arm.elbow, to), radius + widening});
+}
+
+/// The forearm between two shares of the way from elbow to hand, widened by some units.
+QPainterPath ForearmPart(const Arm& arm, qreal from, qreal to, qreal widening) {
+  const auto radius = [&](qreal share) { return std::lerp(kElbowRadius, kWristRadius, share); };
+  return Taper({Between(arm.elbow, arm.hand, from), radius(from) + widening},
+               {Between(arm.elbow, arm.hand, to), radius(to) + widening});
+}
+
+bool ShowsShirtOnForearm(Sleeves sleeves) {
+  return sleeves == Sleeves::kLongBlue || sleeves == Sleeves::kLongNavy ||
+         sleeves == Sleeves::kThreeQuarterRed;
+}
+
+/// A blue band along the end of a short sleeve.
+void PaintHem(QPainter& painter, const Arm& arm, const QPainterPath& sleeve) {
+  painter.save();
+  painter.setClipPath(sleeve, Qt::IntersectClip);
+  painter.setClipPath(sleeve - UpperArmPart(arm, 0.36, 1.2), Qt::IntersectClip);
+  painter.fillPath(sleeve, kAccentCloth.light);
+  painter.restore();
+}
+
+void PaintExtras(QPainter& painter, const Arm& arm, Extras extras) {
+  if (extras == Extras::kWristbands) {
+    PaintSolid(painter, ForearmPart(arm, 0.62, 0.74, 0.8), kRedCloth, 2);
+  }
+  if (extras == Extras::kElbowGuard && arm.is_front) {
+    const QPainterPath guard = Taper({Between(arm.elbow, arm.shoulder, 0.22), kElbowRadius + 2},
+                                     {Between(arm.elbow, arm.hand, 0.22), kElbowRadius + 1.6});
+    PaintSolid(painter, guard, kNavyCloth, 2.5);
+    PaintLine(painter, Ellipse(arm.elbow, 1.6, 1.6), kRed, 1.6);
+  }
+}
+
+}  // namespace
+
+Tone UndershirtOf(Sleeves sleeves) {
+  switch (sleeves) {
+    case Sleeves::kLongNavy:
+      return kNavyCloth;
+    case Sleeves::kThreeQuarterRed:
+      return kRedCloth;
+    default:
+      return kAccentCloth;
+  }
+}
+
+void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Tone& skin) {
+  QPainterPath limb = UpperArmPart(arm, 1, -0.6);
+  limb.addPath(ForearmPart(arm, 0, 1, 0));
+  PaintSolid(painter, limb, skin);
+
+  if (ShowsShirtOnForearm(outfit.sleeves)) {
+    const qreal cuff = outfit.sleeves == Sleeves::kThreeQuarterRed ? 0.3 : 0.72;
+    QPainterPath shirt = UpperArmPart(arm, 1, -0.2);
+    shirt.addPath(ForearmPart(arm, 0, cuff, 0.4));
+    PaintSolid(painter, shirt, UndershirtOf(outfit.sleeves));
+  }
+  PaintExtras(painter, arm, outfit.extras);
+
+  const bool is_vest = outfit.sleeves == Sleeves::kVest;
+  const QPainterPath sleeve = UpperArmPart(arm, is_vest ? 0.2 : 0.5, 0.8);
+  PaintSolid(painter, sleeve, is_vest ? kAccentCloth : kJersey);
+  if (!is_vest) PaintHem(painter, arm, sleeve);
+}
+
+void PaintFist(QPainter& painter, QPointF place, QPointF bat_way, const Outfit& outfit,
+               const Tone& skin) {
+  const QPainterPath fist = Taper({place - bat_way * 1.6, 4.8}, {place + bat_way * 1.8, 4.8});
+  const bool is_gloved = outfit.extras == Extras::kGloves;
+  PaintSolid(painter, fist, is_gloved ? kAccentCloth : skin, 2.4);
+  const QPointF across(-bat_way.y() * 3.2, bat_way.x() * 3.2);
+  for (const qreal along : {-1.4, 1.6}) {
+    const QPointF knuckle = place + bat_way * along;
+    QPainterPath line(knuckle - across);
+    line.lineTo(knuckle + across * 0.4);
+    PaintLine(painter, line, is_gloved ? kAccentCloth.shade : skin.shade, 1);
+  }
+}
+
+}  // namespace morlek::art

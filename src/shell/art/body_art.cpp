@@ -1,0 +1,117 @@
+#include "shell/art/body_art.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <array>
+
+#include "shell/art/arm_art.h"
+#include "shell/art/bat_art.h"
+#include "shell/art/body_look.h"
+#include "shell/art/picture_code.h"
+#include "shell/art/shapes.h"
+
+namespace morlek::art {
+namespace {
+
+constexpr qreal kSmallestFrame = 92;
+
+/// Half widths of the torso.
+struct Girth {
+  qreal shoulder;
+  qreal chest;
+  qreal waist;
+};
+
+Girth GirthOf(Build build) {
+  switch (build) {
+    case Build::kSlim:
+      return {21, 16.5, 14.5};
+    case Build::kStocky:
+      return {25, 24.5, 22};
+    case Build::kBroad:
+      break;
+  }
+  return {27, 21, 16.5};
+}
+
+QPainterPath TorsoOf(const Girth& girth) {
+  QPainterPath torso(QPointF(-8, -53));
+  torso.cubicTo({-14, -51}, {-girth.shoulder + 2, -50}, {-girth.shoulder, -42});
+  torso.cubicTo({-girth.shoulder, -36}, {-girth.chest, -34}, {-girth.chest, -26});
+  torso.cubicTo({-girth.chest, -16}, {-girth.waist - 1, -10}, {-girth.waist, -3.5});
+  torso.quadTo({0, 0}, {girth.waist, -3.5});
+  torso.cubicTo({girth.waist + 1, -10}, {girth.chest, -16}, {girth.chest, -26});
+  torso.cubicTo({girth.chest, -34}, {girth.shoulder - 2, -36}, {girth.shoulder - 2, -42});
+  torso.cubicTo({girth.shoulder - 4, -50}, {16, -51}, {12, -53});
+  torso.quadTo({2, -48}, {-8, -53});
+  return torso;
+}
+
+void PaintNeck(QPainter& painter, const Tone& skin) {
+  constexpr std::array<QPointF, 4> kNeck = {{{-5, -61}, {9, -61}, {11, -46}, {-7, -46}}};
+  PaintSolid(painter, Polygon(kNeck), skin, 5);
+  PaintSolid(painter, Ellipse({2, -61}, 7, 2), {skin.shade, skin.shade});
+}
+
+void PaintJerseyFront(QPainter& painter, const QPainterPath& torso, const Tone& undershirt) {
+  painter.save();
+  painter.setClipPath(torso, Qt::IntersectClip);
+  constexpr std::array<QPointF, 3> kCollar = {{{-9, -55}, {4, -42}, {13, -55}}};
+  painter.fillPath(Polygon(kCollar), undershirt.light);
+  constexpr std::array<QPointF, 3> kPlacket = {{{4, -42}, {6, -22}, {5, 6}}};
+  PaintLine(painter, CurveThrough(kCollar), kAccentCloth.light, 2.2);
+  PaintLine(painter, CurveThrough(kPlacket), kAccentCloth.light, 2.2);
+  painter.restore();
+}
+
+}  // namespace
+
+QRectF BodyFrame(int code) {
+  const BatHold hold = BodyLookOf(code).hold;
+  QRectF room(-31, -66, 60, 65);
+  const auto add = [&room](QPointF place, qreal margin) {
+    const QPointF reach(margin, margin);
+    room |= QRectF(place - reach, place + reach);
+  };
+  add(hold.knob + BatDirection(hold.angle) * kBatLength, 6);
+  add(hold.front_elbow, 9);
+  add(hold.rear_elbow, 9);
+  constexpr QSizeF kMargin(4, 10);
+  return FrameAround(room, std::max({kSmallestFrame, room.width() + kMargin.width(),
+                                     room.height() + kMargin.height()}));
+}
+
+void PaintTorso(QPainter& painter, int code) {
+  const auto [outfit, hold] = BodyLookOf(code);
+  if (hold.is_behind) PaintBat(painter, hold.knob, hold.angle);
+  PaintNeck(painter, SkinOf(HighDigit(code)));
+  const QPainterPath torso = TorsoOf(GirthOf(outfit.build));
+  PaintSolid(painter, torso, kJersey, 5);
+  PaintJerseyFront(painter, torso, UndershirtOf(outfit.sleeves));
+}
+
+void PaintArms(QPainter& painter, int code) {
+  const auto [outfit, hold] = BodyLookOf(code);
+  const Girth girth = GirthOf(outfit.build);
+  const Tone skin = SkinOf(HighDigit(code));
+  const QPointF direction = BatDirection(hold.angle);
+  const auto hand = [&](std::optional<qreal> grip, qreal side) {
+    return grip ? hold.knob + direction * *grip : QPointF(side * (girth.waist - 1), -5);
+  };
+  const Arm rear = {.shoulder = {-girth.shoulder + 7, -42},
+                    .elbow = hold.rear_elbow,
+                    .hand = hand(hold.rear_grip, -1),
+                    .is_front = false};
+  const Arm front = {.shoulder = {girth.shoulder - 9, -42},
+                     .elbow = hold.front_elbow,
+                     .hand = hand(hold.front_grip, 1),
+                     .is_front = true};
+
+  PaintArm(painter, rear, outfit, skin);
+  PaintArm(painter, front, outfit, skin);
+  if (!hold.is_behind) PaintBat(painter, hold.knob, hold.angle);
+  if (hold.rear_grip) PaintFist(painter, rear.hand, direction, outfit, skin);
+  if (hold.front_grip) PaintFist(painter, front.hand, direction, outfit, skin);
+}
+
+}  // namespace morlek::art

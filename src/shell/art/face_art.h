@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QRectF>
+
+class QPainter;
+
+namespace morlek::art {
+
+/// The room that every head keeps within; (0, 0) lies between the eyes' height and the ear.
+inline constexpr QRectF kHeadFrame{-31, -35, 71, 71};
+
+/// Paints the head of a face code that has a picture, looking to the right.
+void PaintHead(QPainter& painter, int code);
+
+}  // namespace morlek::art

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QPainterPath>
+#include <QPointF>
+
+#include "shell/art/face_look.h"
+#include "shell/art/palette.h"
+
+class QPainter;
+
+/// What a head is put together from. All of it is in the units of the head frame.
+namespace morlek::art {
+
+/// The lower outline of a face, from the ear round the chin to the far cheek.
+struct JawLine {
+  QPointF back;
+  QPointF chin_back;
+  QPointF chin_front;
+  QPointF front;
+};
+
+[[nodiscard]] JawLine JawLineOf(Jaw jaw);
+
+void PaintEyes(QPainter& painter, Eyes eyes);
+void PaintBrows(QPainter& painter, Brows brows);
+void PaintNose(QPainter& painter, const Tone& skin);
+/// Paints a mouth, its lips in a colour that stands out from skin or whiskers.
+void PaintMouth(QPainter& painter, Mouth mouth, const QColor& lips);
+
+void PaintMark(QPainter& painter, Mark mark, const Tone& skin);
+
+/// Whiskers on jaw, cheeks and chin. The skull is the outline that stubble stays within.
+void PaintBeard(QPainter& painter, Whiskers whiskers, const JawLine& jaw,
+                const QPainterPath& skull);
+/// Whether whiskers surround the mouth.
+[[nodiscard]] bool SurroundMouth(Whiskers whiskers);
+/// Whiskers above the mouth.
+void PaintMustache(QPainter& painter, Whiskers whiskers);
+
+void PaintEyewear(QPainter& painter, Eyewear eyewear);
+
+}  // namespace morlek::art

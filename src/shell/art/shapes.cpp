@@ -1,0 +1,107 @@
+#include "shell/art/shapes.h"
+
+#include <QLineF>
+#include <QPainter>
+#include <QPen>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace morlek::art {
+namespace {
+
+/// The visible width of the ink line around a shape.
+constexpr qreal kInkWidth = 2.0;
+
+/// One piece of a curve from `from` to `to` that passes both in the direction of its neighbours.
+void AddRoundSegment(QPainterPath& path, QPointF before, QPointF from, QPointF to, QPointF after) {
+  path.cubicTo(from + (to - before) / 6, to - (after - from) / 6, to);
+}
+
+QPen RoundPen(const QColor& color, qreal width) {
+  return QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+}
+
+}  // namespace
+
+QPainterPath RoundThrough(std::span<const QPointF> points) {
+  const std::size_t count = points.size();
+  QPainterPath path(points[0]);
+  for (std::size_t i = 0; i < count; ++i) {
+    AddRoundSegment(path, points[(i + count - 1) % count], points[i], points[(i + 1) % count],
+                    points[(i + 2) % count]);
+  }
+  path.closeSubpath();
+  return path;
+}
+
+QPainterPath CurveThrough(std::span<const QPointF> points) {
+  const std::size_t last = points.size() - 1;
+  QPainterPath path(points[0]);
+  for (std::size_t i = 0; i < last; ++i) {
+    AddRoundSegment(path, points[i == 0 ? 0 : i - 1], points[i], points[i + 1],
+                    points[std::min(i + 2, last)]);
+  }
+  return path;
+}
+
+QPainterPath Polygon(std::span<const QPointF> points) {
+  QPainterPath path(points[0]);
+  for (const QPointF& point : points.subspan(1)) path.lineTo(point);
+  path.closeSubpath();
+  return path;
+}
+
+QPainterPath Ellipse(QPointF center, qreal radius_x, qreal radius_y) {
+  QPainterPath path;
+  path.addEllipse(center, radius_x, radius_y);
+  return path;
+}
+
+QPainterPath Taper(const Disc& from, const Disc& to) {
+  const QLineF axis(from.center, to.center);
+  const Disc& larger = from.radius > to.radius ? from : to;
+  if (axis.length() <= std::abs(from.radius - to.radius)) {
+    return Ellipse(larger.center, larger.radius, larger.radius);
+  }
+  const auto square_around = [](const Disc& disc) {
+    const QPointF reach(disc.radius, disc.radius);
+    return QRectF(disc.center - reach, disc.center + reach);
+  };
+  const qreal spread =
+      std::acos((from.radius - to.radius) / axis.length()) * 180 / std::numbers::pi;
+  QPainterPath path;
+  path.setFillRule(Qt::WindingFill);
+  path.arcMoveTo(square_around(from), axis.angle() + spread);
+  path.arcTo(square_around(from), axis.angle() + spread, 360 - 2 * spread);
+  path.arcTo(square_around(to), axis.angle() - spread, 2 * spread);
+  path.closeSubpath();
+  return path;
+}
+
+QPointF Between(QPointF from, QPointF to, qreal share) { return from + (to - from) * share; }
+
+QRectF FrameAround(const QRectF& room, qreal size) {
+  constexpr qreal kShareBefore = 0.22;
+  const QPointF slack(size - room.width(), size - room.height());
+  return {room.topLeft() - slack * kShareBefore, QSizeF(size, size)};
+}
+
+void PaintTone(QPainter& painter, const QPainterPath& shape, const Tone& tone, qreal depth) {
+  painter.save();
+  painter.setClipPath(shape, Qt::IntersectClip);
+  painter.fillPath(shape, tone.shade);
+  painter.fillPath(shape.translated(-depth * 0.8, -depth * 0.6), tone.light);
+  painter.restore();
+}
+
+void PaintSolid(QPainter& painter, const QPainterPath& shape, const Tone& tone, qreal depth) {
+  painter.strokePath(shape, RoundPen(kInk, 2 * kInkWidth));
+  PaintTone(painter, shape, tone, depth);
+}
+
+void PaintLine(QPainter& painter, const QPainterPath& line, const QColor& color, qreal width) {
+  painter.strokePath(line, RoundPen(color, width));
+}
+
+}  // namespace morlek::art

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QPainterPath>
+#include <QPointF>
+#include <QRectF>
+#include <span>
+
+#include "shell/art/palette.h"
+
+class QPainter;
+
+/// Shapes and strokes that all pictures share: lengths are in the units of the picture.
+namespace morlek::art {
+
+struct Disc {
+  QPointF center;
+  qreal radius = 0;
+};
+
+/// A closed round curve through three points or more.
+[[nodiscard]] QPainterPath RoundThrough(std::span<const QPointF> points);
+
+/// An open round curve through two points or more.
+[[nodiscard]] QPainterPath CurveThrough(std::span<const QPointF> points);
+
+/// A closed shape of straight edges.
+[[nodiscard]] QPainterPath Polygon(std::span<const QPointF> points);
+
+[[nodiscard]] QPainterPath Ellipse(QPointF center, qreal radius_x, qreal radius_y);
+
+/// Two discs and all that lies between. All tapers turn the same way, so that they join into one
+/// shape by adding one path to another.
+[[nodiscard]] QPainterPath Taper(const Disc& from, const Disc& to);
+
+/// The point at a share, 0 to 1, of the way.
+[[nodiscard]] QPointF Between(QPointF from, QPointF to, qreal share);
+
+/// A square of the given size round a room. The room lies towards its upper left, because the lower
+/// right corner of a tile is for the code.
+[[nodiscard]] QRectF FrameAround(const QRectF& room, qreal size);
+
+/// Fills a shape, its lower right edge in the shade.
+void PaintTone(QPainter& painter, const QPainterPath& shape, const Tone& tone, qreal depth = 3);
+
+/// As PaintTone, with an ink line around the shape.
+void PaintSolid(QPainter& painter, const QPainterPath& shape, const Tone& tone, qreal depth = 3);
+
+/// A line with round ends.
+void PaintLine(QPainter& painter, const QPainterPath& line, const QColor& color, qreal width);
+
+}  // namespace morlek::art

@@ -1,0 +1,28 @@
+#include "shell/cls_on_top.h"
+
+#include <QWindow>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
+namespace morlek {
+namespace {
+
+void SetTopmost(QWindow& window, bool topmost) {
+#ifdef Q_OS_WIN
+  SetWindowPos(reinterpret_cast<HWND>(window.winId()), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, 0,
+               0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
+#else
+  // The window's own flag changes the window as it stands; a widget's would make a new one.
+  window.setFlag(Qt::WindowStaysOnTopHint, topmost);
+#endif
+}
+
+}  // namespace
+
+void clsOnTop::MakeTopmost(QWindow& window) { SetTopmost(window, true); }
+
+void clsOnTop::MakeNotTopmost(QWindow& window) { SetTopmost(window, false); }
+
+}  // namespace morlek

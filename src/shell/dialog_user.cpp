@@ -1,0 +1,49 @@
+#include "shell/dialog_user.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace morlek {
+
+std::optional<QString> DialogUser::AskOpenPath(const FileQuestion& question) {
+  QFileDialog dialog(window_);
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return Ask(dialog, question);
+}
+
+std::optional<QString> DialogUser::AskSavePath(const FileQuestion& question) {
+  QFileDialog dialog(window_);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  return Ask(dialog, question);
+}
+
+std::optional<QString> DialogUser::Ask(QFileDialog& dialog, const FileQuestion& question) {
+  dialog.setObjectName("CommonDialog1");
+  dialog.setWindowTitle(question.title);
+  dialog.setNameFilter(question.filter.section('|', 0, 0));
+  dialog.setDirectory(folder_);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  const QString path = dialog.selectedFiles().value(0);
+  folder_ = QFileInfo(path).absolutePath();
+  return path;
+}
+
+bool DialogUser::AskYesNo(const QString& text, const QString& title) {
+  QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, window_);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
+void DialogUser::ShowMessage(const QString& text, const QString& title, Message::Icon icon) {
+  const auto shown = icon == Message::Icon::kCritical ? QMessageBox::Critical : QMessageBox::NoIcon;
+  QMessageBox box(shown, title, text, QMessageBox::Ok, window_);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+}  // namespace morlek

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDir>
+#include <QPointer>
+#include <QWidget>
+
+#include "shell/user.h"
+
+class QFileDialog;
+
+namespace morlek {
+
+/// The real user, asked by the toolkit's dialogs, all modal. File dialogs open in the folder that
+/// was used last, the first one in the working directory.
+class DialogUser : public User {
+ public:
+  /// The window over which dialogs stand.
+  void SetWindow(QWidget* window) { window_ = window; }
+
+  [[nodiscard]] std::optional<QString> AskOpenPath(const FileQuestion& question) override;
+  [[nodiscard]] std::optional<QString> AskSavePath(const FileQuestion& question) override;
+  [[nodiscard]] bool AskYesNo(const QString& text, const QString& title) override;
+  void ShowMessage(const QString& text, const QString& title, Message::Icon icon) override;
+
+ private:
+  [[nodiscard]] std::optional<QString> Ask(QFileDialog& dialog, const FileQuestion& question);
+
+  QPointer<QWidget> window_;
+  QString folder_ = QDir::currentPath();
+};
+
+}  // namespace morlek

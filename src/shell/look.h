@@ -1,0 +1,9 @@
+#pragma once
+
+namespace morlek {
+
+/// Gives the application its style, colours and font. Call once, when there is an application and
+/// before the first window.
+void ApplyLook();
+
+}  // namespace morlek

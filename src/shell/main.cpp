@@ -1,0 +1,24 @@
+#include <QApplication>
+
+#include "shell/dialog_user.h"
+#include "shell/look.h"
+#include "shell/main_window.h"
+#include "shell/splash_window.h"
+
+int main(int argument_count, char** arguments) {
+  const QApplication application(argument_count, arguments);
+  QApplication::setApplicationName("morlek-editor");
+  QApplication::setDesktopFileName("org.morlek.Editor");
+  morlek::ApplyLook();
+
+  morlek::DialogUser user;
+  morlek::MainWindow window(user);
+  user.SetWindow(&window);
+  morlek::SplashWindow splash;
+  QObject::connect(&splash, &morlek::SplashWindow::Dismissed, &window, [&] {
+    window.show();
+    splash.hide();
+  });
+  splash.show();
+  return QApplication::exec();
+}

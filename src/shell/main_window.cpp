@@ -1,0 +1,295 @@
+#include "shell/main_window.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+
+#include "image/failure.h"
+#include "shell/cls_on_top.h"
+#include "shell/code_page_text.h"
+#include "shell/help_pane.h"
+#include "shell/roster_frame.h"
+#include "shell/stance_panel.h"
+#include "shell/team_toolbar.h"
+#include "shell/theme.h"
+#include "shell/twips.h"
+#include "textfile/team_export.h"
+#include "textfile/team_import.h"
+
+namespace morlek {
+namespace {
+
+constexpr int kNarrowWidth = 6705;
+constexpr int kWideWidth = 9990;
+constexpr int kContentHeight = 653;  // logical pixels
+
+constexpr char kImageFailureTitle[] = "Morlek Editor";
+constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
+
+FileQuestion RomQuestion() {
+  return {"Open Dale Harrow Jr. Baseball Rom", "SNES File (*.smc)|*.smc"};
+}
+
+std::filesystem::path ToPath(const QString& path) { return QFileInfo(path).filesystemFilePath(); }
+
+}  // namespace
+
+MainWindow::MainWindow(User& user) : user_(user), editor_(user) {
+  setObjectName("Form1");
+  setWindowTitle(kProgramTitle);
+  setAccessibleName(kProgramTitle);
+  BuildMenus();
+  BuildContent();
+  SetContentWidth(kNarrowWidth);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (loaded_) return;
+  loaded_ = true;
+  // From the event loop, so that the window stands on the screen before the dialog asks over it.
+  QTimer::singleShot(0, this, &MainWindow::OpenFirstImage);
+}
+
+void MainWindow::BuildMenus() {
+  menuBar()->setAccessibleName("menu bar");
+  for (const MenuTable& table : kMenus) {
+    QMenu* menu = menuBar()->addMenu(table.caption);
+    menu->setAccessibleName(menu->title().remove('&'));
+    menu->setObjectName(table.name);
+    for (const MenuItem& item : table.items) {
+      QAction* action = menu->addAction(item.caption);
+      action->setObjectName(item.name);
+      action->setShortcut(item.key);
+      action->setVisible(item.command != Command::kNotOnTop);
+      connect(action, &QAction::triggered, this, [this, item] { Run(item.command); });
+    }
+  }
+}
+
+void MainWindow::BuildContent() {
+  scroll_ = new QScrollArea(this);
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setAccessibleName("team");
+  content_ = new QWidget;
+  content_->setAccessibleName("team");
+  scroll_->setWidget(content_);
+  setCentralWidget(scroll_);
+
+  identity_ = AddLabel("Label3", {FromTwips(6060), 635, FromTwips(555), 16});
+  identity_->setAccessibleName("identity byte");
+  identity_->setToolTip("identity byte of the last file opened");
+  identity_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+
+  hint_ = AddLabel("labelHint", {0, 240, FromTwips(kNarrowWidth), 80});
+  hint_->setAccessibleName("what to do next");
+  hint_->setAlignment(Qt::AlignCenter);
+
+  toolbar_ = new TeamToolbar(content_);
+  toolbar_->move(FromTwips(60), 1);
+  toolbar_->hide();
+  connect(toolbar_, &TeamToolbar::TeamPicked, this, &MainWindow::LoadTeam);
+
+  roster_ = new RosterFrame(editor_.grid, content_);
+  roster_->hide();
+  connect(roster_, &RosterFrame::SaveRequested, this, [this] { editor_.saver.Save(); });
+
+  stances_ = new StancePanel(editor_.grid, content_);
+  connect(roster_, &RosterFrame::RowChanged, stances_, &StancePanel::Follow);
+  connect(roster_, &RosterFrame::CellFocused, this, [this](Column column, int row) {
+    if (!StancePanel::IsFeature(column)) return;
+    stances_->Choose(column, row);
+    SetContentWidth(kWideWidth);
+  });
+
+  identity_->raise();
+  help_ = new HelpPane(content_);
+}
+
+QLabel* MainWindow::AddLabel(const char* name, const QRect& place) {
+  auto* label = new QLabel(content_);
+  label->setObjectName(name);
+  label->setGeometry(place);
+  QPalette faint = palette();
+  faint.setColor(QPalette::WindowText, theme::kFaintText);
+  label->setPalette(faint);
+  return label;
+}
+
+void MainWindow::SetContentWidth(int twips) {
+  content_->setFixedSize(FromTwips(twips), kContentHeight);
+  FitToScreen();
+}
+
+void MainWindow::FitToScreen() {
+  const int menu_height = menuBar()->sizeHint().height();
+  const int borders = frameGeometry().height() - height();
+  const int room = screen()->availableGeometry().height() - borders;
+  QSize size(content_->width(), content_->height() + menu_height);
+  if (size.height() > room) {
+    size.setHeight(room);
+    size.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
+  }
+  setFixedSize(size);
+}
+
+void MainWindow::Run(Command command) {
+  switch (command) {
+    case Command::kOpen:
+      OpenAnotherImage();
+      break;
+    case Command::kQuit:
+      Quit();
+      break;
+    case Command::kAbout:
+      ShowAbout();
+      break;
+    case Command::kImport:
+      ImportTeam();
+      break;
+    case Command::kExport:
+      ExportTeam();
+      break;
+    case Command::kMinimizeFeatures:
+      SetContentWidth(kNarrowWidth);
+      break;
+    case Command::kAlwaysOnTop:
+      SetAlwaysOnTop(true);
+      break;
+    case Command::kNotOnTop:
+      SetAlwaysOnTop(false);
+      break;
+    case Command::kHelp:
+      help_->Open();
+      break;
+  }
+}
+
+void MainWindow::OpenFirstImage() {
+  const QString path = user_.AskOpenPath(RomQuestion()).value_or(QString());
+  const Editor::Opening opening = editor_.OpenFirstImage(ToPath(path));
+  ShowIdentity();
+  if (opening == Editor::Opening::kAccepted) {
+    toolbar_->show();
+    ShowHint();
+  } else {
+    ShowHint();
+    user_.ShowMessage("You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle,
+                      Message::Icon::kNone);
+  }
+}
+
+void MainWindow::OpenAnotherImage() {
+  const std::optional<QString> path = user_.AskOpenPath(RomQuestion());
+  if (!path) {
+    editor_.image.Close();
+    return;
+  }
+  try {
+    const Editor::Opening opening = editor_.OpenAnotherImage(ToPath(*path));
+    ShowIdentity();
+    if (opening == Editor::Opening::kRefused) {
+      editor_.image.Close();
+      user_.ShowMessage("This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle,
+                        Message::Icon::kNone);
+      return;
+    }
+  } catch (const OperationFailed&) {
+    // The image that was current stays so, and nobody is told.
+    return;
+  }
+  toolbar_->show();
+  ShowHint();
+  roster_->hide();
+  SetContentWidth(kNarrowWidth);
+}
+
+void MainWindow::ImportTeam() {
+  const std::optional<QString> path =
+      user_.AskOpenPath({"Open Dale Harrow Jr. Baseball Team Data", kTeamDataFilter});
+  if (!path) {
+    editor_.image.Close();
+    return;
+  }
+  try {
+    ImportTeamData(editor_.channel, ToPath(*path), editor_.grid);
+  } catch (const OperationFailed&) {
+    // An import that fails ends where it is, and nobody is told.
+    return;
+  }
+}
+
+void MainWindow::ExportTeam() {
+  const std::optional<QString> path =
+      user_.AskSavePath({"Save Dale Harrow Jr. Baseball Team Data", kTeamDataFilter});
+  if (!path) {
+    editor_.image.Close();
+    return;
+  }
+  try {
+    ExportTeamData(editor_.channel, ToPath(*path), editor_.grid);
+  } catch (const OperationFailed&) {
+    // An export that fails ends where it is, and nobody is told.
+    return;
+  }
+  user_.ShowMessage("Your team data has been saved to " + QDir::toNativeSeparators(*path),
+                    kProgramTitle, Message::Icon::kNone);
+}
+
+void MainWindow::SetAlwaysOnTop(bool on_top) {
+  if (!on_top_) on_top_ = std::make_unique<clsOnTop>();
+  if (on_top) {
+    on_top_->MakeTopmost(*windowHandle());
+  } else {
+    on_top_->MakeNotTopmost(*windowHandle());
+  }
+  findChild<QAction*>("mnuAlwaysOnTop")->setVisible(!on_top);
+  findChild<QAction*>("mnuNotTop")->setVisible(on_top);
+}
+
+void MainWindow::Quit() {
+  const bool yes = user_.AskYesNo(
+      "Are you sure you want to quit MORLEK EDITOR?\n\nIf not then click NO.", kProgramTitle);
+  if (yes) close();
+}
+
+void MainWindow::ShowAbout() {
+  user_.ShowMessage(
+      "MORLEK EDITOR for SNES Dale Harrow Baseball.\nFree software under the MIT licence.",
+      kProgramTitle, Message::Icon::kNone);
+}
+
+void MainWindow::LoadTeam(std::string_view toolbar_key) {
+  try {
+    editor_.loader.Load(toolbar_key, *this);
+  } catch (const OperationFailed& failure) {
+    user_.ShowMessage(failure.what(), kProgramTitle, Message::Icon::kCritical);
+    editor_.image.Close();
+    roster_->hide();
+  }
+}
+
+void MainWindow::ShowHint() {
+  hint_->setText(toolbar_->isHidden() ? "Open a ROM with Ctrl+O" : "Pick a team above");
+}
+
+void MainWindow::ShowIdentity() { identity_->setText(FromCodePage(editor_.identity_text())); }
+
+void MainWindow::ShowTeamName(std::string_view display_name) { roster_->SetTeamName(display_name); }
+
+void MainWindow::PrepareView() {
+  toolbar_->show();
+  roster_->show();
+  SetContentWidth(kNarrowWidth);
+}
+
+}  // namespace morlek

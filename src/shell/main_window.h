@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "shell/menu_table.h"
+#include "shell/user.h"
+#include "team/editor.h"
+
+class QLabel;
+class QScrollArea;
+
+namespace morlek {
+
+class HelpPane;
+class RosterFrame;
+class StancePanel;
+class TeamToolbar;
+class clsOnTop;
+
+/// The main window: it owns the editor and turns what the person does into its operations.
+class MainWindow : public QMainWindow, private TeamView {
+  Q_OBJECT
+
+ public:
+  /// The user is asked and told everything that a dialog is for, and outlives the window.
+  explicit MainWindow(User& user);
+  ~MainWindow() override;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void BuildContent();
+  [[nodiscard]] QLabel* AddLabel(const char* name, const QRect& place);
+
+  /// Sets the width of the content in twips; what stands further right is out of view.
+  void SetContentWidth(int twips);
+
+  /// Gives the window the size of its content, or as much of it as the screen has room for.
+  void FitToScreen();
+
+  void Run(Command command);
+  void OpenFirstImage();
+  void OpenAnotherImage();
+  void ImportTeam();
+  void ExportTeam();
+  void SetAlwaysOnTop(bool on_top);
+  void Quit();
+  void ShowAbout();
+  void LoadTeam(std::string_view toolbar_key);
+
+  void ShowIdentity();
+  void ShowHint();
+  void ShowTeamName(std::string_view display_name) override;
+  void PrepareView() override;
+
+  User& user_;
+  Editor editor_;
+  bool loaded_ = false;
+
+  QScrollArea* scroll_ = nullptr;
+  QWidget* content_ = nullptr;
+  TeamToolbar* toolbar_ = nullptr;
+  RosterFrame* roster_ = nullptr;
+  StancePanel* stances_ = nullptr;
+  HelpPane* help_ = nullptr;
+  QLabel* identity_ = nullptr;
+  QLabel* hint_ = nullptr;
+  std::unique_ptr<clsOnTop> on_top_;
+};
+
+}  // namespace morlek

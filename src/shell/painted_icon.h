@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QIcon>
+#include <functional>
+
+class QPainter;
+class QRectF;
+
+namespace morlek {
+
+/// Paints a picture into a target rectangle at any size.
+using PicturePainter = std::function<void(QPainter& painter, const QRectF& target)>;
+
+/// An icon that is painted afresh at every size and scale, and so is never blurred.
+[[nodiscard]] QIcon MakePaintedIcon(PicturePainter paint);
+
+}  // namespace morlek

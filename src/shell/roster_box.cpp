@@ -1,0 +1,133 @@
+#include "shell/roster_box.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <memory>
+
+#include "shell/code_page_text.h"
+#include "shell/menu_table.h"
+#include "shell/snapped_lines.h"
+#include "shell/theme.h"
+
+namespace morlek {
+namespace {
+
+QString ObjectNameOf(Column column, int row) {
+  return QString("Text%1(%2)").arg(static_cast<int>(column)).arg(row);
+}
+
+QString AccessibleNameOf(const GridColumn& column, int row) {
+  const int number = IsPitcher(row) ? row - kBatterCount + 1 : row + 1;
+  return QString("%1, %2 %3")
+      .arg(FromCodePage(column.meaning), IsPitcher(row) ? "pitcher" : "batter")
+      .arg(number);
+}
+
+}  // namespace
+
+RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
+    : QLineEdit(parent), column_(column.column), row_(row) {
+  setObjectName(ObjectNameOf(column.column, row));
+  setAccessibleName(AccessibleNameOf(column, row));
+  // Three digits then fit into the narrow columns.
+  setTextMargins(-2, 0, -2, 0);
+  if (column.column == Column::kText1) {
+    setTextMargins(2, 0, -2, 0);
+  } else {
+    setAlignment(Qt::AlignCenter);
+  }
+  connect(this, &QLineEdit::textChanged, this, &RosterBox::KeepToCodePage);
+}
+
+void RosterBox::PaintPanel(QPainter& painter) const {
+  const bool is_odd = (IsPitcher(row_) ? row_ - kBatterCount : row_) % 2 != 0;
+  painter.fillRect(rect(), is_odd && !hasFocus() ? theme::kOddRow : theme::kBase);
+  if (hasFocus()) {
+    FrameSnapped(painter, rect(), 2, theme::kAccent);
+  } else {
+    FrameSnapped(painter, rect(), 1, theme::kLine);
+  }
+}
+
+bool RosterBox::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (IsMenuKey(key->keyCombination())) {
+      // Unclaimed here, the key reaches the menu instead of the line editor's own commands.
+      key->ignore();
+      return false;
+    }
+  }
+  return QLineEdit::event(event);
+}
+
+void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
+  const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+  for (QAction* action : menu->actions()) {
+    // A key that belongs to the menu bar must not be promised here.
+    const QString key = action->text().section('\t', 1);
+    if (!key.isEmpty() && IsMenuKey(QKeySequence(key)[0])) {
+      action->setText(action->text().section('\t', 0, 0));
+    }
+  }
+  menu->exec(event->globalPos());
+}
+
+void RosterBox::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  raise();
+  switch (event->reason()) {
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+      return;
+    case Qt::MouseFocusReason:
+      swallowing_press_ = true;
+      break;
+    default:
+      break;
+  }
+  selectAll();
+  emit FocusReceived();
+}
+
+void RosterBox::focusOutEvent(QFocusEvent* event) {
+  swallowing_press_ = false;
+  QLineEdit::focusOutEvent(event);
+}
+
+void RosterBox::keyPressEvent(QKeyEvent* event) {
+  const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (plain && event->key() == Qt::Key_Up) {
+    emit RowStepRequested(-1);
+  } else if (plain && event->key() == Qt::Key_Down) {
+    emit RowStepRequested(+1);
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
+}
+
+void RosterBox::mousePressEvent(QMouseEvent* event) {
+  if (!swallowing_press_) QLineEdit::mousePressEvent(event);
+}
+
+void RosterBox::mouseMoveEvent(QMouseEvent* event) {
+  if (!swallowing_press_) QLineEdit::mouseMoveEvent(event);
+}
+
+void RosterBox::mouseReleaseEvent(QMouseEvent* event) {
+  if (!swallowing_press_) QLineEdit::mouseReleaseEvent(event);
+  swallowing_press_ = false;
+}
+
+void RosterBox::KeepToCodePage(const QString& text) {
+  const QString kept = FromCodePage(ToCodePage(text));
+  if (kept == text) return;
+  const int cursor = cursorPosition();
+  setText(kept);
+  setCursorPosition(cursor);
+}
+
+}  // namespace morlek

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "team/grid_columns.h"
+
+namespace morlek {
+
+/// One text box of the roster grid. Receiving the focus selects its whole text, so that typing
+/// replaces the value; characters that the code page lacks become "?" at once.
+class RosterBox : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  /// Row 0 to 24.
+  RosterBox(const GridColumn& column, int row, QWidget* parent);
+
+  [[nodiscard]] Column column() const { return column_; }
+  [[nodiscard]] int row() const { return row_; }
+
+  /// Paints the box as a cell of the sheet: neighbours share their border lines.
+  void PaintPanel(QPainter& painter) const;
+
+ signals:
+  /// The focus came by keyboard, mouse or program, not by a return from a menu or another window.
+  void FocusReceived();
+
+  /// Up (-1) or Down (+1) was pressed.
+  void RowStepRequested(int rows);
+
+ protected:
+  bool event(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void KeepToCodePage(const QString& text);
+
+  Column column_;
+  int row_;
+  // True from the mouse press that gave the focus up to its release: it must not drop the
+  // selection.
+  bool swallowing_press_ = false;
+};
+
+}  // namespace morlek

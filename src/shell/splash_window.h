@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QWidget>
+
+namespace morlek {
+
+/// The first window: one picture, which stays until a key is pressed or the picture is clicked.
+/// Closing it by its own close box ends the program, for it is then the last window.
+class SplashWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  SplashWindow();
+
+ signals:
+  void Dismissed();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace morlek

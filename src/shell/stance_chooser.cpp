@@ -1,0 +1,105 @@
+#include "shell/stance_chooser.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QPainter>
+
+#include "codecs/hex_text.h"
+#include "shell/code_page_text.h"
+#include "shell/theme.h"
+#include "shell/twips.h"
+#include "team/stance_tables.h"
+
+namespace morlek {
+namespace {
+
+constexpr int kLeft = 8;  // the narrow layout ends 3 px inside the frame, where nothing may show
+constexpr int kTop = 26;
+constexpr int kColumnStep = 52;
+constexpr int kRowStep = 43;
+constexpr QSize kPictureSize(50, 41);
+
+}  // namespace
+
+/// One picture with its code in a corner.
+class StancePicture : public QAbstractButton {
+ public:
+  StancePicture(const ChooserKind& kind, int index, std::uint8_t code, QWidget* parent)
+      : QAbstractButton(parent),
+        piece_(kind.piece),
+        code_(code),
+        code_text_(FromCodePage(ByteToText(code))) {
+    setObjectName(QString("%1(%2)").arg(kind.array_name).arg(index));
+    setAccessibleName(QString("%1 %2").arg(QString(kind.title).toLower(), code_text_));
+    setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_Hover);
+    setGeometry(QRect(QPoint(kLeft + kColumnStep * (index / kPictureRows),
+                             kTop + kRowStep * (index % kPictureRows)),
+                      kPictureSize));
+  }
+
+  [[nodiscard]] std::uint8_t code() const { return code_; }
+  [[nodiscard]] const QString& code_text() const { return code_text_; }
+
+  void SetMarked(bool marked) {
+    if (marked_ == marked) return;
+    marked_ = marked;
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    constexpr qreal kRadius = 4;
+    constexpr int kCodePixels = 9;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+
+    const bool lit = marked_ || underMouse();
+    const qreal line = marked_ ? 2 : 1;
+    painter.setPen(QPen(lit ? theme::kAccent : theme::kLine, line));
+    painter.setBrush(marked_ || isDown() ? theme::kHover : theme::kBase);
+    const QRectF tile = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
+    painter.drawRoundedRect(tile, kRadius, kRadius);
+
+    PaintPiece(painter, QRectF(2, 1, height() - 2, height() - 2), piece_, code_);
+
+    painter.setPen(marked_ ? theme::kAccent : theme::kHeaderText);
+    painter.setFont(theme::Font(kCodePixels, marked_ ? QFont::Bold : QFont::Normal));
+    painter.drawText(QRectF(rect()).adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
+                     code_text_);
+  }
+
+ private:
+  StancePiece piece_;
+  std::uint8_t code_;
+  QString code_text_;
+  bool marked_ = false;
+};
+
+StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent) : QFrame(parent) {
+  constexpr int kTitlePixels = 12;
+  setObjectName(kind.frame_name);
+  setAccessibleName(QString("%1 chooser").arg(QString(kind.title).toLower()));
+
+  auto* title = new QLabel(kind.title, this);
+  title->setObjectName(kind.label_name);
+  title->setAccessibleName(kind.title);
+  title->setToolTip(kind.tool_tip);
+  title->setFont(theme::Font(kTitlePixels, QFont::Bold));
+  title->move(kLeft, 5);
+
+  for (int index = 0; index < kind.pictures; ++index) {
+    const std::optional<std::uint8_t> code = kind.code_of_index(index);
+    if (!code) continue;
+    auto* picture = new StancePicture(kind, index, *code, this);
+    pictures_.push_back(picture);
+    connect(picture, &QAbstractButton::clicked, this,
+            [this, picture] { emit CodePicked(picture->code_text()); });
+  }
+}
+
+void StanceChooser::Mark(std::optional<std::uint32_t> code) {
+  for (StancePicture* picture : pictures_) picture->SetMarked(code == picture->code());
+}
+
+}  // namespace morlek

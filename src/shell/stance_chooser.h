@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QFrame>
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "shell/art/stance_figure.h"
+
+namespace morlek {
+
+class StancePicture;
+
+/// What makes one chooser out of the other two.
+struct ChooserKind {
+  StancePiece piece;
+  const char* frame_name;
+  const char* array_name;
+  const char* label_name;
+  const char* title;
+  const char* tool_tip;
+  int pictures;  // indices are below this; not every index has a picture
+  std::optional<std::uint8_t> (*code_of_index)(int index);
+};
+
+/// A frame of pictures to choose a face, body or legs from.
+class StanceChooser : public QFrame {
+  Q_OBJECT
+
+ public:
+  StanceChooser(const ChooserKind& kind, QWidget* parent);
+
+  /// Marks the picture of this code and no other.
+  void Mark(std::optional<std::uint32_t> code);
+
+ signals:
+  /// A picture was clicked; the text is its code in hexadecimal without a leading zero.
+  void CodePicked(const QString& code_text);
+
+ private:
+  std::vector<StancePicture*> pictures_;
+};
+
+}  // namespace morlek

@@ -1,0 +1,77 @@
+#include "shell/stance_panel.h"
+
+#include "codecs/hex_text.h"
+#include "shell/code_page_text.h"
+#include "shell/stance_chooser.h"
+#include "shell/stance_view.h"
+#include "shell/twips.h"
+#include "team/stance_tables.h"
+
+namespace morlek {
+namespace {
+
+constexpr int kWidth = 222;
+constexpr int kHeight = 653;
+constexpr QRect kViewArea(8, 546, 206, 103);
+
+constexpr std::array<Column, 3> kFeatures = {Column::kText12, Column::kText13, Column::kText14};
+
+constexpr std::array<ChooserKind, 3> kKinds = {{
+    {StancePiece::kFace, "Frame2", "Picture1", "Label1", "Face",
+     "This will edit the skin color and facial features of a player but not hair color. Click to "
+     "make selection.",
+     48, FaceOrBodyCode},
+    {StancePiece::kBody, "Frame3", "Picture2", "Label2", "Body", "", 48, FaceOrBodyCode},
+    {StancePiece::kLegs, "Frame4", "Picture3", "Label5", "Legs", "", 48, LegsCode},
+}};
+
+}  // namespace
+
+StancePanel::StancePanel(RosterGrid& grid, QWidget* parent) : QWidget(parent), grid_(grid) {
+  setObjectName("StancePanel");
+  setAccessibleName("batting stance choosers");
+  setGeometry(FromTwips(6660), 0, kWidth, kHeight);
+  for (std::size_t place = 0; place < kKinds.size(); ++place) AddChooser(place);
+  view_ = new StanceView(this);
+  view_->setGeometry(kViewArea);
+  ShowStanceRow();
+}
+
+bool StancePanel::IsFeature(Column column) {
+  return column == kFeatures[0] || column == kFeatures[1] || column == kFeatures[2];
+}
+
+void StancePanel::Choose(Column column, int row) {
+  stance_row_ = row;
+  for (std::size_t place = 0; place < choosers_.size(); ++place) {
+    choosers_.at(place)->setVisible(kFeatures.at(place) == column);
+  }
+  ShowStanceRow();
+}
+
+void StancePanel::Follow(int row) {
+  if (row == stance_row_) ShowStanceRow();
+}
+
+void StancePanel::AddChooser(std::size_t place) {
+  auto* chooser = new StanceChooser(kKinds.at(place), this);
+  chooser->setGeometry(0, 0, kWidth, kViewArea.top());
+  chooser->hide();
+  connect(chooser, &StanceChooser::CodePicked, this, [this, place](const QString& code_text) {
+    grid_.SetText(kFeatures.at(place), stance_row_, ToCodePage(code_text));
+  });
+  choosers_.at(place) = chooser;
+}
+
+void StancePanel::ShowStanceRow() {
+  const auto code_of = [this](Column column) {
+    return HexDigitsToNumber(grid_.Text(column, stance_row_));
+  };
+  for (std::size_t place = 0; place < choosers_.size(); ++place) {
+    choosers_.at(place)->Mark(code_of(kFeatures.at(place)));
+  }
+  view_->ShowPlayer(FromCodePage(grid_.Text(Column::kText1, stance_row_)),
+                    {code_of(kFeatures[0]), code_of(kFeatures[1]), code_of(kFeatures[2])});
+}
+
+}  // namespace morlek

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QRect>
+
+namespace morlek {
+
+/// Window geometry is given in twips, 1/1440 inch; 15 of them are one logical pixel at every scale.
+[[nodiscard]] constexpr int FromTwips(int twips) { return twips / 15; }
+
+[[nodiscard]] constexpr QRect RectFromTwips(int left, int top, int width, int height) {
+  return {FromTwips(left), FromTwips(top), FromTwips(width), FromTwips(height)};
+}
+
+}  // namespace morlek

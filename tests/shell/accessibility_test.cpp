@@ -1,0 +1,52 @@
+#include <QAccessible>
+#include <QMenu>
+
+#include "shell/splash_window.h"
+#include "shell/window_fixture.h"
+
+namespace morlek {
+namespace {
+
+/// Every control below `widget` that has no name or role to tell.
+void CollectNameless(const QWidget& widget, QStringList& nameless) {
+  // What the toolkit puts into a control of ours speaks through that control.
+  if (widget.objectName().startsWith("qt_")) return;
+  // So is the menu bar's own menu for items that find no room, which has no title.
+  const auto* menu = qobject_cast<const QMenu*>(&widget);
+  if (menu != nullptr && menu->title().isEmpty()) return;
+  QAccessibleInterface* accessible =
+      QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget));
+  if (accessible == nullptr || accessible->text(QAccessible::Name).isEmpty() ||
+      accessible->role() == QAccessible::NoRole) {
+    nameless << QString("%1 '%2'").arg(widget.metaObject()->className(), widget.objectName());
+  }
+  for (const QObject* child : widget.children()) {
+    if (child->isWidgetType()) CollectNameless(*qobject_cast<const QWidget*>(child), nameless);
+  }
+}
+
+class AccessibilityTest : public WindowTest {};
+
+TEST_F(AccessibilityTest, EveryControlHasANameAndARole) {
+  StartWithTeam();
+  Box(12, 0).setFocus();
+  QStringList nameless;
+  CollectNameless(*window, nameless);
+  const SplashWindow splash;
+  CollectNameless(splash, nameless);
+  EXPECT_TRUE(nameless.isEmpty()) << nameless.join('\n').toStdString();
+}
+
+TEST_F(AccessibilityTest, NamesTellTheCellAndThePlayer) {
+  StartWithTeam();
+  EXPECT_EQ(Box(3, 2).accessibleName(), "uniform number, batter 3");
+  EXPECT_EQ(Box(9, 14).accessibleName(), "batting average, batter 15");
+  EXPECT_EQ(Box(9, 15).accessibleName(), "earned run average, pitcher 1");
+  EXPECT_EQ(Box(10, 24).accessibleName(), "losses, pitcher 10");
+  EXPECT_EQ(Find("Picture1(28)").accessibleName(), "face 22");
+  EXPECT_EQ(Find("Picture3(2)").accessibleName(), "legs 13");
+  EXPECT_EQ(Find("Braves").accessibleName(), "ATLANTA BRAVES");
+}
+
+}  // namespace
+}  // namespace morlek

@@ -1,0 +1,108 @@
+#include "shell/dialog_user.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include "shell/window_fixture.h"
+
+namespace morlek {
+namespace {
+
+/// The real dialogs, each answered from the event loop that it runs.
+class DialogUserTest : public ::testing::Test {
+ protected:
+  /// Does something with the next modal dialog once it is up.
+  template <typename Dialog, typename Answer>
+  void AnswerNext(Answer answer) {
+    timer_.callOnTimeout([this, answer] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      timer_.stop();
+      timer_.disconnect();
+      answer(*dialog);
+    });
+    timer_.start(10);
+  }
+
+  static void TypeNameAndAccept(QFileDialog& dialog, const QString& name) {
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+    dialog.findChild<QDialogButtonBox*>()
+        ->button(dialog.acceptMode() == QFileDialog::AcceptOpen ? QDialogButtonBox::Open
+                                                                : QDialogButtonBox::Save)
+        ->click();
+  }
+
+  DialogUser user;
+  TempDir folder;
+
+ private:
+  QTimer timer_;
+};
+
+TEST_F(DialogUserTest, OpenDialogGivesThePathAndLaterOnesStartInItsFolder) {
+  PutFile(folder / "game.smc", std::string("x"));
+  const QString path = PathText(folder / "game.smc");
+  QString title;
+  QStringList filters;
+  AnswerNext<QFileDialog>([&](QFileDialog& dialog) {
+    title = dialog.windowTitle();
+    filters = dialog.nameFilters();
+    EXPECT_EQ(dialog.objectName(), "CommonDialog1");
+    TypeNameAndAccept(dialog, path);
+  });
+  EXPECT_EQ(user.AskOpenPath({"Some title", "SNES File (*.smc)|*.smc"}), path);
+  EXPECT_EQ(title, "Some title");
+  EXPECT_EQ(filters, QStringList("SNES File (*.smc)"));
+
+  AnswerNext<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory().absolutePath(), QFileInfo(path).absolutePath());
+    dialog.reject();
+  });
+  EXPECT_EQ(user.AskOpenPath({"Another", "SNES File (*.smc)|*.smc"}), std::nullopt);
+}
+
+TEST_F(DialogUserTest, SaveDialogReplacesWithoutAskingAndAddsNoExtension) {
+  PutFile(folder / "team", std::string("old"));
+  const QString path = PathText(folder / "team");
+  AnswerNext<QFileDialog>([&](QFileDialog& dialog) { TypeNameAndAccept(dialog, path); });
+  EXPECT_EQ(user.AskSavePath({"Save", "Morlek Team Data File (*.txt)|*.txt"}), path);
+}
+
+TEST_F(DialogUserTest, QuestionHasYesAndNoWithNoAsDefault) {
+  for (const bool yes : {true, false}) {
+    AnswerNext<QMessageBox>([yes](QMessageBox& box) {
+      EXPECT_EQ(box.text(), "Sure?\n\nIf not then click NO.");
+      EXPECT_EQ(box.windowTitle(), "Title");
+      EXPECT_EQ(box.icon(), QMessageBox::Question);
+      EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+      EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+      EXPECT_TRUE(box.button(QMessageBox::No)->icon().isNull());
+      if (yes) {
+        box.button(QMessageBox::Yes)->click();
+      } else {
+        QTest::keyClick(&box, Qt::Key_Escape);
+      }
+    });
+    EXPECT_EQ(user.AskYesNo("Sure?\n\nIf not then click NO.", "Title"), yes);
+  }
+}
+
+TEST_F(DialogUserTest, MessageIsPlainTextWithAnOkButton) {
+  for (const auto icon : {Message::Icon::kNone, Message::Icon::kCritical}) {
+    AnswerNext<QMessageBox>([icon](QMessageBox& box) {
+      EXPECT_EQ(box.text(), "<b>12G</b>");
+      EXPECT_EQ(box.textFormat(), Qt::PlainText);
+      EXPECT_EQ(box.icon(),
+                icon == Message::Icon::kNone ? QMessageBox::NoIcon : QMessageBox::Critical);
+      EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+      box.accept();
+    });
+    user.ShowMessage("<b>12G</b>", "Title", icon);
+  }
+}
+
+}  // namespace
+}  // namespace morlek

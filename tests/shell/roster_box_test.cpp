@@ -1,0 +1,89 @@
+#include <QClipboard>
+
+#include "shell/window_fixture.h"
+
+namespace morlek {
+namespace {
+
+class RosterBoxTest : public WindowTest {
+ protected:
+  void Paste(QLineEdit& box, const QString& text) {
+    QApplication::clipboard()->setText(text);
+    QTest::mouseClick(&box, Qt::LeftButton);
+    box.paste();
+  }
+};
+
+TEST_F(RosterBoxTest, FocusSelectsTheWholeText) {
+  StartWithTeam();
+  for (int column = 1; column <= 14; ++column) {
+    QLineEdit& box = Box(column, 20);
+    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(3, 10));
+    EXPECT_EQ(box.selectedText(), box.text()) << "column " << column;
+  }
+  QTest::keyClick(&Box(14, 20), Qt::Key_Tab);
+  EXPECT_EQ(Box(1, 21).selectedText(), Box(1, 21).text());
+}
+
+TEST_F(RosterBoxTest, SecondClickPlacesTheCursor) {
+  StartWithTeam();
+  QLineEdit& box = Box(1, 0);
+  QTest::mouseClick(&box, Qt::LeftButton);
+  EXPECT_TRUE(box.hasSelectedText());
+  QTest::mouseClick(&box, Qt::LeftButton);
+  EXPECT_FALSE(box.hasSelectedText());
+}
+
+TEST_F(RosterBoxTest, ReturnFromAMenuOrAnotherWindowDoesNotSelectAgain) {
+  StartWithTeam();
+  QLineEdit& box = Box(1, 0);
+  for (const Qt::FocusReason reason :
+       {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason, Qt::MenuBarFocusReason}) {
+    box.setFocus();
+    box.setSelection(1, 2);
+    QFocusEvent out(QEvent::FocusOut, reason);
+    QFocusEvent in(QEvent::FocusIn, reason);
+    QApplication::sendEvent(&box, &out);
+    QApplication::sendEvent(&box, &in);
+    EXPECT_NE(box.selectedText(), box.text()) << reason;
+  }
+}
+
+TEST_F(RosterBoxTest, CharactersThatTheCodePageLacksBecomeQuestionMarks) {
+  StartWithTeam();
+  QLineEdit& box = Box(1, 0);
+  Paste(box, QString::fromUtf8("J.Žö€中文😀"));
+  EXPECT_EQ(box.text(), QString::fromUtf8("J.Žö€???"));
+  QTest::mouseClick(&Box(1, 1), Qt::LeftButton);
+  QTest::sendKeyEvent(QTest::Click, &Box(1, 1), Qt::Key_unknown, QString::fromUtf8("ж"),
+                      Qt::NoModifier);
+  EXPECT_EQ(Box(1, 1).text(), "?");
+}
+
+TEST_F(RosterBoxTest, TextsOfEveryWayReachTheSave) {
+  StartWithTeam();
+  // Typed, pasted, cut, undone, and set by an assistive tool.
+  TypeInto(10, 0, "7");
+  Paste(Box(10, 1), "8");
+  Box(10, 2).setFocus();
+  Box(10, 2).cut();
+  TypeInto(10, 3, "9");
+  Box(10, 3).undo();
+  Box(10, 4).setText("11");
+  Click("Command1");
+  const std::string image = GetFile(ImageFile());
+  const auto home_runs = [&image](int row) {
+    return static_cast<int>(image.at(static_cast<std::size_t>(kBraves - 1 + 32 * row + 26)));
+  };
+  const auto before = [](int row) {
+    return static_cast<int>(Sample().at(static_cast<std::size_t>(kBraves - 1 + 32 * row + 26)));
+  };
+  EXPECT_EQ(home_runs(0), 7);
+  EXPECT_EQ(home_runs(1), 8);
+  EXPECT_EQ(home_runs(2), before(2)) << "an empty cell is not written";
+  EXPECT_EQ(home_runs(3), before(3));
+  EXPECT_EQ(home_runs(4), 11);
+}
+
+}  // namespace
+}  // namespace morlek

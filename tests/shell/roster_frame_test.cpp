@@ -1,0 +1,88 @@
+#include <QPushButton>
+
+#include "shell/window_fixture.h"
+
+namespace morlek {
+namespace {
+
+class RosterFrameTest : public WindowTest {};
+
+TEST_F(RosterFrameTest, StandsAtTheStatedPlaces) {
+  Start(ImagePath());
+  struct Place {
+    const char* name;
+    QRect rect;
+  };
+  // Twips divided by 15.
+  const std::vector<Place> places = {
+      {"Frame1", {4, 48, 437, 601}},      {"Text1(0)", {0, 56, 109, 21}},
+      {"Text2(14)", {108, 336, 25, 21}},  {"Text9(0)", {276, 56, 33, 21}},
+      {"Text11(1)", {332, 76, 29, 21}},   {"Text14(0)", {408, 56, 25, 21}},
+      {"Text1(15)", {0, 384, 109, 21}},   {"Text9(15)", {180, 384, 33, 21}},
+      {"Text5(16)", {212, 404, 25, 21}},  {"Text8(15)", {284, 384, 25, 21}},
+      {"Text11(24)", {332, 564, 25, 21}}, {"Text14(24)", {404, 564, 25, 21}},
+      {"Label4(1)", {0, 32, 109, 24}},    {"Label4(14)", {408, 32, 25, 24}},
+      {"Label4(19)", {180, 360, 33, 24}}, {"Label4(28)", {404, 360, 25, 24}},
+  };
+  for (const Place& place : places)
+    EXPECT_EQ(Find(place.name).geometry(), place.rect) << place.name;
+  EXPECT_EQ(Find("Label4(0)").pos(), QPoint(0, 4));
+  EXPECT_EQ(Find("Command1").pos(), QPoint(280, 4));
+  EXPECT_EQ(window->width(), 447);
+}
+
+TEST_F(RosterFrameTest, HeadersNameTheColumns) {
+  Start(ImagePath());
+  const QStringList captions = {"P.NAME", "P",  "#",  "B", "Bt",     "Po", "Sp", "Fd", "AVG", "HR",
+                                "RBI",    "F",  "Bo", "L", "P.NAME", "P",  "#",  "TH", "ERA", "Sp",
+                                "Co",     "Fa", "W",  "L", "S",      "F",  "Bo", "L"};
+  for (int index = 1; index <= 28; ++index) {
+    EXPECT_EQ(LabelText(QString("Label4(%1)").arg(index)), captions[index - 1]) << index;
+  }
+}
+
+TEST_F(RosterFrameTest, TabGoesAlongARowAndThenToTheNext) {
+  StartWithTeam();
+  Box(4, 14).setFocus();
+  const QStringList expected = {
+      "Text5(14)",  "Text6(14)",  "Text7(14)",  "Text8(14)",  "Text9(14)", "Text10(14)",
+      "Text11(14)", "Text12(14)", "Text13(14)", "Text14(14)", "Text1(15)", "Text2(15)",
+      "Text3(15)",  "Text4(15)",  "Text9(15)",  "Text5(15)",  "Text6(15)"};
+  for (const QString& name : expected) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
+  }
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "Text5(15)");
+}
+
+TEST_F(RosterFrameTest, UpAndDownKeepThePlaceInTheRow) {
+  StartWithTeam();
+  Box(5, 14).setFocus();
+  QTest::keyClick(&Box(5, 14), Qt::Key_Down);
+  EXPECT_EQ(QApplication::focusWidget(), &Box(9, 15));
+  QTest::keyClick(&Box(9, 15), Qt::Key_Up);
+  EXPECT_EQ(QApplication::focusWidget(), &Box(5, 14));
+  EXPECT_EQ(Box(5, 14).selectedText(), Box(5, 14).text());
+  Box(1, 0).setFocus();
+  QTest::keyClick(&Box(1, 0), Qt::Key_Up);
+  EXPECT_EQ(QApplication::focusWidget(), &Box(1, 0));
+  Box(14, 24).setFocus();
+  QTest::keyClick(&Box(14, 24), Qt::Key_Down);
+  EXPECT_EQ(QApplication::focusWidget(), &Box(14, 24));
+}
+
+TEST_F(RosterFrameTest, EachTeamButtonLoadsItsTeam) {
+  Start(ImagePath());
+  Click("Red Sox");
+  EXPECT_EQ(LabelText("Label4(0)"), "BOSTON RED SOX");
+  const QString red_sox = Box(1, 0).text();
+  Click("Blue Jays");
+  EXPECT_EQ(LabelText("Label4(0)"), "TORONTO BLUE JAYS");
+  EXPECT_NE(Box(1, 0).text(), red_sox);
+  EXPECT_EQ(Find("Toolbar1").findChildren<QWidget*>().size(), 28);
+  EXPECT_EQ(Find("Red Sox").toolTip(), "Red Sox");
+}
+
+}  // namespace
+}  // namespace morlek

@@ -1,0 +1,96 @@
+#include "shell/window_fixture.h"
+
+namespace morlek {
+namespace {
+
+class StancePanelTest : public WindowTest {
+ protected:
+  static QString Picture(int array, int index) {
+    return QString("Picture%1(%2)").arg(array).arg(index);
+  }
+
+  [[nodiscard]] QImage Look(const QString& name) const { return Find(name).grab().toImage(); }
+};
+
+TEST_F(StancePanelTest, EveryPicturePutsItsCodeIntoTheStanceRow) {
+  StartWithTeam();
+  const QStringList texts = {"0", "4", "10", "14", "20", "24", "30", "34", "40", "44", "50", "54",
+                             "1", "5", "11", "15", "21", "25", "31", "35", "41", "45", "51", "55",
+                             "2", "6", "12", "16", "22", "26", "32", "36", "42", "46", "52", "56",
+                             "3", "7", "13", "17", "23", "27", "33", "37", "43", "47", "53", "57"};
+  for (int index = 0; index < 48; ++index) {
+    Box(12, 17).setFocus();
+    Click(Picture(1, index));
+    EXPECT_EQ(Box(12, 17).text(), texts[index]) << index;
+    Box(13, 17).setFocus();
+    Click(Picture(2, index));
+    EXPECT_EQ(Box(13, 17).text(), texts[index]) << index;
+  }
+  const std::vector<std::pair<int, QString>> legs = {{0, "0"},  {12, "1"},  {24, "2"},  {36, "3"},
+                                                     {1, "4"},  {13, "10"}, {25, "11"}, {37, "12"},
+                                                     {2, "13"}, {14, "14"}};
+  Box(14, 17).setFocus();
+  for (const auto& [index, text] : legs) {
+    Click(Picture(3, index));
+    EXPECT_EQ(Box(14, 17).text(), text) << index;
+  }
+  EXPECT_EQ(Find("Frame4").findChildren<QWidget*>(QRegularExpression("^Picture3")).size(), 10);
+}
+
+TEST_F(StancePanelTest, PickingMovesNothingAndSavesOnlyWithSave) {
+  StartWithTeam();
+  Box(12, 17).setFocus();
+  Click(Picture(1, 36));
+  EXPECT_EQ(QApplication::focusWidget(), &Box(12, 17));
+  EXPECT_TRUE(IsShown("Frame2"));
+  EXPECT_TRUE(ChangedPositions().empty());
+  Click("Command1");
+  EXPECT_EQ(GetFile(ImageFile()).at(kBraves - 1 + 32 * 17 + 14), 0x03);
+}
+
+TEST_F(StancePanelTest, ThreeColumnsShareTheStanceRow) {
+  StartWithTeam();
+  // Before any visit it is the first row.
+  Find("Frame3").show();
+  QTest::mouseClick(&Find(Picture(2, 47)), Qt::LeftButton);
+  EXPECT_EQ(Box(13, 0).text(), "57");
+
+  Box(12, 4).setFocus();
+  Box(1, 9).setFocus();
+  Find("Frame3").show();
+  Click(Picture(2, 11));
+  EXPECT_EQ(Box(13, 4).text(), "54");
+}
+
+TEST_F(StancePanelTest, SkinToolTipStandsOnTheFaceTitle) {
+  Start(ImagePath());
+  EXPECT_EQ(Find("Label1").toolTip(),
+            "This will edit the skin color and facial features of a player but not hair color. "
+            "Click to make selection.");
+}
+
+TEST_F(StancePanelTest, CurrentPictureIsMarkedAndTheStanceFollows) {
+  StartWithTeam();
+  TypeInto(12, 2, "10");
+  const QImage unmarked = Look(Picture(1, 36));
+  const QImage stance = Look("StanceView");
+  TypeInto(12, 2, "3");
+  EXPECT_NE(Look(Picture(1, 36)), unmarked);
+  EXPECT_NE(Look("StanceView"), stance);
+
+  // Codes without a picture mark none and leave their piece blank, whatever was there before.
+  TypeInto(12, 2, "F0");
+  EXPECT_EQ(Look(Picture(1, 36)), unmarked);
+  const QImage without_face = Look("StanceView");
+  TypeInto(12, 2, "zz");
+  EXPECT_EQ(Look("StanceView"), without_face);
+
+  TypeInto(1, 2, "N.NEW");
+  EXPECT_NE(Look("StanceView"), without_face) << "the name is part of it";
+  const QImage now = Look("StanceView");
+  TypeInto(1, 3, "N.OTHER");
+  EXPECT_EQ(Look("StanceView"), now) << "another row is not";
+}
+
+}  // namespace
+}  // namespace morlek

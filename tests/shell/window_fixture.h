@@ -1,0 +1,114 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "sample_image.h"
+#include "shell/main_window.h"
+#include "support/scripted_user.h"
+#include "support/temp_dir.h"
+
+namespace morlek {
+
+[[nodiscard]] inline QString PathText(const std::filesystem::path& path) {
+  return QString::fromStdU16String(path.u16string());
+}
+
+/// The real main window over real files, with a scripted user.
+class WindowTest : public ::testing::Test {
+ protected:
+  static constexpr int kBraves = 1278465;
+
+  WindowTest() { PutFile(ImageFile(), Sample()); }
+
+  static const std::vector<std::uint8_t>& Sample() {
+    static const std::vector<std::uint8_t> sample = MakeSampleImage();
+    return sample;
+  }
+
+  [[nodiscard]] std::filesystem::path ImageFile() const { return folder / "game.smc"; }
+  [[nodiscard]] QString ImagePath() const { return PathText(ImageFile()); }
+  [[nodiscard]] QString PathOf(std::string_view name) const { return PathText(folder / name); }
+
+  /// Shows the window and answers its first dialog.
+  void Start(const std::optional<QString>& first_answer) {
+    user.paths.push_back(first_answer);
+    window = std::make_unique<MainWindow>(user);
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !user.open_questions.empty(); }));
+  }
+
+  void StartWithTeam(const char* key = "Braves") {
+    Start(ImagePath());
+    Click(key);
+  }
+
+  template <typename Widget = QWidget>
+  [[nodiscard]] Widget& Find(const QString& name) const {
+    auto* widget = window->findChild<Widget*>(name);
+    if (widget == nullptr) throw std::invalid_argument("no " + name.toStdString());
+    return *widget;
+  }
+
+  [[nodiscard]] QLineEdit& Box(int column, int row) const {
+    return Find<QLineEdit>(QString("Text%1(%2)").arg(column).arg(row));
+  }
+  [[nodiscard]] QString LabelText(const QString& name) const { return Find<QLabel>(name).text(); }
+  [[nodiscard]] bool IsShown(const QString& name) const { return Find(name).isVisible(); }
+
+  void Click(const QString& name) { QTest::mouseClick(&Find(name), Qt::LeftButton); }
+  void DoubleClick(QWidget& widget) { QTest::mouseDClick(&widget, Qt::LeftButton); }
+  void Choose(const QString& menu_item) { Find<QAction>(menu_item).trigger(); }
+
+  /// Clicks a box, which selects its text if it had no focus yet, and types over it.
+  void TypeInto(int column, int row, const QString& text) {
+    QLineEdit& box = Box(column, row);
+    if (box.hasFocus()) box.selectAll();
+    if (!box.hasFocus()) QTest::mouseClick(&box, Qt::LeftButton);
+    QTest::keyClicks(&box, text);
+  }
+
+  /// All 350 texts.
+  [[nodiscard]] std::vector<QString> GridTexts() const {
+    std::vector<QString> texts;
+    for (int row = 0; row < 25; ++row) {
+      for (int column = 1; column <= 14; ++column) texts.push_back(Box(column, row).text());
+    }
+    return texts;
+  }
+
+  /// Where the image file differs from the sample, as 1-based positions.
+  [[nodiscard]] std::vector<std::size_t> ChangedPositions() const {
+    const std::string now = GetFile(ImageFile());
+    EXPECT_EQ(now.size(), Sample().size());
+    std::vector<std::size_t> positions;
+    for (std::size_t place = 0; place < std::min(now.size(), Sample().size()); ++place) {
+      if (static_cast<std::uint8_t>(now[place]) != Sample()[place]) positions.push_back(place + 1);
+    }
+    return positions;
+  }
+
+  void ExpectTold(const QString& text, const QString& title = "MORLEK EDITOR",
+                  Message::Icon icon = Message::Icon::kNone) {
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages.front(), (ScriptedUser::Told{text, title, icon}))
+        << user.messages.front().text.toStdString();
+    user.messages.clear();
+  }
+
+  TempDir folder;
+  ScriptedUser user;
+  std::unique_ptr<MainWindow> window;
+};
+
+}  // namespace morlek

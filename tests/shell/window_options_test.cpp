@@ -1,0 +1,129 @@
+#include <QPlainTextEdit>
+#include <QWindow>
+
+#include "shell/window_fixture.h"
+
+namespace morlek {
+namespace {
+
+constexpr int kNarrow = 447;
+constexpr int kWide = 666;
+
+class WindowOptionsTest : public WindowTest {};
+
+TEST_F(WindowOptionsTest, FeaturesBoxesWidenTheWindowAndShowTheirChooser) {
+  StartWithTeam();
+  const std::vector<std::pair<int, QString>> choosers = {
+      {12, "Frame2"}, {13, "Frame3"}, {14, "Frame4"}};
+  for (const auto& [column, shown] : choosers) {
+    Choose("mnuMini");
+    EXPECT_EQ(window->width(), kNarrow);
+    Box(column, 16).setFocus();
+    EXPECT_EQ(window->width(), kWide);
+    for (const auto& [other, frame] : choosers) EXPECT_EQ(IsShown(frame), frame == shown) << column;
+    EXPECT_EQ(Find(shown).mapTo(window->centralWidget(), QPoint(0, 0)).x(), 444);
+  }
+  Box(11, 16).setFocus();
+  EXPECT_EQ(window->width(), kWide) << "only an action sets a width";
+}
+
+TEST_F(WindowOptionsTest, NarrowingKeepsTheChooserForTheNextWidening) {
+  StartWithTeam();
+  EXPECT_FALSE(IsShown("Frame2") || IsShown("Frame3") || IsShown("Frame4"));
+  Box(13, 2).setFocus();
+  Choose("mnuMini");
+  EXPECT_FALSE(Find("Frame3").isHidden());
+  Box(14, 2).setFocus();
+  Click("Cubs");
+  EXPECT_EQ(window->width(), kNarrow);
+  EXPECT_FALSE(Find("Frame4").isHidden());
+  EXPECT_TRUE(Find("Frame3").isHidden());
+}
+
+TEST_F(WindowOptionsTest, NothingOfAChooserShowsInTheNarrowLayout) {
+  StartWithTeam();
+  const QImage before = window->grab().toImage();
+  Box(12, 2).setFocus();
+  Choose("mnuMini");
+  Box(1, 2).setFocus();
+  const QImage after = window->grab().toImage();
+  ASSERT_EQ(after.size(), before.size());
+  const QRect strip(after.width() - 6, 0, 6, after.height());
+  EXPECT_EQ(after.copy(strip), before.copy(strip));
+}
+
+TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
+  StartWithTeam();
+  QTest::mouseClick(&Box(13, 3), Qt::LeftButton);
+  Choose("mnuMini");
+  EXPECT_FALSE(IsShown("Frame5"));
+  Choose("mnuMorlekHELP");
+  Choose("mnuMorlekHELP");
+  EXPECT_TRUE(IsShown("Frame5"));
+  EXPECT_EQ(Find("Frame5").geometry(), QRect(0, 0, 441, 633));
+  EXPECT_EQ(Find("Text15").geometry(), QRect(4, 4, 433, 625));
+
+  auto& help = Find<QPlainTextEdit>("Text15");
+  QTest::mouseClick(help.viewport(), Qt::LeftButton);
+  QTest::keyClick(&help, Qt::Key_Escape);
+  QTest::keyClicks(&help, "x");
+  EXPECT_TRUE(IsShown("Frame5"));
+  DoubleClick(*help.viewport());
+  EXPECT_FALSE(IsShown("Frame5"));
+  EXPECT_EQ(QApplication::focusWidget(), &Box(13, 3));
+  EXPECT_EQ(window->width(), kNarrow) << "closing the help is no visit to a features box";
+}
+
+TEST_F(WindowOptionsTest, HelpTellsItsTopicsInOrder) {
+  Start(ImagePath());
+  const QString text = Find<QPlainTextEdit>("Text15").toPlainText();
+  const QStringList topics = {"::::::::::::::\nMORLEK EDITOR\n::::::::::::::\n",
+                              "\n\n\nINTRODUCTION\n----",
+                              "\nKNOWN BUGS\n----",
+                              "backup copy",
+                              "\nHOW TO USE\n----",
+                              "\nUsing the Morlek Editor is simple.\n",
+                              "\nOPEN A ROM-",
+                              "\nSELECT A TEAM-",
+                              "\nEDIT PLAYER NUMBER-",
+                              "\nEDIT PLAYER NAME-",
+                              "\nEDIT BATTING STANCE-",
+                              "\nSAVE EDITS-",
+                              "\nFILE MENU-",
+                              "\nOptions Menu-",
+                              "the close button at the bottom",
+                              "\nIMPORT TEAM DATA-",
+                              "\nEXPORT TEAM DATA-",
+                              "\nMINIMIZE PLAYER FEATURES-",
+                              "\nALWAYS ON TOP-",
+                              "\n\n\nDOUBLE CLICK TO CLOSE HELP"};
+  qsizetype from = 0;
+  for (const QString& topic : topics) {
+    const qsizetype found = text.indexOf(topic, from);
+    EXPECT_GE(found, from) << topic.toStdString();
+    from = std::max(from, found);
+  }
+  EXPECT_TRUE(text.endsWith("DOUBLE CLICK TO CLOSE HELP"));
+}
+
+TEST_F(WindowOptionsTest, OnTopIsTurnedOnAndOffInPlace) {
+  StartWithTeam();
+  const auto* native = window->windowHandle();
+  const WId id = window->winId();
+  const auto is_on_top = [&] { return native->flags().testFlag(Qt::WindowStaysOnTopHint); };
+  auto& on = Find<QAction>("mnuAlwaysOnTop");
+  auto& off = Find<QAction>("mnuNotTop");
+  EXPECT_TRUE(on.isVisible() && !off.isVisible());
+
+  on.trigger();
+  EXPECT_TRUE(is_on_top());
+  EXPECT_TRUE(!on.isVisible() && off.isVisible());
+  off.trigger();
+  EXPECT_FALSE(is_on_top());
+  EXPECT_TRUE(on.isVisible() && !off.isVisible());
+  EXPECT_EQ(window->windowHandle(), native) << "the window was made anew";
+  EXPECT_EQ(window->winId(), id);
+}
+
+}  // namespace
+}  // namespace morlek
