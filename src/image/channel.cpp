@@ -104,7 +104,7 @@ bool Channel::Open(const std::filesystem::path& path, Mode mode, std::ios_base::
 
 bool Channel::Seek(std::int64_t position) {
   const std::streamoff offset = position - 1;
-  return std::streamoff(file_->pubseekpos(offset)) == offset;
+  return offset >= 0 && std::streamoff(file_->pubseekpos(offset)) == offset;
 }
 
 void Channel::Require(Mode mode) const {

@@ -36,7 +36,6 @@ void PaintIconBat(QPainter& painter) {
   bat.addPath(art::Taper(along(0, 2.9), along(0.5, 3.4)));
   bat.addPath(art::Taper(along(0.4, 3), along(0.72, 6.4)));
   bat.addPath(art::Taper(along(0.72, 6.4), along(1, 6.4)));
-  bat.setFillRule(Qt::WindingFill);
   art::PaintSolid(painter, bat, art::kWood, 3.4);
   art::PaintTone(painter, art::Taper(along(0.06, 2.8), along(0.3, 2.9)), art::kNavyCloth, 1);
 }

@@ -87,14 +87,12 @@ void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Ton
 void PaintFist(QPainter& painter, QPointF place, QPointF bat_way, const Outfit& outfit,
                const Tone& skin) {
   const QPainterPath fist = Taper({place - bat_way * 1.6, 4.8}, {place + bat_way * 1.8, 4.8});
-  const bool is_gloved = outfit.extras == Extras::kGloves;
-  PaintSolid(painter, fist, is_gloved ? kAccentCloth : skin, 2.4);
+  const Tone& tone = outfit.extras == Extras::kGloves ? kAccentCloth : skin;
+  PaintSolid(painter, fist, tone, 2.4);
   const QPointF across(-bat_way.y() * 3.2, bat_way.x() * 3.2);
   for (const qreal along : {-1.4, 1.6}) {
     const QPointF knuckle = place + bat_way * along;
-    QPainterPath line(knuckle - across);
-    line.lineTo(knuckle + across * 0.4);
-    PaintLine(painter, line, is_gloved ? kAccentCloth.shade : skin.shade, 1);
+    PaintLine(painter, Segment(knuckle - across, knuckle + across * 0.4), tone.shade, 1);
   }
 }
 

@@ -22,7 +22,6 @@ void PaintBat(QPainter& painter, QPointF knob, qreal angle, qreal scale) {
   bat.addPath(Taper(disc(20, 2.1), disc(36, 4.4)));
   bat.addPath(Taper(disc(36, 4.4), disc(kBatLength - 4.4, 4.4)));
   bat.addPath(Taper(disc(-0.5, 3.2), disc(0.5, 3.2)));
-  bat.setFillRule(Qt::WindingFill);
   PaintSolid(painter, bat, kWood, 2.4 * scale);
 
   const QPainterPath tape = Taper(disc(2, 2.2), disc(15, 2.2));

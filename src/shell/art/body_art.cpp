@@ -91,7 +91,9 @@ void PaintTorso(QPainter& painter, int code) {
 }
 
 void PaintArms(QPainter& painter, int code) {
-  const auto [outfit, hold] = BodyLookOf(code);
+  const BodyLook look = BodyLookOf(code);
+  const Outfit& outfit = look.outfit;
+  const BatHold& hold = look.hold;
   const Girth girth = GirthOf(outfit.build);
   const Tone skin = SkinOf(HighDigit(code));
   const QPointF direction = BatDirection(hold.angle);

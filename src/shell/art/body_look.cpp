@@ -29,7 +29,7 @@ constexpr std::array<BatHold, kLooksInClass> kHolds = {{
     // High hands, the tip tilted forward behind the helmet.
     {{-35, -48}, 64, 3, 11, {-2, -37}, {-44, -40}, true},
     // The tip drooping down the back, elbow high.
-    {{-14, -50}, 206, 3, 11, {8, -35}, {-40, -55}, false},
+    {{-14, -48}, 208, 3, 11, {8, -35}, {-42, -61}, false},
     // Low and flat at the hip.
     {{6, -12}, 178, 3, 11, {25, -22}, {-32, -27}, false},
     // Tapping the plate.

@@ -54,8 +54,7 @@ void PaintGoggles(QPainter& painter) {
 
 void PaintEyeBlack(QPainter& painter) {
   for (const QPointF& start : std::array<QPointF, 2>{{{-5, 7.2}, {13.4, 7.2}}}) {
-    PaintLine(painter, Segment(start, start + QPointF(5.4, 0)), kInk,
-              3.6);
+    PaintLine(painter, Segment(start, start + QPointF(5.4, 0)), kInk, 3.6);
   }
 }
 

@@ -45,30 +45,36 @@ void PaintBands(QPainter& painter, const LegPose& leg) {
   const QPointF across = QPointF(-shin.y(), shin.x()) / std::hypot(shin.x(), shin.y()) * 9;
   for (const qreal share : {0.42, 0.6}) {
     const QPointF middle = Between(leg.knee, leg.ankle, share);
-    PaintLine(painter, Segment(middle - across, middle + across), kWhite,
-              3);
+    PaintLine(painter, Segment(middle - across, middle + across), kWhite, 3);
+  }
+}
+
+/// A stirrup over a white sock: its upper end below the knee and the strap at the foot's side.
+void PaintStirrup(QPainter& painter, const LegPose& leg) {
+  PaintTone(painter, ShinPart(leg, 0.1, 0.42), kAccentCloth, 2);
+  const QPointF side(leg.foot_width > 0 ? 2 : -2, 0);
+  const QPointF start = Between(leg.knee, leg.ankle, 0.4);
+  PaintLine(painter, Segment(start + side, leg.ankle + side), kAccentCloth.light, 3.6);
+}
+
+Tone SockToneOf(Hose hose) {
+  switch (hose) {
+    case Hose::kStirrups:
+      return kSock;
+    case Hose::kAnkleSocks:
+      return kNavyCloth;
+    default:
+      return kAccentCloth;
   }
 }
 
 void PaintSock(QPainter& painter, const LegPose& leg, Hose hose) {
   const QPainterPath sock = ShinPart(leg, 0.1, 1);
-  const bool is_white = hose == Hose::kStirrups;
-  PaintSolid(painter, sock,
-             is_white                    ? kSock
-             : hose == Hose::kAnkleSocks ? kNavyCloth
-                                         : kAccentCloth);
+  PaintSolid(painter, sock, SockToneOf(hose));
   painter.save();
   painter.setClipPath(sock, Qt::IntersectClip);
-  if (hose == Hose::kStripedSocks) {
-    PaintBands(painter, leg);
-  }
-  if (is_white) {
-    PaintTone(painter, ShinPart(leg, 0.1, 0.42), kAccentCloth, 2);
-    const QPointF side(leg.foot_width > 0 ? 2 : -2, 0);
-    PaintLine(painter,
-              Segment(Between(leg.knee, leg.ankle, 0.4) + side, leg.ankle + side),
-              kAccentCloth.light, 3.6);
-  }
+  if (hose == Hose::kStripedSocks) PaintBands(painter, leg);
+  if (hose == Hose::kStirrups) PaintStirrup(painter, leg);
   painter.restore();
 }
 
@@ -105,7 +111,6 @@ void PaintTrouserLeg(QPainter& painter, QPointF hip, const LegPose& leg, Hose ho
   const QPointF cuff = Between(leg.knee, leg.ankle, TrouserShare(hose));
   QPainterPath trousers = Taper({hip, kHipRadius}, {leg.knee, kKneeRadius});
   trousers.addPath(Taper({leg.knee, kKneeRadius}, {cuff, kCuffRadius}));
-  trousers.setFillRule(Qt::WindingFill);
   PaintSolid(painter, trousers, kTrousers, 4);
   PaintPiping(painter, trousers, hip, leg, cuff, side);
 }

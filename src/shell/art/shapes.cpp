@@ -45,6 +45,12 @@ QPainterPath CurveThrough(std::span<const QPointF> points) {
   return path;
 }
 
+QPainterPath Segment(QPointF from, QPointF to) {
+  QPainterPath path(from);
+  path.lineTo(to);
+  return path;
+}
+
 QPainterPath Polygon(std::span<const QPointF> points) {
   QPainterPath path(points[0]);
   for (const QPointF& point : points.subspan(1)) path.lineTo(point);

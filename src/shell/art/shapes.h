@@ -23,13 +23,15 @@ struct Disc {
 /// An open round curve through two points or more.
 [[nodiscard]] QPainterPath CurveThrough(std::span<const QPointF> points);
 
+[[nodiscard]] QPainterPath Segment(QPointF from, QPointF to);
+
 /// A closed shape of straight edges.
 [[nodiscard]] QPainterPath Polygon(std::span<const QPointF> points);
 
 [[nodiscard]] QPainterPath Ellipse(QPointF center, qreal radius_x, qreal radius_y);
 
-/// Two discs and all that lies between. All tapers turn the same way, so that they join into one
-/// shape by adding one path to another.
+/// Two discs and all that lies between. Tapers turn the same way and fill by winding, so that
+/// adding one to another joins them into one shape.
 [[nodiscard]] QPainterPath Taper(const Disc& from, const Disc& to);
 
 /// The point at a share, 0 to 1, of the way.
@@ -39,7 +41,7 @@ struct Disc {
 /// right corner of a tile is for the code.
 [[nodiscard]] QRectF FrameAround(const QRectF& room, qreal size);
 
-/// Fills a shape, its lower right edge in the shade.
+/// Fills a shape, its lower right edge in a shade of the given depth.
 void PaintTone(QPainter& painter, const QPainterPath& shape, const Tone& tone, qreal depth = 3);
 
 /// As PaintTone, with an ink line around the shape.

@@ -1,0 +1,143 @@
+// Writes sheets of all pictures that the program paints, to look them over.
+
+#include <QColor>
+#include <QDir>
+#include <QFont>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QString>
+#include <array>
+#include <functional>
+#include <iostream>
+#include <utility>
+#include <vector>
+
+#include "shell/art/stance_figure.h"
+#include "shell/art/title_art.h"
+
+namespace {
+
+using morlek::StancePiece;
+using PagePainter = std::function<void(QPainter& painter)>;
+
+constexpr int kTileSize = 50;
+constexpr int kTilePitch = 52;
+
+/// One picture of a chooser: its place in the grid and its code.
+struct Tile {
+  int column;
+  int row;
+  int code;
+};
+
+std::vector<Tile> UpperTiles() {
+  std::vector<Tile> tiles;
+  for (int column = 0; column < 4; ++column) {
+    for (int row = 0; row < 12; ++row) {
+      tiles.push_back({column, row, 16 * (row / 2) + 4 * (row % 2) + column});
+    }
+  }
+  return tiles;
+}
+
+std::vector<Tile> LegsTiles() {
+  return {{0, 0, 0x00}, {1, 0, 0x01}, {2, 0, 0x02}, {3, 0, 0x03}, {0, 1, 0x04},
+          {1, 1, 0x10}, {2, 1, 0x11}, {3, 1, 0x12}, {0, 2, 0x13}, {1, 2, 0x14}};
+}
+
+void PaintTile(QPainter& painter, StancePiece piece, const Tile& tile) {
+  const QRectF square(8 + kTilePitch * tile.column, 28 + kTilePitch * tile.row, kTileSize,
+                      kTileSize);
+  painter.setPen(QColor(0xcb, 0xd2, 0xdc));
+  painter.setBrush(Qt::white);
+  painter.drawRoundedRect(square.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+  morlek::PaintPiece(painter, square.adjusted(2, 2, -2, -2), piece, tile.code);
+  QFont font("Roboto");
+  font.setPixelSize(9);
+  painter.setFont(font);
+  painter.setPen(QColor(0x47, 0x55, 0x69));
+  painter.drawText(square.adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
+                   QString::number(tile.code, 16).toUpper());
+}
+
+PagePainter ChooserPage(StancePiece piece, std::vector<Tile> tiles) {
+  return [piece, tiles = std::move(tiles)](QPainter& painter) {
+    for (const Tile& tile : tiles) PaintTile(painter, piece, tile);
+  };
+}
+
+/// Complete batters, every body and every face code in turn, over all legs.
+void PaintStances(QPainter& painter) {
+  constexpr std::array kLegs = {0x00, 0x01, 0x02, 0x03, 0x04, 0x10, 0x11, 0x12, 0x13, 0x14};
+  for (int i = 0; i < 24; ++i) {
+    const int digits = (i * 11 + 3) % 48;
+    const int body_digits = (i * 2 + i / 8) % 48;
+    const QRectF place(4 + 132 * (i % 8), 4 + 164 * (i / 8), 128, 160);
+    morlek::PaintStance(painter, place,
+                        {.face = digits / 8 * 16 + digits % 8,
+                         .body = body_digits / 8 * 16 + body_digits % 8,
+                         .legs = kLegs[static_cast<std::size_t>(i) % kLegs.size()]});
+  }
+}
+
+class SheetWriter {
+ public:
+  explicit SheetWriter(QDir directory) : directory_(std::move(directory)) {}
+
+  /// Writes one picture at a number of pixels for each logical one.
+  void Write(const QString& name, QSize size, int scale, const QColor& ground,
+             const PagePainter& paint) {
+    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(ground);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paint(painter);
+    painter.end();
+    const QString path = directory_.filePath(name + (scale > 1 ? "@2x.png" : ".png"));
+    const bool is_written = image.save(path);
+    has_failed_ = has_failed_ || !is_written;
+    (is_written ? std::cout : std::cerr)
+        << (is_written ? "Wrote " : "contact_sheet: cannot write ") << path.toStdString() << '\n';
+  }
+
+  [[nodiscard]] bool has_failed() const { return has_failed_; }
+
+ private:
+  QDir directory_;
+  bool has_failed_ = false;
+};
+
+bool WriteSheets(const QString& directory) {
+  const QColor window(0xf1, 0xf3, 0xf6);
+  SheetWriter writer{QDir(directory)};
+  for (const int scale : {1, 2}) {
+    writer.Write("faces", {222, 660}, scale, window, ChooserPage(StancePiece::kFace, UpperTiles()));
+    writer.Write("bodies", {222, 660}, scale, window,
+                 ChooserPage(StancePiece::kBody, UpperTiles()));
+    writer.Write("legs", {222, 192}, scale, window, ChooserPage(StancePiece::kLegs, LegsTiles()));
+    writer.Write("stances", {1060, 496}, scale, window, PaintStances);
+    writer.Write("splash", {480, 300}, scale, Qt::transparent, [](QPainter& painter) {
+      morlek::PaintSplash(painter, {0, 0, 480, 300});
+    });
+  }
+  for (const int size : {16, 32, 48, 256}) {
+    writer.Write(
+        QString("icon-%1").arg(size), {size, size}, 1, Qt::transparent,
+        [size](QPainter& painter) { morlek::PaintAppIcon(painter, QRectF(0, 0, size, size)); });
+  }
+  return !writer.has_failed();
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  if (argument_count != 2) {
+    std::cerr << "usage: contact_sheet OUTPUT_DIR\n";
+    return 2;
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argument_count, arguments);
+  return WriteSheets(QString::fromLocal8Bit(arguments[1])) ? 0 : 1;
+}
