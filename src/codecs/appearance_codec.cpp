@@ -24,7 +24,8 @@ constexpr std::array<SkinGroup, 6> kSkinGroups = {{{'0', '5', "0"},
 
 const std::string& AppearanceCodec::NormalizeAppearanceCode(std::string_view text) {
   const bool is_single_digit = text.size() == 1 && text[0] >= '0' && text[0] <= '9';
-  appearance_code_ = (is_single_digit ? "0" : "") + std::string(text);
+  appearance_code_ = text;
+  if (is_single_digit) appearance_code_.insert(0, 1, '0');
 
   if (appearance_code_.size() != 2) return appearance_code_;
   for (const SkinGroup& group : kSkinGroups) {

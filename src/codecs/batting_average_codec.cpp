@@ -14,7 +14,7 @@ constexpr std::uint8_t kMarker = 0x30;
 
 const std::string& BattingAverageCodec::DecodeBattingAverage(std::string_view key) {
   if (const auto number = NumberOfPairKey(key, kMarker)) {
-    decoded_average_ = "." + ThreeDigits(*number);
+    decoded_average_ = ThreeDigits(*number).insert(0, 1, '.');
   }
   return decoded_average_;
 }

@@ -75,7 +75,7 @@ const std::string& PitcherHandEncoder::EncodeHandAndFace(std::string_view text,
                                                          std::string_view face_code) {
   const char letter = text.empty() ? '\0' : UpperCase(text.front());
   if (IsHand(letter)) {
-    hand_and_face_code_ = letter == 'R' ? "0" : "1";
+    hand_and_face_code_.assign(1, letter == 'R' ? '0' : '1');
     hand_and_face_code_ += face_code.substr(0, 1);
   }
   return hand_and_face_code_;
