@@ -279,7 +279,7 @@ void MainWindow::LoadTeam(std::string_view toolbar_key) {
 }
 
 void MainWindow::ShowHint() {
-  hint_->setText(toolbar_->isHidden() ? "Open a ROM with Ctrl+O" : "Pick a team above");
+  hint_->setText(toolbar_->isHidden() ? "Open a ROM with Ctrl+O" : "Pick a team above, or press Ctrl+Page Down");
 }
 
 void MainWindow::ShowIdentity() { identity_->setText(FromCodePage(editor_.identity_text())); }

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QPainter>
+#include <QShortcut>
 
 #include "image/team_directory.h"
 #include "shell/code_page_text.h"
@@ -55,9 +56,20 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
     auto* button = new TeamButton(team, badges->Badge(team.key), this);
     button->setGeometry(place % kButtonsInRow * kButtonWidth, place / kButtonsInRow * kButtonHeight,
                         kButtonWidth, kButtonHeight);
-    connect(button, &QAbstractButton::clicked, this, [this, &team] { emit TeamPicked(team.key); });
+    connect(button, &QAbstractButton::clicked, this, [this, place] { Pick(place); });
     ++place;
   }
+
+  connect(new QShortcut(Qt::CTRL | Qt::Key_PageDown, this), &QShortcut::activated, this,
+          [this] { Pick(picked_ + 1); });
+  connect(new QShortcut(Qt::CTRL | Qt::Key_PageUp, this), &QShortcut::activated, this,
+          [this] { Pick(picked_ - 1); });
+}
+
+void TeamToolbar::Pick(int place) {
+  if (place < 0 || place >= static_cast<int>(kTeamDirectory.size())) return;
+  picked_ = place;
+  emit TeamPicked(kTeamDirectory.at(static_cast<std::size_t>(place)).key);
 }
 
 }  // namespace morlek

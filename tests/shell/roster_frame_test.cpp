@@ -72,6 +72,22 @@ TEST_F(RosterFrameTest, UpAndDownKeepThePlaceInTheRow) {
   EXPECT_EQ(QApplication::focusWidget(), &Box(14, 24));
 }
 
+TEST_F(RosterFrameTest, TeamsCanBePickedByKeyboard) {
+  Start(std::nullopt);
+  const auto press = [this](Qt::Key key) {
+    QTest::keyClick(window.get(), key, Qt::ControlModifier);
+    return LabelText("Label4(0)");
+  };
+  EXPECT_EQ(press(Qt::Key_PageDown), "") << "not before there is an image";
+  user.paths.push_back(ImagePath());
+  Choose("mnuOpen");
+  EXPECT_EQ(press(Qt::Key_PageUp), "");
+  EXPECT_EQ(press(Qt::Key_PageDown), "ATLANTA BRAVES");
+  EXPECT_EQ(press(Qt::Key_PageDown), "BALTIMORE ORIOLES");
+  EXPECT_EQ(press(Qt::Key_PageUp), "ATLANTA BRAVES");
+  EXPECT_EQ(press(Qt::Key_PageUp), "ATLANTA BRAVES");
+}
+
 TEST_F(RosterFrameTest, EachTeamButtonLoadsItsTeam) {
   Start(ImagePath());
   Click("Red Sox");
