@@ -1,0 +1,106 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "codecs/average_word.h"
+#include "codecs/batting_average_codec.h"
+#include "codecs/earned_run_average_codec.h"
+
+namespace morlek {
+namespace {
+
+// clang-format off
+const std::vector<std::string> kNoBattingAverages = {
+    "", ".", ".3", ".30", ".3000", "0.300", "300", " .300", ".300 ", ".512", ".600", "1.000",
+    ".+30", ".3 0", ".3e2", "..30", "\x80"};
+const std::vector<std::string> kNoEarnedRunAverages = {
+    "", ".", "3", "3.4", "3.450", "03.45", ".50", "5.12", "6.00", "10.00", " 3.45", "3.45 ", "3,45",
+    "345", "+.45", "3.+5"};
+// clang-format on
+
+std::string Hex(int number) {
+  char text[8];
+  std::snprintf(text, sizeof text, "%X", static_cast<unsigned>(number));
+  return text;
+}
+
+std::string TwoHexDigits(int number) { return (number < 16 ? "0" : "") + Hex(number); }
+
+std::string Decimals(int number) { return std::to_string(1000 + number).substr(1); }
+
+/// Tries all pairs of bytes: a pair in the table gives its row, any other the result before it.
+template <typename Decode>
+void ExpectDecodes(int marker, const std::string& in_front, Decode decode) {
+  std::map<std::string, std::string> rows;
+  for (int n = 0; n <= 511; ++n) {
+    rows[Hex(n % 256) + Hex(marker + n / 256)] = in_front + Decimals(n);
+  }
+  std::string expected;
+  for (int pair = 0; pair < 65536; ++pair) {
+    const int low = pair % 256;
+    const int high = pair / 256;
+    const auto row = rows.find(Hex(low) + Hex(high));
+    if (row != rows.end()) expected = row->second;
+    const auto key = PairKey(static_cast<std::uint8_t>(low), static_cast<std::uint8_t>(high));
+    ASSERT_EQ(decode(key), expected) << low << " " << high;
+  }
+  for (const char* key : {"", "0", "f20", "a30", "030 ", "0030", "0020", "10030", "FF32"}) {
+    EXPECT_EQ(decode(key), expected) << key;
+  }
+}
+
+TEST(BattingAverageCodec, DecodesAllPairs) {
+  BattingAverageCodec codec;
+  ExpectDecodes(0x30, ".", [&](const auto& key) { return codec.DecodeBattingAverage(key); });
+}
+
+TEST(EarnedRunAverageCodec, DecodesAllPairs) {
+  EarnedRunAverageCodec codec;
+  ExpectDecodes(0x20, "", [&](const auto& key) { return codec.DecodeEarnedRunAverage(key); });
+}
+
+TEST(BattingAverageCodec, EncodesEveryRowAndRepeatsForOthers) {
+  BattingAverageCodec codec;
+  EXPECT_EQ(codec.EncodeBattingAverage(".600"), "");
+  for (int n = 0; n <= 511; ++n) {
+    const std::string text = "." + Decimals(n);
+    EXPECT_EQ(codec.EncodeBattingAverage(text), TwoHexDigits(n % 256));
+    EXPECT_EQ(BattingAverageCodec::HighByte(text), n <= 255 ? 0x30 : 0x31) << text;
+  }
+  (void)codec.EncodeBattingAverage(".300");
+  for (const auto& text : kNoBattingAverages) EXPECT_EQ(codec.EncodeBattingAverage(text), "2C");
+}
+
+TEST(EarnedRunAverageCodec, EncodesEveryRowInItsBandAndRepeatsForOthers) {
+  EarnedRunAverageCodec codec;
+  EXPECT_EQ(codec.EncodeEarnedRunAverage("5.12"), "");
+  for (int n = 0; n <= 511; ++n) {
+    const std::string text = Decimals(n).insert(1, ".");
+    // Only the first 256 rows go without a leading zero.
+    EXPECT_EQ(codec.EncodeEarnedRunAverage(text), n <= 255 ? Hex(n) : TwoHexDigits(n - 256));
+    EXPECT_EQ(EarnedRunAverageCodec::HighByte(text), n <= 255 ? 0x20 : 0x21) << text;
+  }
+  (void)codec.EncodeEarnedRunAverage("2.61");
+  for (const auto& text : kNoEarnedRunAverages) EXPECT_EQ(codec.EncodeEarnedRunAverage(text), "05");
+}
+
+TEST(AverageCodecs, HighBytesComeFromComparingTexts) {
+  for (const char* text : {"", ".", ".25", ".2549", ".255", "-", "+", " .300", "\x01"}) {
+    EXPECT_EQ(BattingAverageCodec::HighByte(text), 0x30) << text;
+  }
+  for (const char* text : {".255 ", ".2550", ".26", ".3", ".600", "0.1", "1.000", "/", "\x80"}) {
+    EXPECT_EQ(BattingAverageCodec::HighByte(text), 0x31) << text;
+  }
+  for (const char* text : {"", "2", "2.5", "2.55", "2.549", "10.00", ".50", " 9.99", "-1"}) {
+    EXPECT_EQ(EarnedRunAverageCodec::HighByte(text), 0x20) << text;
+  }
+  for (const char* text : {"2.550", "2.55 ", "2.6", "2/", "3", "5.12", "x", "\x80"}) {
+    EXPECT_EQ(EarnedRunAverageCodec::HighByte(text), 0x21) << text;
+  }
+}
+
+}  // namespace
+}  // namespace morlek

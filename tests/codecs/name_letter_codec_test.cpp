@@ -1,0 +1,57 @@
+#include "codecs/name_letter_codec.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/recording_messages.h"
+
+namespace morlek {
+namespace {
+
+class NameLetterCodecTest : public ::testing::Test {
+ protected:
+  RecordingMessages messages;
+  NameLetterCodec codec{messages};
+};
+
+TEST_F(NameLetterCodecTest, DecodesEveryByte) {
+  const std::string alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+  EXPECT_EQ(codec.DecodeNameLetter(0x25), "");
+  for (int code = 0; code < 256; ++code) {
+    std::string letter = "Q";  // what an unknown code repeats
+    if (code == 0x00 || code == 0x0A) letter = "";
+    if (code >= 0x0B && code <= 0x24) letter = alphabet[static_cast<std::size_t>(code - 0x0B)];
+    if (code == 0x36) letter = "c";
+    (void)codec.DecodeNameLetter(0x1B);
+    EXPECT_EQ(codec.DecodeNameLetter(static_cast<std::uint8_t>(code)), letter) << code;
+  }
+}
+
+TEST_F(NameLetterCodecTest, EncodesLettersBlankAndPeriod) {
+  const std::string codes = "0B0C0D0E0F101112131415161718191A1B1C1D1E1F2021222324";
+  for (std::size_t place = 0; place < 26; ++place) {
+    const std::string code = codes.substr(2 * place, 2);
+    EXPECT_EQ(codec.EncodeNameLetter(std::string(1, static_cast<char>('A' + place))), code);
+    EXPECT_EQ(codec.EncodeNameLetter(std::string(1, static_cast<char>('a' + place))), code);
+  }
+  EXPECT_EQ(codec.EncodeNameLetter(" "), "00");
+  EXPECT_EQ(codec.EncodeNameLetter("."), "");
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(NameLetterCodecTest, TellsOfEveryOtherCharacterAndRepeatsTheResult) {
+  const std::string known = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz .";
+  (void)codec.EncodeNameLetter("Q");
+  for (int code = -1; code < 256; ++code) {
+    const std::string character = code < 0 ? "" : std::string(1, static_cast<char>(code));
+    if (code >= 0 && known.find(character) != std::string::npos) continue;
+    messages.shown.clear();
+    EXPECT_EQ(codec.EncodeNameLetter(character), "1B");
+    ASSERT_EQ(messages.shown.size(), 1U);
+    EXPECT_EQ(messages.shown[0], (Message{kUnknownLetter, "MORLEK EDITOR", Message::Icon::kNone}));
+  }
+}
+
+}  // namespace
+}  // namespace morlek

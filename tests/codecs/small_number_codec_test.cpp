@@ -1,0 +1,53 @@
+#include "codecs/small_number_codec.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+
+namespace morlek {
+namespace {
+
+std::string TwoDigits(int number) {
+  char text[8];
+  std::snprintf(text, sizeof text, "%02X", static_cast<unsigned>(number));
+  return text;
+}
+
+TEST(SmallNumberCodec, DecodesAndEncodesUpTo200AndRepeatsBeyond) {
+  SmallNumberCodec codec;
+  codec.number_bytes[24] = 201;
+  EXPECT_EQ(codec.DecodeSmallNumber(24), "");
+  codec.number_bytes[0] = 77;
+  for (int byte = 0; byte < 256; ++byte) {
+    codec.number_bytes[24] = static_cast<std::uint8_t>(byte);
+    (void)codec.DecodeSmallNumber(0);
+    EXPECT_EQ(codec.DecodeSmallNumber(24), byte <= 200 ? std::to_string(byte) : "77");
+    (void)codec.EncodeSmallNumber(0);
+    EXPECT_EQ(codec.EncodeSmallNumber(24), byte <= 200 ? TwoDigits(byte) : "4D");
+  }
+}
+
+TEST(SmallNumberCodec, DecoderAndStatisticsEncoderAloneShareTheirResult) {
+  SmallNumberCodec codec;
+  codec.number_bytes = {150, 250};
+  EXPECT_EQ(codec.DecodeSmallNumber(0), "150");
+  EXPECT_EQ(codec.EncodeSmallNumber(1), "150");
+  EXPECT_EQ(codec.EncodeSmallNumber(0), "96");
+  EXPECT_EQ(codec.EncodeUniformNumber(0, "21"), "15");
+  EXPECT_EQ(codec.DecodeSmallNumber(1), "96");
+}
+
+TEST(SmallNumberCodec, EncodesUniformNumbersAsShownAndKeepsEachSlotsOwn) {
+  SmallNumberCodec codec;
+  for (int number = 0; number <= 200; ++number) {
+    EXPECT_EQ(codec.EncodeUniformNumber(number % 24, std::to_string(number)), TwoDigits(number));
+  }
+  for (const char* text : {"", "07", " 7", "7 ", "+7", "7.0", "-0", "201", "x", "00", "1e1"}) {
+    EXPECT_EQ(codec.EncodeUniformNumber(3, text), "C3") << text;  // 195 was the slot's last
+    EXPECT_EQ(codec.EncodeUniformNumber(24, text), "") << text;
+  }
+}
+
+}  // namespace
+}  // namespace morlek

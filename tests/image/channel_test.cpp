@@ -1,0 +1,161 @@
+#include "image/channel.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+#include "image/failure.h"
+#include "support/memory_disk.h"
+#include "support/temp_dir.h"
+
+namespace morlek {
+namespace {
+
+class ChannelTest : public ::testing::Test {
+ protected:
+  ChannelTest() { PutFile(path, "abc"); }
+
+  void ExpectNoBytes() {
+    EXPECT_THROW((void)channel.ReadByte(1), OperationFailed);
+    EXPECT_FALSE(channel.WriteByte(1, 'x'));
+  }
+  void ExpectNoTextInput() {
+    EXPECT_THROW((void)channel.ReadCharacter(), OperationFailed);
+    EXPECT_THROW((void)channel.PeekCharacter(), OperationFailed);
+  }
+  void ExpectNoTextOutput() { EXPECT_THROW(channel.WriteLine("x"), OperationFailed); }
+
+  /// While the channel is open nothing else opens, and nothing is created or emptied.
+  void ExpectOpensNothingMore() {
+    PutFile(dir / "other", "kept");
+    EXPECT_FALSE(channel.OpenBinary(dir / "other"));
+    EXPECT_FALSE(channel.OpenTextInput(dir / "other"));
+    EXPECT_FALSE(channel.OpenTextOutput(dir / "other"));
+    EXPECT_FALSE(channel.OpenTextOutput(dir / "new"));
+    EXPECT_EQ(GetFile(dir / "other"), "kept");
+    EXPECT_FALSE(std::filesystem::exists(dir / "new"));
+    EXPECT_TRUE(channel.is_open());
+    channel.Close();
+    EXPECT_FALSE(channel.is_open());
+  }
+
+  TempDir dir;
+  std::filesystem::path path = dir / "file";
+  Channel channel;
+};
+
+TEST_F(ChannelTest, ReadsAndWritesBytesFromPositionOneAtOnce) {
+  ASSERT_TRUE(channel.OpenBinary(path));
+  EXPECT_EQ(channel.ReadByte(1), 'a');
+  EXPECT_EQ(channel.ReadByte(3), 'c');
+  EXPECT_TRUE(channel.WriteByte(2, 0xFF));
+  EXPECT_TRUE(channel.WriteByte(1, 0x0A));
+  EXPECT_EQ(channel.ReadByte(2), 0xFF);
+  EXPECT_EQ(GetFile(path),
+            "\n\xFF"
+            "c");
+}
+
+TEST_F(ChannelTest, ThereIsNoPositionBelowOne) {
+  ASSERT_TRUE(channel.OpenBinary(path));
+  for (const std::int64_t position : {0, -1, -988297}) {
+    EXPECT_EQ(channel.ReadByte(2), 'b');
+    EXPECT_FALSE(channel.WriteByte(position, 'x')) << position;
+    EXPECT_THROW((void)channel.ReadByte(position), OperationFailed) << position;
+  }
+  EXPECT_EQ(GetFile(path), "abc");
+}
+
+TEST_F(ChannelTest, BytesPastTheEndReadAsZero) {
+  ASSERT_TRUE(channel.OpenBinary(path));
+  EXPECT_EQ(channel.ReadByte(4), 0);
+  EXPECT_EQ(channel.ReadByte(988297), 0);
+  EXPECT_EQ(channel.ReadByte(2), 'b');
+  EXPECT_EQ(GetFile(path), "abc");
+}
+
+TEST_F(ChannelTest, RefusesFoldersAndNeverCreatesAFileToRead) {
+  for (const char* name : {"missing", ".", "missing/file"}) {
+    EXPECT_FALSE(channel.OpenBinary(dir / name)) << name;
+    EXPECT_FALSE(channel.OpenTextInput(dir / name)) << name;
+  }
+  EXPECT_FALSE(channel.OpenBinary(""));
+  EXPECT_FALSE(channel.OpenTextOutput(dir / "."));
+  EXPECT_FALSE(channel.OpenTextOutput(dir / "missing/file"));
+  EXPECT_FALSE(std::filesystem::exists(dir / "missing"));
+  EXPECT_FALSE(channel.is_open());
+}
+
+TEST_F(ChannelTest, EveryModeServesItsOwnAccessesAlone) {
+  channel.Close();
+  ExpectNoBytes();
+  ExpectNoTextInput();
+  ExpectNoTextOutput();
+  ASSERT_TRUE(channel.OpenBinary(path));
+  ExpectNoTextInput();
+  ExpectNoTextOutput();
+  ExpectOpensNothingMore();
+  ASSERT_TRUE(channel.OpenTextInput(path));
+  ExpectNoBytes();
+  ExpectNoTextOutput();
+  ExpectOpensNothingMore();
+  EXPECT_EQ(GetFile(path), "abc");
+  ASSERT_TRUE(channel.OpenTextOutput(path));
+  ExpectNoBytes();
+  ExpectNoTextInput();
+  ExpectOpensNothingMore();
+}
+
+TEST_F(ChannelTest, ReadsTextCharacterByCharacter) {
+  const std::string text("a\r\nb\x1A\0\n\xFF", 8);
+  PutFile(path, text);
+  ASSERT_TRUE(channel.OpenTextInput(path));
+  for (const char character : text) {
+    EXPECT_EQ(channel.PeekCharacter(), character);
+    EXPECT_EQ(channel.ReadCharacter(), character);
+  }
+  EXPECT_EQ(channel.PeekCharacter(), std::nullopt);
+  EXPECT_EQ(channel.ReadCharacter(), std::nullopt);
+  EXPECT_EQ(channel.ReadCharacter(), std::nullopt);
+}
+
+TEST_F(ChannelTest, WritesLinesWithCarriageReturnAndLineFeedAtOnce) {
+  ASSERT_TRUE(channel.OpenTextOutput(path));
+  EXPECT_EQ(GetFile(path), "");
+  channel.WriteLine("one\x80,");
+  EXPECT_EQ(GetFile(path), "one\x80,\r\n");
+  channel.WriteLine("");
+  EXPECT_EQ(GetFile(path), "one\x80,\r\n\r\n");
+}
+
+TEST(ChannelFailure, AFailingDeviceFailsTheAccessAndLeavesTheChannelOpen) {
+  MemoryDisk disk;
+  disk.files["file"] = {'a', 'b', 'c'};
+  Channel channel(disk.Opener());
+  ASSERT_TRUE(channel.OpenBinary("file"));
+  disk.failing_read = 2;
+  EXPECT_EQ(channel.ReadByte(1), 'a');
+  EXPECT_THROW((void)channel.ReadByte(2), OperationFailed);
+  EXPECT_EQ(channel.ReadByte(2), 'b');
+  disk.failing_write = 1;
+  EXPECT_FALSE(channel.WriteByte(3, 'X'));
+  EXPECT_TRUE(channel.WriteByte(3, 'Y'));
+  channel.Close();
+
+  ASSERT_TRUE(channel.OpenTextInput("file"));
+  disk.failing_read = 1;
+  EXPECT_THROW((void)channel.PeekCharacter(), OperationFailed);
+  disk.failing_read = 1;
+  EXPECT_THROW((void)channel.ReadCharacter(), OperationFailed);
+  EXPECT_EQ(channel.ReadCharacter(), 'a');
+  channel.Close();
+
+  ASSERT_TRUE(channel.OpenTextOutput("file"));
+  disk.failing_write = 4;
+  EXPECT_THROW(channel.WriteLine("abcdef"), OperationFailed);
+  EXPECT_TRUE(channel.is_open());
+}
+
+}  // namespace
+}  // namespace morlek

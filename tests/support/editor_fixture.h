@@ -1,0 +1,121 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "sample_image.h"
+#include "support/memory_disk.h"
+#include "support/plain_record.h"
+#include "support/recording_messages.h"
+#include "team/editor.h"
+
+namespace morlek {
+
+inline constexpr char kImage[] = "game.smc";
+inline constexpr std::int64_t kBraves = 1278465;
+inline constexpr std::int64_t kOrioles = 1264385;
+
+/// What FieldByte holds for a byte that is not written at all.
+inline constexpr int kNotWritten = -1;
+
+/// A byte of a record by roster row and offset in the row.
+struct FieldByte {
+  int row;
+  int offset;
+  int byte;
+
+  friend bool operator==(const FieldByte&, const FieldByte&) = default;
+  friend std::ostream& operator<<(std::ostream& out, const FieldByte& field) {
+    return out << "row " << field.row << " offset " << field.offset << ": " << field.byte;
+  }
+};
+
+/// A text of the grid by roster row and the number of its text box array.
+struct Cell {
+  int row;
+  int column;
+  std::string text;
+};
+
+/// A window that notes what the loader asks of it.
+class RecordingView : public TeamView {
+ public:
+  void ShowTeamName(std::string_view name) override { calls.emplace_back(name); }
+  void PrepareView() override { calls.emplace_back("prepare"); }
+
+  std::vector<std::string> calls;
+};
+
+/// An editor that has just opened an image in memory, in which the Braves and the Orioles have the
+/// plain record.
+class EditorTest : public ::testing::Test {
+ protected:
+  EditorTest() {
+    static const std::vector<std::uint8_t> sample = MakeSampleImage();
+    disk.files[kImage] = sample;
+    for (const std::int64_t base : {kBraves, kOrioles}) {
+      std::ranges::copy(PlainRecord(), image().begin() + (base - 1));
+    }
+    EXPECT_EQ(editor.OpenFirstImage(kImage), Editor::Opening::kAccepted);
+  }
+
+  std::vector<std::uint8_t>& image() { return disk.files.at(kImage); }
+
+  void Poke(const std::vector<FieldByte>& bytes, std::int64_t base = kBraves) {
+    for (const auto& [row, offset, byte] : bytes) {
+      const auto index = static_cast<std::size_t>(base - 1 + 32 * row + offset);
+      image().at(index) = static_cast<std::uint8_t>(byte);
+    }
+  }
+
+  void Load(const char* key) {
+    disk.reads.clear();
+    editor.loader.Load(key, view);
+  }
+
+  [[nodiscard]] const std::string& Text(int column, int row) const {
+    return editor.grid.Text(static_cast<Column>(column), row);
+  }
+
+  void Type(const std::vector<Cell>& cells) {
+    for (const auto& [row, column, text] : cells) {
+      editor.grid.SetText(static_cast<Column>(column), row, text);
+    }
+  }
+
+  /// Saves; messages and writes are then those of this save alone.
+  void Save() {
+    disk.writes.clear();
+    messages.shown.clear();
+    editor.saver.Save();
+  }
+
+  void ExpectShown(const std::vector<Cell>& cells) {
+    for (const auto& [row, column, text] : cells) {
+      EXPECT_EQ(Text(column, row), text) << "Text" << column << " row " << row;
+    }
+  }
+
+  /// What the last save wrote, of which other bytes are left out.
+  void ExpectWritten(const std::vector<FieldByte>& bytes, std::int64_t base = kBraves) {
+    for (const FieldByte& expected : bytes) {
+      FieldByte actual = {expected.row, expected.offset, kNotWritten};
+      for (const ByteAccess& write : disk.writes) {
+        if (write.position == base + 32 * actual.row + actual.offset) actual.byte = write.byte;
+      }
+      EXPECT_EQ(actual, expected);
+    }
+  }
+
+  MemoryDisk disk;
+  RecordingMessages messages;
+  RecordingView view;
+  Editor editor{messages, disk.Opener()};
+};
+
+}  // namespace morlek

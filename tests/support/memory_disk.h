@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <vector>
+
+#include "image/channel.h"
+
+namespace morlek {
+
+/// One access to a byte of a file, by its 1-based position. The byte is -1 past the end.
+struct ByteAccess {
+  std::int64_t position;
+  int byte;
+
+  friend bool operator==(const ByteAccess&, const ByteAccess&) = default;
+};
+
+/// Files in memory behind the channel's opener. Every access is on record, and any can be made to
+/// fail the way a real device does: a read by an exception, a write by the end value.
+class MemoryDisk {
+ public:
+  std::map<std::filesystem::path, std::vector<std::uint8_t>> files;
+  std::vector<ByteAccess> reads;
+  std::vector<ByteAccess> writes;
+
+  /// Which read or write from now on fails, counted from 1; 0 for none.
+  int failing_read = 0;
+  int failing_write = 0;
+
+  /// The opener that a channel takes; the disk has to outlive it.
+  [[nodiscard]] FileOpener Opener();
+};
+
+}  // namespace morlek

@@ -1,0 +1,188 @@
+#include "team/team_loader.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "support/editor_fixture.h"
+
+namespace morlek {
+namespace {
+
+using TeamLoaderTest = EditorTest;
+
+TEST_F(TeamLoaderTest, ShowsEveryFieldOfEveryRow) {
+  // clang-format off
+  const std::vector<std::vector<std::string>> rows = {
+      {"A.BA", "P", "1", "R", "1", "1", "4", "2", ".250", "30", "60", "20", "40", "0"},
+      {"H.BH", "2B", "8", "L", "8", "8", "1", "9", ".257", "37", "67", "27", "47", "7"},
+      {"O.BO", "LF", "15", "S", "5", "6", "8", "7", ".264", "44", "74", "2E", "4E", "E"},
+      {"P.BP", "CF", "16", "LS>", "6", "7", "1", "105", "2.00", "135", "165", "2F", "4F", "F"},
+      {"U.BU", "1B", "21", "R>", "1", "3", "6", "110", "2.50", "140", "170", "34", "54", "14"},
+      {"Y.BY", "P", "25", "R", "5", "7", "10", "114", "2.90", "144", "174", "38", "58", "18"}};
+  // clang-format on
+  Load("Braves");
+  std::size_t next = 0;
+  for (const int row : {0, 7, 14, 15, 20, 24}) {
+    int column = 0;
+    for (const std::string& text : rows.at(next++)) ExpectShown({{row, ++column, text}});
+  }
+  for (int row = 0; row < 25; ++row) ExpectShown({{row, 3, std::to_string(row + 1)}});
+  EXPECT_EQ(view.calls, (std::vector<std::string>{"ATLANTA BRAVES", "prepare"}));
+  EXPECT_EQ(editor.image.team_base(), kBraves);
+  EXPECT_FALSE(editor.channel.is_open());
+  EXPECT_TRUE(disk.writes.empty());
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(TeamLoaderTest, ReadsFieldByFieldAcrossTheWholeRoster) {
+  std::vector<std::int64_t> expected;
+  const auto pass = [&](const std::vector<int>& batter, const std::vector<int>& pitcher) {
+    for (int row = 0; row < 25; ++row) {
+      for (const int offset : row < 15 ? batter : pitcher) {
+        expected.push_back(kOrioles + 32 * row + offset);
+      }
+    }
+  };
+  pass({0, 1, 2, 3, 4, 5, 6, 7, 8}, {0, 1, 2, 3, 4, 5, 6, 7, 8});
+  pass({9}, {9});
+  pass({10}, {10});
+  pass({13}, {21});
+  for (const int offset : {23, 11, 12, 14, 15, 16}) pass({offset}, {offset});
+  pass({24, 25}, {24, 25});
+  pass({28, 29}, {28, 29});
+  for (const int offset : {26, 28, 24, 26, 30}) pass({offset}, {offset});
+
+  Load("Orioles");
+  std::vector<std::int64_t> positions;
+  for (const ByteAccess& read : disk.reads) positions.push_back(read.position);
+  EXPECT_EQ(positions, expected);
+}
+
+TEST_F(TeamLoaderTest, DiscardsEdits) {
+  Load("Braves");
+  Type({{0, 1, "X"}, {24, 14, ""}, {3, 9, ".999"}});
+  Load("Braves");
+  ExpectShown({{0, 1, "A.BA"}, {24, 14, "18"}, {3, 9, ".253"}});
+}
+
+TEST_F(TeamLoaderTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {
+  Load("Orioles");
+  view.calls.clear();
+  Poke({{0, 10, 99}}, kOrioles);
+  Load("orioles");
+  ExpectShown({{0, 3, "99"}});
+  EXPECT_EQ(view.calls, std::vector<std::string>{"prepare"});
+  EXPECT_EQ(editor.image.team_base(), kOrioles);
+}
+
+TEST_F(TeamLoaderTest, BytesPastTheEndOfAShortImageShowAsZero) {
+  image().resize(kBraves - 1 + 32 * 24 + 5);
+  Load("Braves");
+  ExpectShown({{23, 3, "24"}, {24, 1, "Y.BY"}, {24, 2, "P"}, {24, 3, "0"}, {24, 4, "R"}});
+  ExpectShown({{24, 5, "1"}, {24, 7, "1"}, {24, 9, "2.80"}, {24, 11, "0"}, {24, 12, "0"}});
+}
+
+/// Bytes of the Braves' record, and of the Orioles' where that team is loaded first.
+struct LoaderCase {
+  const char* name;
+  std::vector<FieldByte> earlier;
+  std::vector<FieldByte> bytes;
+  std::vector<Cell> shown;
+};
+
+void PrintTo(const LoaderCase& loader_case, std::ostream* out) { *out << loader_case.name; }
+
+class TeamLoaderCase : public EditorTest, public ::testing::WithParamInterface<LoaderCase> {};
+
+TEST_P(TeamLoaderCase, Shows) {
+  if (!GetParam().earlier.empty()) {
+    Poke(GetParam().earlier, kOrioles);
+    Load("Orioles");
+  }
+  Poke(GetParam().bytes);
+  Load("Braves");
+  ExpectShown(GetParam().shown);
+}
+
+std::vector<FieldByte> Name(int row, std::vector<int> codes) {
+  codes.resize(9);
+  std::vector<FieldByte> bytes;
+  for (const int code : codes) bytes.push_back({row, static_cast<int>(bytes.size()), code});
+  return bytes;
+}
+
+/// A number that no row has in rows 0 to 15 of a field, and another byte.
+std::vector<FieldByte> Unknown(int offset, const FieldByte& other) {
+  std::vector<FieldByte> bytes = {other};
+  for (int row = 0; row <= 15; ++row) bytes.push_back({row, offset, 201});
+  return bytes;
+}
+
+// clang-format off
+const std::vector<LoaderCase> kNameCases = {
+    {"Smith", {}, Name(0, {0x14, 0x1D, 0x17, 0x13, 0x1E, 0x12}), {{0, 1, "J.SMITH"}}},
+    {"NineLetters", {}, Name(3, {0x24, 0x0B, 0x0C, 0x0D, 0x0E, 0x0F, 0x10, 0x11, 0x23}),
+     {{3, 1, "Z.ABCDEFGY"}, {4, 1, "E.BE"}}},
+    {"NothingIsAPeriod", {}, Name(3, {}), {{3, 1, "."}, {4, 1, "E.BE"}}},
+    {"BlankInitialClosesUp", {}, Name(3, {0x00, 0x1D, 0x17}), {{3, 1, "S.M"}}},
+    {"BlanksInsideCloseUp", {}, Name(3, {0x0B, 0x0A, 0x0C, 0x00, 0x0D}), {{3, 1, "A.BC"}}},
+    {"SmallC", {}, Name(3, {0x17, 0x36}), {{3, 1, "M.c"}}},
+    {"UnknownDoublesTheLetter", {}, Name(3, {0x1C, 0x25, 0x1D}), {{3, 1, "R.RS"}}},
+    {"UnknownAfterABlankIsNothing", {}, Name(3, {0x1C, 0x0A, 0x25, 0x1D}), {{3, 1, "R.S"}}},
+    {"FirstOfTheRunUnknown", {}, Name(0, {0xFF, 0x0C, 0x0D}), {{0, 1, "B.C"}}},
+    {"UnknownAfterTheRowBefore", {}, {{3, 8, 0x24}, {4, 0, 0xFF}}, {{4, 1, "Z.BE"}}},
+    {"UnknownAfterAnotherTeam", {{24, 8, 0x24}}, {{0, 0, 0xFF}}, {{0, 1, "Z.BA"}}}};
+
+// What a codec keeps comes from the row before, from the last row of another team that was loaded,
+// and from rows of the other kind of player that the grid does not show.
+const std::vector<LoaderCase> kFieldCases = {
+    {"Position", {{24, 9, 0x16}}, {{0, 9, 0xFF}, {3, 9, 0x11}}, {{0, 2, "OF"}, {3, 2, "LF"}}},
+    {"FirstPositionOfTheRun", {}, {{0, 9, 0x18}}, {{0, 2, ""}}},
+    {"Side", {{14, 13, 0x11}, {24, 13, 0x20}}, {{0, 13, 1}, {3, 13, 5}}, {{0, 4, "L"},
+      {3, 4, "S"}}},
+    {"HandByTheHighDigit", {}, {{15, 21, 0x0F}, {16, 21, 0x10}, {17, 21, 0xFF}},
+     {{15, 4, "RS>"}, {16, 4, "L<"}, {17, 4, "LS<"}}},
+    {"Marks", {}, {{16, 23, 0x22}, {17, 23, 0x03}, {19, 23, 0x12}}, {{17, 4, "LS<"},
+      {19, 4, "LS>"}}},
+    {"MarksOfABatter", {}, {{14, 23, 0x10}, {15, 23, 0x03}}, {{15, 4, "L>"}}},
+    {"MarksOfAnotherTeam", {{24, 23, 0x21}}, {{15, 23, 0x03}}, {{15, 4, "LS<"}}},
+    {"Ratings", {}, {{2, 11, 0x35}, {2, 12, 0x09}, {3, 11, 0x90}, {15, 12, 0x12}, {16, 12, 0x99}},
+     {{2, 5, "4"}, {2, 6, "6"}, {2, 7, "1"}, {2, 8, "10"}, {3, 5, "10"}, {3, 6, "1"}, {15, 7, "13"},
+      {15, 8, "105"}, {16, 7, "100"}}},
+    {"Appearance", {}, {{0, 14, 5}, {15, 15, 0}, {24, 16, 0xAF}},
+     {{0, 12, "5"}, {15, 13, "0"}, {24, 14, "AF"}}},
+    {"BattingAverage", {}, {{2, 24, 0x13}, {2, 25, 0x00}, {3, 25, 0x32}},
+     {{2, 9, ".001"}, {3, 9, ".001"}}},
+    {"BattingAverageOfAnotherTeamsPitcher", {{24, 24, 0x02}, {24, 25, 0x31}}, {{0, 25, 0x32}},
+     {{0, 9, ".258"}}},
+    {"FirstBattingAverageOfTheRun", {}, {{0, 25, 0x20}}, {{0, 9, ""}}},
+    {"EarnedRunAverage", {}, {{17, 28, 0x12}, {17, 29, 0x00}, {18, 29, 0x22}},
+     {{17, 9, "0.01"}, {18, 9, "0.01"}}},
+    {"EarnedRunAverageOfABatter", {}, {{14, 28, 0x00}, {14, 29, 0x21}, {15, 29, 0}},
+      {{15, 9, "2.56"}}},
+    {"EarnedRunAverageOfAnotherTeam", {{24, 28, 0x00}, {24, 29, 0x21}}, {{15, 29, 0}},
+     {{15, 9, "2.56"}}},
+    {"FirstEarnedRunAverageOfTheRun", {}, {{15, 29, 0}}, {{15, 9, "."}}}};
+
+// One result serves all numbers, so the first unknown one of a pass shows the last of the pass
+// before it.
+const std::vector<LoaderCase> kNumberCases = {
+    {"FirstOfTheRun", {}, {{0, 10, 201}, {3, 10, 255}}, {{0, 3, ""}, {3, 3, "3"}}},
+    {"UniformNumbersFollowAnotherTeam", {{24, 30, 76}}, {{0, 10, 201}}, {{0, 3, "76"}}},
+    {"HomeRunsFollowUniformNumbers", {}, Unknown(26, {24, 10, 71}), {{0, 10, "71"}, {9, 10, "71"}}},
+    {"RunsBattedInFollowHomeRuns", {}, Unknown(28, {24, 26, 72}), {{0, 11, "72"}}},
+    {"WinsFollowRunsBattedIn", {}, Unknown(24, {24, 28, 73}), {{15, 8, "73"}}},
+    {"LossesFollowWins", {}, Unknown(26, {24, 24, 74}), {{15, 10, "74"}}},
+    {"SavesFollowLosses", {}, Unknown(30, {24, 26, 75}), {{15, 11, "75"}}},
+    {"PitchersFollowTheBattersOfThePass", {}, {{14, 30, 78}, {15, 30, 201}}, {{15, 11, "78"}}}};
+// clang-format on
+
+constexpr auto kName = [](const auto& info) { return std::string(info.param.name); };
+INSTANTIATE_TEST_SUITE_P(Names, TeamLoaderCase, ::testing::ValuesIn(kNameCases), kName);
+INSTANTIATE_TEST_SUITE_P(Fields, TeamLoaderCase, ::testing::ValuesIn(kFieldCases), kName);
+INSTANTIATE_TEST_SUITE_P(Numbers, TeamLoaderCase, ::testing::ValuesIn(kNumberCases), kName);
+
+}  // namespace
+}  // namespace morlek
