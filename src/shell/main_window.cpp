@@ -1,5 +1,6 @@
 #include "shell/main_window.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
@@ -27,6 +28,7 @@ namespace {
 constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
 constexpr int kContentHeight = 653;  // logical pixels
+constexpr int kRowMargin = 24;       // what stays in view around a box, likewise
 
 constexpr char kImageFailureTitle[] = "Morlek Editor";
 constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
@@ -106,6 +108,8 @@ void MainWindow::BuildContent() {
   stances_ = new StancePanel(editor_.grid, content_);
   connect(roster_, &RosterFrame::RowChanged, stances_, &StancePanel::Follow);
   connect(roster_, &RosterFrame::CellFocused, this, [this](Column column, int row) {
+    // On a screen with less room than the window needs.
+    scroll_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
     if (!StancePanel::IsFeature(column)) return;
     stances_->Choose(column, row);
     SetContentWidth(kWideWidth);
@@ -279,7 +283,8 @@ void MainWindow::LoadTeam(std::string_view toolbar_key) {
 }
 
 void MainWindow::ShowHint() {
-  hint_->setText(toolbar_->isHidden() ? "Open a ROM with Ctrl+O" : "Pick a team above, or press Ctrl+Page Down");
+  hint_->setText(toolbar_->isHidden() ? "Open a ROM with Ctrl+O"
+                                      : "Pick a team above, or press Ctrl+Page Down");
 }
 
 void MainWindow::ShowIdentity() { identity_->setText(FromCodePage(editor_.identity_text())); }

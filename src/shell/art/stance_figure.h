@@ -13,8 +13,9 @@ enum class StancePiece { kFace, kBody, kLegs };
 /// 0x00-0x04 and 0x10-0x14.
 [[nodiscard]] bool HasPicture(StancePiece piece, int code);
 
-/// Paints one piece alone as large as the target allows, in the middle. Faces come out at one
-/// scale and legs too; a body with a far-reaching bat is a little smaller. The background is left as it is; a code without a picture paints nothing.
+/// Paints one piece alone as large as the target allows, in the middle. Faces come out at one scale
+/// and legs too; a body with a far-reaching bat is a little smaller. The background is left as it
+/// is; a code without a picture paints nothing.
 void PaintPiece(QPainter& painter, const QRectF& target, StancePiece piece, int code);
 
 /// A piece that is empty or has no picture is left blank.
