@@ -1,0 +1,223 @@
+// Loads, saves, exports and imports against the bare system calls that they cannot do without.
+
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "bench_files.h"
+#include "ratio_table.h"
+#include "team/editor.h"
+#include "textfile/team_export.h"
+#include "textfile/team_import.h"
+
+namespace morlek::bench {
+namespace {
+
+constexpr std::uintmax_t kGameBytes = 1573376;
+constexpr std::uintmax_t kHugeBytes = std::uintmax_t{4} << 30U;
+
+class SilentMessages : public MessagePort {
+ public:
+  void Show(const Message& /*message*/) override {}
+};
+
+class NoView : public TeamView {
+ public:
+  void ShowTeamName(std::string_view /*display_name*/) override {}
+  void PrepareView() override {}
+};
+
+/// Counts the single-byte accesses of an operation at the seam through which all of them go.
+class CountingFile : public std::streambuf {
+ public:
+  explicit CountingFile(std::vector<std::int64_t>& positions) : positions_(positions) {}
+
+ protected:
+  pos_type seekpos(pos_type position, std::ios_base::openmode /*which*/) override {
+    positions_.push_back(std::streamoff(position));
+    return position;
+  }
+  int_type underflow() override { return 0; }
+  int_type overflow(int_type character) override { return traits_type::not_eof(character); }
+
+ private:
+  std::vector<std::int64_t>& positions_;
+};
+
+const BenchFolder& Folder() {
+  static const BenchFolder folder;
+  return folder;
+}
+
+/// An editor with the Braves of an image loaded.
+struct LoadedEditor {
+  explicit LoadedEditor(std::uintmax_t image_bytes) {
+    if (editor.OpenFirstImage(Folder().ImageOf(image_bytes)) != Editor::Opening::kAccepted) {
+      throw std::runtime_error("the sample image was not accepted");
+    }
+    editor.loader.Load("Braves", view);
+  }
+
+  SilentMessages messages;
+  NoView view;
+  Editor editor{messages};
+};
+
+/// The offsets that one load or save of a team accesses, in its order.
+std::vector<std::int64_t> OffsetsOf(bool save) {
+  std::vector<std::int64_t> offsets;
+  SilentMessages messages;
+  NoView view;
+  Editor editor(messages, [&offsets](const auto& /*path*/, auto /*mode*/) {
+    return std::make_unique<CountingFile>(offsets);
+  });
+  editor.image.SetPath("any");
+  editor.loader.Load("Braves", view);
+  if (!save) return offsets;
+  LoadedEditor loaded(kGameBytes);
+  for (int row = 0; row < kSlotCount; ++row) {
+    for (const GridColumn& column : ColumnsOfRow(row)) {
+      editor.grid.SetText(column.column, row, loaded.editor.grid.Text(column.column, row));
+    }
+  }
+  offsets.clear();
+  editor.saver.Save();
+  return offsets;
+}
+
+void BareReads(benchmark::State& state) {
+  const std::vector<std::int64_t> offsets = OffsetsOf(false);
+  const std::string image = Folder().ImageOf(kGameBytes).string();
+  for (auto _ : state) {
+    const int file = open(image.c_str(), O_RDWR | O_CLOEXEC);
+    std::uint8_t byte = 0;
+    for (const std::int64_t offset : offsets) {
+      benchmark::DoNotOptimize(pread(file, &byte, 1, offset));
+    }
+    close(file);
+  }
+  state.counters["calls"] = static_cast<double>(offsets.size());
+}
+
+void BareWrites(benchmark::State& state) {
+  const std::vector<std::int64_t> offsets = OffsetsOf(true);
+  const std::string image = Folder().path("written.smc").string();
+  std::filesystem::copy_file(Folder().ImageOf(kGameBytes), image,
+                             std::filesystem::copy_options::overwrite_existing);
+  for (auto _ : state) {
+    const int file = open(image.c_str(), O_RDWR | O_CLOEXEC);
+    const std::uint8_t byte = 7;
+    for (const std::int64_t offset : offsets) {
+      benchmark::DoNotOptimize(pwrite(file, &byte, 1, offset));
+    }
+    close(file);
+  }
+  state.counters["calls"] = static_cast<double>(offsets.size());
+}
+
+void Load(benchmark::State& state, std::uintmax_t image_bytes) {
+  LoadedEditor loaded(image_bytes);
+  for (auto _ : state) loaded.editor.loader.Load("Braves", loaded.view);
+}
+
+void Save(benchmark::State& state, std::uintmax_t image_bytes) {
+  LoadedEditor loaded(image_bytes);
+  for (auto _ : state) loaded.editor.saver.Save();
+}
+
+std::string ExportedText() {
+  LoadedEditor loaded(kGameBytes);
+  const auto path = Folder().path("team.txt");
+  ExportTeamData(loaded.editor.channel, path, loaded.editor.grid);
+  std::string text(std::filesystem::file_size(path), '\0');
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (read(file, text.data(), text.size()) != static_cast<ssize_t>(text.size())) text.clear();
+  close(file);
+  return text;
+}
+
+/// Writes the same bytes line by line, as an export must to notice a full disk in time.
+void BareExport(benchmark::State& state) {
+  const std::string text = ExportedText();
+  const std::string path = Folder().path("bare.txt").string();
+  for (auto _ : state) {
+    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    for (std::size_t from = 0; from < text.size();) {
+      const std::size_t end = text.find('\n', from) + 1;
+      benchmark::DoNotOptimize(write(file, text.data() + from, end - from));
+      from = end;
+    }
+    close(file);
+  }
+}
+
+void Export(benchmark::State& state) {
+  LoadedEditor loaded(kGameBytes);
+  const auto path = Folder().path("exported.txt");
+  for (auto _ : state) ExportTeamData(loaded.editor.channel, path, loaded.editor.grid);
+}
+
+/// Reads the same bytes and puts them into 350 texts of a grid, which is the least to be done.
+void BareImport(benchmark::State& state) {
+  const std::string text = ExportedText();
+  const std::string path = Folder().path("team.txt").string();
+  RosterGrid grid;
+  std::array<char, 8192> buffer{};
+  for (auto _ : state) {
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    while (read(file, buffer.data(), buffer.size()) > 0) {
+    }
+    close(file);
+    ClearRosterGrid(grid);
+    for (int row = 0; row < kSlotCount; ++row) {
+      for (const GridColumn& column : ColumnsOfRow(row)) {
+        grid.SetText(column.column, row, std::string(buffer.data(), 4));
+      }
+    }
+  }
+}
+
+void Import(benchmark::State& state) {
+  LoadedEditor loaded(kGameBytes);
+  ExportedText();
+  const auto path = Folder().path("team.txt");
+  for (auto _ : state) ImportTeamData(loaded.editor.channel, path, loaded.editor.grid);
+}
+
+constexpr std::array<Ratio, 6> kRatios = {{
+    {"load a team / the same single-byte reads", "load", "bare_reads", 2.5},
+    {"save a team / the same single-byte writes", "save", "bare_writes", 2.5},
+    {"load from 4 GiB / from 1.5 MiB", "load_4gib", "load", 1.1},
+    {"save into 4 GiB / into 1.5 MiB", "save_4gib", "save", 1.1},
+    {"export / writing the same lines", "export", "bare_export", 2.0},
+    {"import / reading the same bytes into a grid", "import", "bare_import", 2.5},
+}};
+
+}  // namespace
+}  // namespace morlek::bench
+
+int main(int argument_count, char** arguments) {
+  using namespace morlek::bench;
+  benchmark::Initialize(&argument_count, arguments);
+  const auto add = [](const char* name, auto run) {
+    benchmark::RegisterBenchmark(name, run)->Repetitions(9)->ReportAggregatesOnly()->UseRealTime();
+  };
+  add("bare_reads", BareReads);
+  add("load", [](benchmark::State& state) { Load(state, kGameBytes); });
+  add("load_4gib", [](benchmark::State& state) { Load(state, kHugeBytes); });
+  add("bare_writes", BareWrites);
+  add("save", [](benchmark::State& state) { Save(state, kGameBytes); });
+  add("save_4gib", [](benchmark::State& state) { Save(state, kHugeBytes); });
+  add("bare_export", BareExport);
+  add("export", Export);
+  add("bare_import", BareImport);
+  add("import", Import);
+  MedianCollector collector;
+  benchmark::RunSpecifiedBenchmarks(&collector);
+  return collector.PrintTable(kRatios) ? 0 : 1;
+}

@@ -1,0 +1,26 @@
+// The editor from its start to its painted main window, with the splash dismissed at once.
+
+#include <QTimer>
+
+#include "first_paint.h"
+#include "shell/dialog_user.h"
+#include "shell/look.h"
+#include "shell/main_window.h"
+#include "shell/splash_window.h"
+
+int main(int argument_count, char** arguments) {
+  const QApplication application(argument_count, arguments);
+  morlek::ApplyLook();
+  morlek::DialogUser user;
+  morlek::MainWindow window(user);
+  user.SetWindow(&window);
+  const morlek::bench::QuitAfterFirstPaint quit(window);
+  morlek::SplashWindow splash;
+  QObject::connect(&splash, &morlek::SplashWindow::Dismissed, &window, [&] {
+    window.show();
+    splash.hide();
+  });
+  splash.show();
+  QTimer::singleShot(0, &splash, &morlek::SplashWindow::Dismissed);
+  return QApplication::exec();
+}

@@ -1,0 +1,87 @@
+// Runs the window programs beside it by turns and prints how their start and memory compare.
+
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <iomanip>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+struct Measured {
+  std::vector<double> milliseconds;
+  std::vector<double> mebibytes;
+};
+
+double Median(std::vector<double> values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::ranges::nth_element(values, middle);
+  return *middle;
+}
+
+void RunOnce(const std::filesystem::path& program, Measured& measured) {
+  std::string name = program.string();
+  char* const arguments[] = {name.data(), nullptr};
+  const auto start = std::chrono::steady_clock::now();
+  pid_t process = 0;
+  if (posix_spawn(&process, name.c_str(), nullptr, nullptr, arguments, environ) != 0) {
+    throw std::runtime_error("cannot start " + name);
+  }
+  int status = 0;
+  rusage usage{};
+  wait4(process, &status, 0, &usage);
+  if (status != 0) throw std::runtime_error(name + " failed");
+  const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
+  measured.milliseconds.push_back(time.count());
+  measured.mebibytes.push_back(static_cast<double>(usage.ru_maxrss) / 1024);
+}
+
+double OutputOf(const std::filesystem::path& program) {
+  FILE* pipe = popen(program.c_str(), "r");
+  double value = 0;
+  if (pipe == nullptr || std::fscanf(pipe, "%lf", &value) != 1) {
+    throw std::runtime_error("no figure from " + program.string());
+  }
+  pclose(pipe);
+  return value;
+}
+
+bool PrintRow(const char* what, double value, double limit) {
+  const bool within = value <= limit;
+  std::cout << std::left << std::setw(58) << what << std::right << std::fixed
+            << std::setprecision(2) << std::setw(8) << value << std::setw(10) << limit
+            << (within ? "" : "  OVER") << '\n';
+  return within;
+}
+
+}  // namespace
+
+int main(int /*argument_count*/, char** arguments) {
+  constexpr int kRounds = 21;
+  const std::filesystem::path folder = std::filesystem::path(arguments[0]).parent_path();
+  Measured empty;
+  Measured editor;
+  for (int round = 0; round < kRounds; ++round) {
+    RunOnce(folder / "empty_window", empty);
+    RunOnce(folder / "start_editor", editor);
+  }
+  const double empty_start = Median(empty.milliseconds);
+  const double editor_start = Median(editor.milliseconds);
+  const double empty_memory = Median(empty.mebibytes);
+  const double editor_memory = Median(editor.mebibytes);
+  std::cout << "empty window: " << empty_start << " ms, " << empty_memory
+            << " MiB; editor: " << editor_start << " ms, " << editor_memory << " MiB\n";
+  bool within = PrintRow("start to painted window / empty window", editor_start / empty_start, 1.6);
+  within &= PrintRow("peak memory above the empty window, MiB", editor_memory - empty_memory, 10);
+  within &= PrintRow("click on a team to painted grid, ms", OutputOf(folder / "click_team"), 10);
+  return within ? 0 : 1;
+}
