@@ -53,18 +53,6 @@ TEST(PitcherMarksCodec, DecodesEveryByte) {
   ExpectDecodes(kMarks, 0x10, [&](std::uint8_t byte) { return codec.DecodePitcherMarks(byte); });
 }
 
-TEST(PitcherHand, IsShownByTheHighDigitAlone) {
-  for (int byte = 0; byte < 256; ++byte) {
-    EXPECT_EQ(DecodeThrowingHand(static_cast<std::uint8_t>(byte)), byte < 0x10 ? "R" : "L");
-  }
-}
-
-TEST(PitcherHand, HasAnSFlagByTheSecondCharacterAlone) {
-  for (const char* text : {"RS", "rs", "LS<", "XS", " S"})
-    EXPECT_EQ(EncodePitcherSFlag(text), "01");
-  for (const char* text : {"", "S", "R", "R>", "R<S"}) EXPECT_EQ(EncodePitcherSFlag(text), "00");
-}
-
 TEST(PitcherHandEncoder, EncodesTheTwelveMarkTextsAndRepeatsForOthers) {
   PitcherHandEncoder encoder;
   EXPECT_EQ(encoder.EncodeMarks("RX"), "");
@@ -72,18 +60,6 @@ TEST(PitcherHandEncoder, EncodesTheTwelveMarkTextsAndRepeatsForOthers) {
   (void)encoder.EncodeMarks("L>");
   for (const char* text : {"", "S", "RX", "R<S", "R ", " R", "R<>", "RS<>", "<", "X>"}) {
     EXPECT_EQ(encoder.EncodeMarks(text), "10") << text;
-  }
-}
-
-TEST(PitcherHandEncoder, JoinsHandDigitAndFirstCharacterOfTheFace) {
-  PitcherHandEncoder encoder;
-  EXPECT_EQ(encoder.EncodeHandAndFace("X", "23"), "");
-  EXPECT_EQ(encoder.EncodeHandAndFace("RS<", "23"), "02");
-  EXPECT_EQ(encoder.EncodeHandAndFace("rX", "A"), "0A");
-  EXPECT_EQ(encoder.EncodeHandAndFace("L", "zz"), "1z");
-  EXPECT_EQ(encoder.EncodeHandAndFace("l", ""), "1");
-  for (const char* text : {"", "X", "SR", " R"}) {
-    EXPECT_EQ(encoder.EncodeHandAndFace(text, "45"), "1") << text;
   }
 }
 

@@ -38,16 +38,6 @@ TEST(RatingDigitCodec, FormatsEveryByteInTwoDigits) {
   }
 }
 
-TEST(RatingDigitCodec, ShowsOneMore) {
-  EXPECT_EQ(ShownRating("0"), "1");
-  EXPECT_EQ(ShownRating("9"), "10");
-  EXPECT_EQ(ShownRating("05"), "6");
-  EXPECT_EQ(ShownRating("99"), "100");
-  for (const char* digits : {"A", "E", "F", "0A", "A0", "1E", "E1"}) {
-    EXPECT_EQ(ShownRating(digits), std::nullopt) << digits;
-  }
-}
-
 TEST(RatingDigitCodec, PacksTwoRatingsByJoiningTheirTexts) {
   for (const Pair& pair : kPairs) {
     EXPECT_EQ(PackRatings(pair.first, pair.second), pair.packed) << pair.first << pair.second;

