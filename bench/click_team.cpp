@@ -10,27 +10,9 @@
 #include "bench_files.h"
 #include "shell/look.h"
 #include "shell/main_window.h"
+#include "silent_user.h"
 
 namespace {
-
-/// Opens one image and says nothing.
-class ImageUser : public morlek::User {
- public:
-  explicit ImageUser(QString image) : image_(std::move(image)) {}
-
-  std::optional<QString> AskOpenPath(const morlek::FileQuestion& /*question*/) override {
-    return image_;
-  }
-  std::optional<QString> AskSavePath(const morlek::FileQuestion& /*question*/) override {
-    return std::nullopt;
-  }
-  bool AskYesNo(const QString& /*text*/, const QString& /*title*/) override { return true; }
-  void ShowMessage(const QString& /*text*/, const QString& /*title*/,
-                   morlek::Message::Icon /*icon*/) override {}
-
- private:
-  QString image_;
-};
 
 double MedianOfClicks(morlek::MainWindow& window) {
   constexpr int kRounds = 40;
@@ -54,7 +36,7 @@ int main(int argument_count, char** arguments) {
   const QApplication application(argument_count, arguments);
   morlek::ApplyLook();
   const morlek::bench::BenchFolder folder;
-  ImageUser user(QString::fromStdU16String(folder.ImageOf(0).u16string()));
+  morlek::bench::SilentUser user(QString::fromStdU16String(folder.ImageOf(0).u16string()));
   morlek::MainWindow window(user);
   window.show();
   QCoreApplication::processEvents();

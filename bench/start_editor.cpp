@@ -3,17 +3,16 @@
 #include <QTimer>
 
 #include "first_paint.h"
-#include "shell/dialog_user.h"
 #include "shell/look.h"
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
+#include "silent_user.h"
 
 int main(int argument_count, char** arguments) {
   const QApplication application(argument_count, arguments);
   morlek::ApplyLook();
-  morlek::DialogUser user;
+  morlek::bench::SilentUser user(std::nullopt);
   morlek::MainWindow window(user);
-  user.SetWindow(&window);
   const morlek::bench::QuitAfterFirstPaint quit(window);
   morlek::SplashWindow splash;
   QObject::connect(&splash, &morlek::SplashWindow::Dismissed, &window, [&] {

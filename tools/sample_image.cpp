@@ -82,14 +82,18 @@ class Slot {
   std::span<std::uint8_t> bytes_;
 };
 
-/// Two ratings; the second stops short of the one value that saving cannot give back.
-std::uint8_t RatingPair(Dice& dice) {
-  return static_cast<std::uint8_t>(dice.Between(0, 9) * 16 + dice.Between(0, 8));
+/// A byte of two digits, each up to its limit. Every throw stands in a line of its own: in one
+/// expression their order would be the compiler's choice, and the image with it.
+std::uint8_t TwoDigits(Dice& dice, int highest_first, int highest_second) {
+  const int first = dice.Between(0, highest_first);
+  const int second = dice.Between(0, highest_second);
+  return static_cast<std::uint8_t>(first * 16 + second);
 }
 
-std::uint8_t PictureCode(Dice& dice) {
-  return static_cast<std::uint8_t>(dice.Between(0, 5) * 16 + dice.Between(0, 7));
-}
+/// Two ratings; the second stops short of the one value that saving cannot give back.
+std::uint8_t RatingPair(Dice& dice) { return TwoDigits(dice, 9, 8); }
+
+std::uint8_t PictureCode(Dice& dice) { return TwoDigits(dice, 5, 7); }
 
 void PutBatter(Slot& slot, Dice& dice, int number) {
   slot.Put(offset::kFieldingPosition, kBatterPositions.at(static_cast<std::size_t>(number)));
@@ -104,8 +108,7 @@ void PutPitcher(Slot& slot, Dice& dice, std::uint8_t face) {
   const std::uint8_t marks = dice.OneOf(kMarks);
   const int hand = dice.Between(0, 2) == 0 ? 0x10 : 0x00;
   slot.Put(offset::kFieldingPosition, 0x00);
-  slot.Put(offset::kSecondRatings,
-           static_cast<std::uint8_t>(dice.Between(0, 1) * 16 + dice.Between(0, 9)));
+  slot.Put(offset::kSecondRatings, TwoDigits(dice, 1, 9));
   slot.Put(offset::kPitcherSFlag, marks % 16 == 1 ? 0x01 : 0x00);
   slot.Put(offset::kThrowingHand, static_cast<std::uint8_t>(hand + face / 16));
   slot.Put(offset::kPitcherMarks, marks);
@@ -120,7 +123,8 @@ void PutTeam(std::span<std::uint8_t> record, Dice& dice) {
   int uniform_number = dice.Between(1, 99);
   for (int row = 0; row < kSlotCount; ++row) {
     Slot slot(record.subspan(std::size_t{kSlotBytes} * static_cast<std::size_t>(row), kSlotBytes));
-    slot.PutName(static_cast<char>('A' + dice.Between(0, 25)), dice.OneOf(kSurnames));
+    const auto initial = static_cast<char>('A' + dice.Between(0, 25));
+    slot.PutName(initial, dice.OneOf(kSurnames));
     slot.Put(offset::kUniformNumber, static_cast<std::uint8_t>(uniform_number));
     uniform_number = (uniform_number + kUniformStep - 1) % 99 + 1;
     slot.Put(offset::kFirstRatings, RatingPair(dice));

@@ -16,6 +16,7 @@ inline constexpr std::uint8_t kIdentityByte = 0x3C;
 /// Between operations no file is open and nothing is cached, so what is on the disk is the truth.
 class CartridgeImage {
  public:
+  /// No image and no team yet. The channel outlives the object.
   explicit CartridgeImage(Channel& channel) : channel_(channel) {}
 
   /// The identity byte of the file at `path`, which need not be the current image; 0 when the file

@@ -25,6 +25,7 @@ using FileOpener = std::function<std::unique_ptr<std::streambuf>(const std::file
 /// ones fail until something closes it. That is how the editor is meant to behave.
 class Channel {
  public:
+  /// A closed channel that opens its files by `opener`.
   explicit Channel(FileOpener opener = OpenFile);
 
   /// Opens an existing file for reading and writing single bytes. Never creates a file.
@@ -46,7 +47,8 @@ class Channel {
   /// Throws OperationFailed when the channel is not open for bytes or the read fails.
   [[nodiscard]] std::uint8_t ReadByte(std::int64_t position);
 
-  /// Writes the byte at a 1-based position of a binary file; false when that fails.
+  /// Writes the byte at a 1-based position of a binary file; false when that fails. Past the end
+  /// the file grows, and what lies between reads as 0, as it did before.
   [[nodiscard]] bool WriteByte(std::int64_t position, std::uint8_t value);
 
   /// The next character of a text file, or nothing at its end. Throws OperationFailed when the

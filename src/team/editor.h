@@ -17,6 +17,7 @@ namespace morlek {
 /// current image, what the codecs keep, the roster grid, and the operations on them.
 class Editor {
  public:
+  /// No image, no team, an empty grid. The message port outlives the object.
   explicit Editor(MessagePort& messages, FileOpener opener = OpenFile);
 
   /// What the identity check of a file came to.
@@ -33,12 +34,12 @@ class Editor {
   /// The identity byte of the last file checked, passed or not, as hexadecimal text.
   [[nodiscard]] const std::string& identity_text() const { return identity_text_; }
 
-  Channel channel;
-  CartridgeImage image;
-  Codecs codecs;
-  RosterGrid grid;
-  TeamLoader loader;
-  TeamSaver saver;
+  Channel channel;       // the one file channel, through which all below read and write
+  CartridgeImage image;  // the current image and team
+  Codecs codecs;         // what decoders and encoders keep
+  RosterGrid grid;       // the texts on the screen
+  TeamLoader loader;     // fills the grid from the image
+  TeamSaver saver;       // writes the grid into the image
 
  private:
   [[nodiscard]] Opening Judge(const std::filesystem::path& path, std::uint8_t identity);

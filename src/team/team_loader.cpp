@@ -15,7 +15,15 @@ namespace {
 using enum Column;
 
 std::string WhereText(int row, int offset) {
-  return " of player slot " + std::to_string(row) + " (offset " + std::to_string(offset) + ")";
+  const std::string player = IsPitcher(row) ? "pitcher " + std::to_string(row - kBatterCount + 1)
+                                            : "batter " + std::to_string(row + 1);
+  return " at offset " + std::to_string(offset) + " of player slot " + std::to_string(row) + " (" +
+         player + ")";
+}
+
+/// The first character, a point, and the rest: the form of names and earned run averages.
+std::string WithPoint(const std::string& text) {
+  return text.substr(0, 1) + "." + (text.empty() ? "" : text.substr(1));
 }
 
 }  // namespace
@@ -58,8 +66,7 @@ void TeamLoader::LoadNames() {
     for (int letter = 0; letter < kNameBytes; ++letter) {
       letters += codecs_.name_letter.DecodeNameLetter(Read(row, offset::kName + letter));
     }
-    grid_.SetText(kText1, row,
-                  letters.empty() ? "." : letters.substr(0, 1) + "." + letters.substr(1));
+    grid_.SetText(kText1, row, WithPoint(letters));
   }
 }
 
@@ -135,7 +142,7 @@ void TeamLoader::LoadEarnedRunAverages() {
     const std::string& digits =
         codecs_.earned_run_average.DecodeEarnedRunAverage(PairKey(low, high));
     if (!IsPitcher(row)) continue;
-    grid_.SetText(kText9, row, digits.empty() ? "." : digits.substr(0, 1) + "." + digits.substr(1));
+    grid_.SetText(kText9, row, WithPoint(digits));
   }
 }
 

@@ -12,8 +12,8 @@ class LineReader {
  public:
   explicit LineReader(Channel& channel) : channel_(channel) {}
 
-  /// Goes to the next line; throws OperationFailed when the file has none.
-  void NextLine() {
+  /// Throws OperationFailed when there is no further line.
+  void RequireLine() {
     if (!channel_.PeekCharacter()) throw OperationFailed("The file has too few lines.");
   }
 
@@ -46,7 +46,7 @@ void ImportTeamData(Channel& channel, const std::filesystem::path& path, RosterG
   LineReader reader(channel);
   std::string field;
   for (int row = 0; row < kSlotCount; ++row) {
-    reader.NextLine();
+    reader.RequireLine();
     const BlockColumns& columns = ColumnsOfRow(row);
     std::size_t index = 0;
     while (const std::optional<char> character = reader.NextCharacter()) {
