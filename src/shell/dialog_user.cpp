@@ -3,13 +3,21 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QSettings>
 
 namespace morlek {
+
+DialogUser::DialogUser() {
+  // The toolkit's file dialog writes the folders that it showed to a settings file of its own; the
+  // program keeps nothing between runs. Below this path no file can be.
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+}
 
 std::optional<QString> DialogUser::AskOpenPath(const FileQuestion& question) {
   QFileDialog dialog(window_);
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
-  dialog.setFileMode(QFileDialog::ExistingFile);
+  // Whether the file can be opened is found out by opening it.
+  dialog.setFileMode(QFileDialog::AnyFile);
   return Ask(dialog, question);
 }
 

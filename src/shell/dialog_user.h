@@ -14,6 +14,8 @@ namespace morlek {
 /// was used last, the first one in the working directory.
 class DialogUser : public User {
  public:
+  DialogUser();
+
   /// The window over which dialogs stand.
   void SetWindow(QWidget* window) { window_ = window; }
 

@@ -1,7 +1,6 @@
 #include "shell/help_pane.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <functional>
 #include <utility>
@@ -27,15 +26,11 @@ class HelpTextBox : public QPlainTextEdit {
 
  protected:
   bool event(QEvent* event) override {
-    if (event->type() == QEvent::ShortcutOverride) {
-      auto* key = static_cast<QKeyEvent*>(event);
-      if (IsMenuKey(key->keyCombination())) {
-        key->ignore();
-        return false;
-      }
-    }
-    return QPlainTextEdit::event(event);
+    return !LeaveToMenu(*event) && QPlainTextEdit::event(event);
   }
+
+  // The grid below is covered, so the tab key does not go there.
+  bool focusNextPrevChild(bool /*next*/) override { return true; }
 
   void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { double_clicked_(); }
 
@@ -60,11 +55,12 @@ void HelpPane::Open() {
   focused_before_ = QApplication::focusWidget();
   show();
   raise();
-  text_->setFocus(Qt::OtherFocusReason);
+  // As if it were a menu: the box that had the focus keeps its selection.
+  text_->setFocus(Qt::PopupFocusReason);
 }
 
 void HelpPane::Close() {
-  // The focus goes back as it does after a menu: the box does not take it for a new visit.
+  // Likewise on the way back: the box does not take it for a new visit.
   if (focused_before_) focused_before_->setFocus(Qt::PopupFocusReason);
   hide();
 }

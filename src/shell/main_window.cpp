@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
@@ -47,6 +48,7 @@ MainWindow::MainWindow(User& user) : user_(user), editor_(user) {
   setAccessibleName(kProgramTitle);
   BuildMenus();
   BuildContent();
+  ShowHint();
   SetContentWidth(kNarrowWidth);
 }
 
@@ -81,9 +83,9 @@ void MainWindow::BuildContent() {
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll_->setFocusPolicy(Qt::NoFocus);
-  scroll_->setAccessibleName("team");
+  scroll_->setAccessibleName("scrolling area");
   content_ = new QWidget;
-  content_->setAccessibleName("team");
+  content_->setAccessibleName("content");
   scroll_->setWidget(content_);
   setCentralWidget(scroll_);
 
@@ -103,11 +105,14 @@ void MainWindow::BuildContent() {
 
   roster_ = new RosterFrame(editor_.grid, content_);
   roster_->hide();
-  connect(roster_, &RosterFrame::SaveRequested, this, [this] { editor_.saver.Save(); });
+  connect(roster_, &RosterFrame::SaveRequested, this, [this] {
+    // A hidden button can still be pressed by an assistive tool.
+    if (roster_->isVisible()) editor_.saver.Save();
+  });
 
   stances_ = new StancePanel(editor_.grid, content_);
   connect(roster_, &RosterFrame::RowChanged, stances_, &StancePanel::Follow);
-  connect(roster_, &RosterFrame::CellFocused, this, [this](Column column, int row) {
+  connect(roster_, &RosterFrame::CellVisited, this, [this](Column column, int row) {
     // On a screen with less room than the window needs.
     scroll_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
     if (!StancePanel::IsFeature(column)) return;
@@ -139,7 +144,10 @@ void MainWindow::FitToScreen() {
   const int borders = frameGeometry().height() - height();
   const int room = screen()->availableGeometry().height() - borders;
   QSize size(content_->width(), content_->height() + menu_height);
-  if (size.height() > room) {
+  const bool fits = size.height() <= room;
+  // Never as needed: rounding at a fractional scale factor can make the content a pixel too high.
+  scroll_->setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
+  if (!fits) {
     size.setHeight(room);
     size.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
   }
@@ -173,12 +181,15 @@ void MainWindow::Run(Command command) {
       SetAlwaysOnTop(false);
       break;
     case Command::kHelp:
+      scroll_->verticalScrollBar()->setValue(0);
       help_->Open();
       break;
   }
 }
 
 void MainWindow::OpenFirstImage() {
+  // Only now is it known how much the system's borders take.
+  FitToScreen();
   const QString path = user_.AskOpenPath(RomQuestion()).value_or(QString());
   const Editor::Opening opening = editor_.OpenFirstImage(ToPath(path));
   ShowIdentity();
@@ -186,7 +197,6 @@ void MainWindow::OpenFirstImage() {
     toolbar_->show();
     ShowHint();
   } else {
-    ShowHint();
     user_.ShowMessage("You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle,
                       Message::Icon::kNone);
   }
@@ -212,8 +222,8 @@ void MainWindow::OpenAnotherImage() {
     return;
   }
   toolbar_->show();
-  ShowHint();
-  roster_->hide();
+  toolbar_->Restart();
+  HideRoster();
   SetContentWidth(kNarrowWidth);
 }
 
@@ -278,11 +288,24 @@ void MainWindow::LoadTeam(std::string_view toolbar_key) {
   } catch (const OperationFailed& failure) {
     user_.ShowMessage(failure.what(), kProgramTitle, Message::Icon::kCritical);
     editor_.image.Close();
-    roster_->hide();
+    HideRoster();
+    return;
   }
+  // New texts have no selection; typing is to replace the value, as after a visit.
+  auto* box = qobject_cast<QLineEdit*>(focusWidget());
+  if (box != nullptr && roster_->isAncestorOf(box)) box->selectAll();
+}
+
+void MainWindow::HideRoster() {
+  // A hidden widget that kept the focus would go on taking keys.
+  QWidget* focused = focusWidget();
+  if (focused != nullptr && roster_->isAncestorOf(focused)) focused->clearFocus();
+  roster_->hide();
+  ShowHint();
 }
 
 void MainWindow::ShowHint() {
+  hint_->show();
   hint_->setText(toolbar_->isHidden() ? "Open a ROM with Ctrl+O"
                                       : "Pick a team above, or press Ctrl+Page Down");
 }
@@ -293,6 +316,7 @@ void MainWindow::ShowTeamName(std::string_view display_name) { roster_->SetTeamN
 
 void MainWindow::PrepareView() {
   toolbar_->show();
+  hint_->hide();
   roster_->show();
   SetContentWidth(kNarrowWidth);
 }

@@ -51,6 +51,9 @@ class MainWindow : public QMainWindow, private TeamView {
   void ShowAbout();
   void LoadTeam(std::string_view toolbar_key);
 
+  /// Hides the grid and SAVE with it, until a team is loaded.
+  void HideRoster();
+
   void ShowIdentity();
   void ShowHint();
   void ShowTeamName(std::string_view display_name) override;

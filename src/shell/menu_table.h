@@ -4,6 +4,8 @@
 #include <array>
 #include <span>
 
+class QEvent;
+
 namespace morlek {
 
 /// What a menu item does.
@@ -57,7 +59,12 @@ inline constexpr std::array<MenuTable, 3> kMenus = {{
     {"mnuHelp", "Help", kHelpItems},
 }};
 
-/// True for the shortcut key of a menu item; text boxes leave those to the menu.
+/// True for the shortcut key of a menu item.
 [[nodiscard]] bool IsMenuKey(QKeyCombination key);
+
+/// True when the event asks a text box whether it wants a menu item's shortcut key for itself; the
+/// event is then refused, and the box has to return false for it. Line and text editors would take
+/// Ctrl+A and Ctrl+E otherwise.
+[[nodiscard]] bool LeaveToMenu(QEvent& event);
 
 }  // namespace morlek

@@ -18,6 +18,12 @@ QString ObjectNameOf(Column column, int row) {
   return QString("Text%1(%2)").arg(static_cast<int>(column)).arg(row);
 }
 
+/// Whether the focus comes back from a menu or another window, which is no new visit.
+bool IsReturn(Qt::FocusReason reason) {
+  return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+         reason == Qt::MenuBarFocusReason;
+}
+
 QString AccessibleNameOf(const GridColumn& column, int row) {
   const int number = IsPitcher(row) ? row - kBatterCount + 1 : row + 1;
   return QString("%1, %2 %3")
@@ -39,6 +45,7 @@ RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
     setAlignment(Qt::AlignCenter);
   }
   connect(this, &QLineEdit::textChanged, this, &RosterBox::KeepToCodePage);
+  connect(this, &QLineEdit::textEdited, this, &RosterBox::DropLineBreaks);
 }
 
 void RosterBox::PaintPanel(QPainter& painter) const {
@@ -51,17 +58,7 @@ void RosterBox::PaintPanel(QPainter& painter) const {
   }
 }
 
-bool RosterBox::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
-    auto* key = static_cast<QKeyEvent*>(event);
-    if (IsMenuKey(key->keyCombination())) {
-      // Unclaimed here, the key reaches the menu instead of the line editor's own commands.
-      key->ignore();
-      return false;
-    }
-  }
-  return QLineEdit::event(event);
-}
+bool RosterBox::event(QEvent* event) { return !LeaveToMenu(*event) && QLineEdit::event(event); }
 
 void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
   const std::unique_ptr<QMenu> menu(createStandardContextMenu());
@@ -78,23 +75,21 @@ void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
 void RosterBox::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   raise();
-  switch (event->reason()) {
-    case Qt::ActiveWindowFocusReason:
-    case Qt::PopupFocusReason:
-    case Qt::MenuBarFocusReason:
-      return;
-    case Qt::MouseFocusReason:
-      swallowing_press_ = true;
-      break;
-    default:
-      break;
+  if (IsReturn(event->reason())) {
+    if (selection_before_.length > 0) {
+      setSelection(selection_before_.start, selection_before_.length);
+    }
+    return;
   }
+  swallowing_press_ = event->reason() == Qt::MouseFocusReason;
   selectAll();
-  emit FocusReceived();
+  emit Visited();
 }
 
 void RosterBox::focusOutEvent(QFocusEvent* event) {
   swallowing_press_ = false;
+  // The line editor itself drops the selection when the menu bar takes the focus.
+  selection_before_ = {selectionStart(), selectionLength()};
   QLineEdit::focusOutEvent(event);
 }
 
@@ -110,7 +105,9 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
 }
 
 void RosterBox::mousePressEvent(QMouseEvent* event) {
-  if (!swallowing_press_) QLineEdit::mousePressEvent(event);
+  if (swallowing_press_) return;
+  QLineEdit::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton) emit Visited();
 }
 
 void RosterBox::mouseMoveEvent(QMouseEvent* event) {
@@ -122,11 +119,20 @@ void RosterBox::mouseReleaseEvent(QMouseEvent* event) {
   swallowing_press_ = false;
 }
 
-void RosterBox::KeepToCodePage(const QString& text) {
-  const QString kept = FromCodePage(ToCodePage(text));
-  if (kept == text) return;
-  const int cursor = cursorPosition();
-  setText(kept);
+void RosterBox::KeepToCodePage() {
+  Convert([](const QString& part) { return FromCodePage(ToCodePage(part)); });
+}
+
+void RosterBox::DropLineBreaks() {
+  Convert([](QString part) { return part.remove('\r').remove('\n'); });
+}
+
+template <typename Conversion>
+void RosterBox::Convert(Conversion convert) {
+  const QString converted = convert(text());
+  if (converted == text()) return;
+  const auto cursor = static_cast<int>(convert(text().left(cursorPosition())).size());
+  setText(converted);
   setCursorPosition(cursor);
 }
 

@@ -22,8 +22,9 @@ class RosterBox : public QLineEdit {
   void PaintPanel(QPainter& painter) const;
 
  signals:
-  /// The focus came by keyboard, mouse or program, not by a return from a menu or another window.
-  void FocusReceived();
+  /// The focus came by keyboard, mouse or program, not by a return from a menu or another window;
+  /// or the box was clicked while it had the focus.
+  void Visited();
 
   /// Up (-1) or Down (+1) was pressed.
   void RowStepRequested(int rows);
@@ -39,13 +40,24 @@ class RosterBox : public QLineEdit {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  void KeepToCodePage(const QString& text);
+  void KeepToCodePage();
+  /// A line break, which only a paste or a drop can bring, would break an exported line in two.
+  void DropLineBreaks();
+  /// Converts the text and keeps the cursor behind the same character.
+  template <typename Conversion>
+  void Convert(Conversion convert);
+
+  struct Selection {
+    int start = 0;
+    int length = 0;
+  };
 
   Column column_;
   int row_;
   // True from the mouse press that gave the focus up to its release: it must not drop the
   // selection.
   bool swallowing_press_ = false;
+  Selection selection_before_;
 };
 
 }  // namespace morlek

@@ -86,14 +86,15 @@ void RosterFrame::AddRow(int row) {
     auto* box = new RosterBox(column, row, this);
     box->setGeometry(RectFromTwips(column.left, TopOfRow(row), column.width, kBoxHeight));
     boxes_.at(static_cast<std::size_t>(row)).at(Index(column.column)) = box;
-    connect(box, &RosterBox::textChanged, this, [this, box](const QString& text) {
-      const std::string typed = ToCodePage(text);
+    connect(box, &RosterBox::textChanged, this, [this, box] {
+      // Not the signal's text, which the box may have corrected by now.
+      const std::string typed = ToCodePage(box->text());
       if (grid_.Text(box->column(), box->row()) != typed) {
         grid_.SetText(box->column(), box->row(), typed);
       }
     });
-    connect(box, &RosterBox::FocusReceived, this,
-            [this, box] { emit CellFocused(box->column(), box->row()); });
+    connect(box, &RosterBox::Visited, this,
+            [this, box] { emit CellVisited(box->column(), box->row()); });
     connect(box, &RosterBox::RowStepRequested, this,
             [this, box](int rows) { StepRow(*box, rows); });
   }

@@ -26,8 +26,8 @@ class RosterFrame : public QFrame {
  signals:
   void SaveRequested();
 
-  /// The box of this column and row (0 to 24) received the focus.
-  void CellFocused(Column column, int row);
+  /// The box of this column and row (0 to 24) received the focus, or was clicked again.
+  void CellVisited(Column column, int row);
 
   /// The text of a cell of this row has changed.
   void RowChanged(int row);

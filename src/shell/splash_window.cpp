@@ -1,6 +1,7 @@
 #include "shell/splash_window.h"
 
 #include <QAbstractButton>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "shell/art/title_art.h"
@@ -39,6 +40,18 @@ SplashWindow::SplashWindow() {
   connect(picture, &QAbstractButton::clicked, this, &SplashWindow::Dismissed);
 }
 
-void SplashWindow::keyPressEvent(QKeyEvent* /*event*/) { emit Dismissed(); }
+void SplashWindow::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+      // Held for another key, perhaps one that is the window manager's.
+      return;
+    default:
+      emit Dismissed();
+  }
+}
 
 }  // namespace morlek

@@ -13,6 +13,9 @@ class TeamToolbar : public QWidget {
  public:
   explicit TeamToolbar(QWidget* parent);
 
+  /// Begins anew with the first team, for another image.
+  void Restart() { picked_ = kNone; }
+
  signals:
   /// The button of the team with this toolbar key was clicked.
   void TeamPicked(std::string_view toolbar_key);
@@ -20,7 +23,8 @@ class TeamToolbar : public QWidget {
  private:
   void Pick(int place);
 
-  int picked_ = -1;  // place in the directory; none at first
+  static constexpr int kNone = -1;
+  int picked_ = kNone;  // place in the directory
 };
 
 }  // namespace morlek

@@ -2,8 +2,10 @@
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSettings>
 #include <QTimer>
 
 #include "shell/window_fixture.h"
@@ -62,6 +64,15 @@ TEST_F(DialogUserTest, OpenDialogGivesThePathAndLaterOnesStartInItsFolder) {
     dialog.reject();
   });
   EXPECT_EQ(user.AskOpenPath({"Another", "SNES File (*.smc)|*.smc"}), std::nullopt);
+
+  const QSettings kept(QSettings::UserScope, "QtProject");
+  EXPECT_FALSE(QFileInfo::exists(kept.fileName())) << "the program keeps nothing between runs";
+}
+
+TEST_F(DialogUserTest, MissingFileIsGivenAsItIsTyped) {
+  const QString path = PathText(folder / "missing.smc");
+  AnswerNext<QFileDialog>([&](QFileDialog& dialog) { TypeNameAndAccept(dialog, path); });
+  EXPECT_EQ(user.AskOpenPath({"Title", "SNES File (*.smc)|*.smc"}), path);
 }
 
 TEST_F(DialogUserTest, SaveDialogReplacesWithoutAskingAndAddsNoExtension) {

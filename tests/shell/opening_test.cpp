@@ -128,6 +128,25 @@ TEST_F(OpeningTest, TeamThatCannotBeLoadedIsReportedAndTheGridHidden) {
   EXPECT_EQ(LabelText("Label4(0)"), "NEW YORK METS");
 }
 
+TEST_F(OpeningTest, KeysDoNotReachTheHiddenGrid) {
+  StartWithTeam();
+  Find("Command1").setFocus();
+  OpenLater(ImagePath());
+  QTest::keyClick(window.get(), Qt::Key_Space);
+  Find<QAbstractButton>("Command1").click();
+  EXPECT_TRUE(user.messages.empty()) << "saved into an image of which no team is loaded";
+  EXPECT_EQ(window->focusWidget(), nullptr);
+
+  Click("Braves");
+  QTest::mouseClick(&Box(1, 0), Qt::LeftButton);
+  const QString name = Box(1, 0).text();
+  std::filesystem::remove(ImageFile());
+  Click("Mets");
+  user.messages.clear();
+  QTest::keyClicks(window.get(), "X");
+  EXPECT_EQ(Box(1, 0).text(), name);
+}
+
 TEST_F(OpeningTest, RatingThatIsNoNumberIsReportedWithItsPlace) {
   std::vector<std::uint8_t> bytes = Sample();
   bytes.at(kBraves - 1 + 32 * 7 + 12) = 0x4E;

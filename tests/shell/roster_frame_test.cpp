@@ -85,7 +85,10 @@ TEST_F(RosterFrameTest, TeamsCanBePickedByKeyboard) {
   EXPECT_EQ(press(Qt::Key_PageDown), "ATLANTA BRAVES");
   EXPECT_EQ(press(Qt::Key_PageDown), "BALTIMORE ORIOLES");
   EXPECT_EQ(press(Qt::Key_PageUp), "ATLANTA BRAVES");
-  EXPECT_EQ(press(Qt::Key_PageUp), "ATLANTA BRAVES");
+  user.paths.push_back(ImagePath());
+  press(Qt::Key_PageDown);
+  Choose("mnuOpen");
+  EXPECT_EQ(press(Qt::Key_PageDown), "ATLANTA BRAVES") << "another image starts anew";
 }
 
 TEST_F(RosterFrameTest, EachTeamButtonLoadsItsTeam) {

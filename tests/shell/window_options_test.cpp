@@ -40,6 +40,22 @@ TEST_F(WindowOptionsTest, NarrowingKeepsTheChooserForTheNextWidening) {
   EXPECT_TRUE(Find("Frame3").isHidden());
 }
 
+TEST_F(WindowOptionsTest, ClickWidensAgainAlsoWhereTheFocusHasStayed) {
+  StartWithTeam();
+  for (const char* narrowing : {"mnuMini", "Cubs"}) {
+    QTest::mouseClick(&Box(12, 0), Qt::LeftButton);
+    EXPECT_EQ(window->width(), kWide);
+    if (narrowing == std::string("mnuMini")) {
+      Choose(narrowing);
+    } else {
+      Click(narrowing);
+    }
+    EXPECT_EQ(window->width(), kNarrow);
+    QTest::mouseClick(&Box(12, 0), Qt::LeftButton);
+    EXPECT_EQ(window->width(), kWide) << narrowing;
+  }
+}
+
 TEST_F(WindowOptionsTest, NothingOfAChooserShowsInTheNarrowLayout) {
   StartWithTeam();
   const QImage before = window->grab().toImage();
@@ -67,10 +83,14 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   QTest::mouseClick(help.viewport(), Qt::LeftButton);
   QTest::keyClick(&help, Qt::Key_Escape);
   QTest::keyClicks(&help, "x");
+  QTest::keyClick(&help, Qt::Key_Tab);
+  QTest::keyClick(&help, Qt::Key_Backtab);
+  EXPECT_EQ(QApplication::focusWidget(), &help) << "the covered grid takes no keys";
   EXPECT_TRUE(IsShown("Frame5"));
   DoubleClick(*help.viewport());
   EXPECT_FALSE(IsShown("Frame5"));
   EXPECT_EQ(QApplication::focusWidget(), &Box(13, 3));
+  EXPECT_EQ(Box(13, 3).selectedText(), Box(13, 3).text());
   EXPECT_EQ(window->width(), kNarrow) << "closing the help is no visit to a features box";
 }
 
