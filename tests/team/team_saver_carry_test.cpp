@@ -75,10 +75,11 @@ TEST(TeamSaverFirst, CountsWithoutAnyNumberBeforeAreZero) {
   editor.image.SetPath("image");
   editor.image.SetTeamBase(1);
   editor.grid.SetText(Column::kText10, 0, "201");
+  editor.grid.SetText(Column::kText11, 0, "201");
   editor.grid.SetText(Column::kText10, 1, "x");
   editor.saver.Save();
   // No number text at all, then the untouched buffer, beside the flags of the ten pitchers.
-  std::vector<ByteAccess> expected = {{1 + 26, 0}, {33 + 26, 0}};
+  std::vector<ByteAccess> expected = {{1 + 26, 0}, {1 + 28, 0}, {33 + 26, 0}};
   for (int row = 15; row < 25; ++row) expected.push_back({1 + 32 * row + 17, 0});
   EXPECT_EQ(disk.writes, expected);
 }

@@ -69,16 +69,15 @@ TEST_F(TeamSaverFailure, NothingIsWrittenWithoutATeamOrAnImage) {
 TEST_F(TeamSaverFailure, AStuckChannelIsClosedAndItsFileUntouched) {
   Load("Braves");
   disk.files["stuck"] = image();
+  ASSERT_TRUE(editor.channel.OpenBinary("stuck"));
+  EXPECT_FALSE(editor.image.WriteField(0, 0, 1));
+  ExpectNothingButTheMessage();
   ASSERT_TRUE(editor.channel.OpenTextInput("stuck"));
   ExpectNothingButTheMessage();
   ASSERT_TRUE(editor.channel.OpenTextOutput("text"));
   ExpectNothingButTheMessage();
-  ASSERT_TRUE(editor.channel.OpenBinary("stuck"));
-  ExpectNothingButTheMessage();
   ASSERT_TRUE(editor.channel.OpenBinary(kImage));
   ExpectNothingButTheMessage();
-  ASSERT_TRUE(editor.channel.OpenBinary("stuck"));
-  EXPECT_FALSE(editor.image.WriteField(0, 0, 1));
 }
 
 TEST_F(TeamSaverFailure, TheCodecsRunWhereNothingCanBeWritten) {
