@@ -22,7 +22,7 @@ class MemoryFile : public std::streambuf {
   }
 
   int_type underflow() override {
-    if (IsDue(disk_.failing_read)) throw std::ios_base::failure("bad sector");
+    if (disk_.FailsNow() || IsDue(disk_.failing_read)) throw std::ios_base::failure("bad sector");
     const bool at_end = place_ >= bytes_.size();
     const int byte = at_end ? -1 : bytes_[place_];
     disk_.reads.push_back({static_cast<std::int64_t>(place_) + 1, byte});
@@ -36,7 +36,7 @@ class MemoryFile : public std::streambuf {
   }
 
   int_type overflow(int_type character) override {
-    if (IsDue(disk_.failing_write)) return traits_type::eof();
+    if (disk_.FailsNow() || IsDue(disk_.failing_write)) return traits_type::eof();
     if (place_ >= bytes_.size()) bytes_.resize(place_ + 1);
     bytes_[place_] = static_cast<std::uint8_t>(character);
     ++place_;
@@ -52,9 +52,17 @@ class MemoryFile : public std::streambuf {
 
 }  // namespace
 
+bool MemoryDisk::FailsNow() {
+  if (failing_access == 0 || --failing_access > 0) return false;
+  if (fails_from_then_on) failing_access = 1;
+  ++failures;
+  return true;
+}
+
 FileOpener MemoryDisk::Opener() {
   return [this](const std::filesystem::path& path,
                 std::ios_base::openmode mode) -> std::unique_ptr<std::streambuf> {
+    if (FailsNow()) return nullptr;
     if ((mode & std::ios_base::trunc) != 0) files[path].clear();
     const auto file = files.find(path);
     if (file == files.end()) return nullptr;

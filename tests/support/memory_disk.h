@@ -29,6 +29,15 @@ class MemoryDisk {
   int failing_read = 0;
   int failing_write = 0;
 
+  /// Which open, read or write from now on fails, counted together from 1; 0 for none. Then either
+  /// that one alone or every later one too. `failures` counts those that did.
+  int failing_access = 0;
+  bool fails_from_then_on = false;
+  int failures = 0;
+
+  /// Counts an access and tells whether it is to fail.
+  [[nodiscard]] bool FailsNow();
+
   /// The opener that a channel takes; the disk has to outlive it.
   [[nodiscard]] FileOpener Opener();
 };

@@ -1,0 +1,169 @@
+#include <set>
+
+#include "image/failure.h"
+#include "support/editor_fixture.h"
+#include "textfile/team_export.h"
+#include "textfile/team_import.h"
+
+namespace morlek {
+namespace {
+
+constexpr char kText[] = "team.txt";
+
+/// The offsets of a row that a save may write.
+const std::set<int>& SavedOffsets(int row) {
+  static const std::set<int> batter = {0,  1,  2,  3,  4,  5,  6,  7,  8,  9, 10,
+                                       11, 12, 13, 14, 15, 16, 24, 25, 26, 28};
+  static const std::set<int> pitcher = {0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11,
+                                        12, 14, 15, 16, 17, 21, 23, 24, 26, 28, 29, 30};
+  return row < 15 ? batter : pitcher;
+}
+
+/// Runs an operation again and again, with its first, second, ... file access failing, until it
+/// gets through; each time that access alone and then all from that one on.
+class AnomalyTest : public EditorTest {
+ protected:
+  template <typename Prepare, typename Operation, typename Check>
+  void FailEachAccess(Prepare prepare, Operation operation, Check check) {
+    for (const bool from_then_on : {false, true}) {
+      int access = 0;
+      do {
+        ++access;
+        SCOPED_TRACE(testing::Message() << "access " << access << ", later too: " << from_then_on);
+        prepare();
+        disk.writes.clear();
+        messages.shown.clear();
+        disk.failures = 0;
+        disk.failing_access = access;
+        disk.fails_from_then_on = from_then_on;
+        operation();
+        disk.failing_access = 0;
+        check();
+      } while (disk.failures > 0 && !HasFailure());
+      EXPECT_GT(access, 2) << "nothing was made to fail";
+    }
+  }
+
+  /// Runs something that ends by an exception when it fails; true when it came through.
+  template <typename Operation>
+  static bool Succeeds(Operation operation) {
+    try {
+      operation();
+    } catch (const OperationFailed&) {
+      return false;
+    }
+    return true;
+  }
+
+  void PutPlainRecord() { std::ranges::copy(PlainRecord(), image().begin() + (kBraves - 1)); }
+
+  [[nodiscard]] bool failed() const { return disk.failures > 0; }
+
+  bool succeeded = false;
+};
+
+TEST_F(AnomalyTest, IdentityCheck) {
+  const auto nothing = [] {};
+  FailEachAccess(
+      nothing,
+      [this] {
+        succeeded = Succeeds(
+            [this] { EXPECT_EQ(editor.OpenAnotherImage(kImage), Editor::Opening::kAccepted); });
+      },
+      [this] {
+        EXPECT_EQ(succeeded, !failed());
+        EXPECT_EQ(editor.identity_text(), "3C");
+        editor.image.Close();
+      });
+  FailEachAccess(
+      nothing, [this] { succeeded = editor.OpenFirstImage(kImage) == Editor::Opening::kAccepted; },
+      [this] {
+        EXPECT_EQ(succeeded, !failed());
+        EXPECT_EQ(editor.identity_text(), failed() ? "0" : "3C");
+        EXPECT_FALSE(editor.channel.is_open());
+      });
+  EXPECT_TRUE(disk.writes.empty());
+}
+
+TEST_F(AnomalyTest, Load) {
+  FailEachAccess([] {}, [this] { succeeded = Succeeds([this] { Load("Braves"); }); },
+                 [this] {
+                   EXPECT_EQ(succeeded, !failed());
+                   EXPECT_TRUE(disk.writes.empty());
+                   EXPECT_TRUE(messages.shown.empty());
+                   editor.image.Close();
+                   if (disk.failures != 1) return;
+                   EXPECT_TRUE(Succeeds([this] { Load("Orioles"); }));
+                   EXPECT_EQ(Text(14, 24), "18");
+                 });
+}
+
+TEST_F(AnomalyTest, Save) {
+  Load("Braves");
+  Type({{0, 3, "99"}, {20, 14, "4F"}});
+  FailEachAccess(
+      [this] { PutPlainRecord(); }, [this] { editor.saver.Save(); },
+      [this] {
+        EXPECT_EQ(messages.shown, std::vector<Message>{{"Your changes have been saved."}});
+        for (const ByteAccess& write : disk.writes) {
+          const auto place = static_cast<int>(write.position - kBraves);
+          EXPECT_TRUE(place >= 0 && place < 800 && SavedOffsets(place / 32).contains(place % 32))
+              << "offset " << place % 32 << " of row " << place / 32;
+        }
+        EXPECT_FALSE(editor.channel.is_open());
+        if (disk.failures != 1) return;
+        Save();
+        EXPECT_EQ(image().at(kBraves - 1 + 10), 99);
+        EXPECT_EQ(image().at(kBraves - 1 + 32 * 20 + 16), 0x4F);
+      });
+}
+
+TEST_F(AnomalyTest, Export) {
+  std::string lines;
+  for (int row = 0; row < 25; ++row) lines += ",,,,,,,,,,,,,,\r\n";
+  FailEachAccess(
+      [] {},
+      [this] {
+        succeeded = Succeeds([this] { ExportTeamData(editor.channel, kText, editor.grid); });
+      },
+      [this, &lines] {
+        EXPECT_EQ(succeeded, !failed());
+        const std::vector<std::uint8_t>& file = disk.files[kText];
+        const bool is_prefix =
+            file.size() <= lines.size() && std::equal(file.begin(), file.end(), lines.begin());
+        EXPECT_TRUE(is_prefix);
+        EXPECT_EQ(succeeded, file.size() == lines.size() && !editor.channel.is_open());
+        // Whatever is left open, a save frees it; no team is loaded, so nothing is written.
+        Save();
+        EXPECT_TRUE(disk.writes.empty());
+        EXPECT_TRUE(Succeeds([this] { ExportTeamData(editor.channel, kText, editor.grid); }));
+        disk.files[kText].clear();
+      });
+}
+
+TEST_F(AnomalyTest, Import) {
+  std::string lines;
+  for (int row = 0; row < 25; ++row) lines += "A,\r\n";
+  disk.files[kText].assign(lines.begin(), lines.end());
+  FailEachAccess(
+      [this] {
+        ClearRosterGrid(editor.grid);
+        Type({{24, 2, "old"}});
+      },
+      [this] {
+        succeeded = Succeeds([this] { ImportTeamData(editor.channel, kText, editor.grid); });
+      },
+      [this] {
+        EXPECT_EQ(succeeded, !failed());
+        EXPECT_EQ(succeeded, Text(1, 24) == "A" && !editor.channel.is_open());
+        // The grid is emptied only when the file has been opened.
+        EXPECT_EQ(Text(2, 24), !succeeded && !editor.channel.is_open() ? "old" : "");
+        editor.image.Close();
+        EXPECT_TRUE(Succeeds([this] { ImportTeamData(editor.channel, kText, editor.grid); }));
+        EXPECT_EQ(Text(1, 24), "A");
+      });
+  EXPECT_TRUE(disk.writes.empty());
+}
+
+}  // namespace
+}  // namespace morlek
