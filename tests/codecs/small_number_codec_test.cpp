@@ -28,16 +28,6 @@ TEST(SmallNumberCodec, DecodesAndEncodesUpTo200AndRepeatsBeyond) {
   }
 }
 
-TEST(SmallNumberCodec, DecoderAndStatisticsEncoderAloneShareTheirResult) {
-  SmallNumberCodec codec;
-  codec.number_bytes = {150, 250};
-  EXPECT_EQ(codec.DecodeSmallNumber(0), "150");
-  EXPECT_EQ(codec.EncodeSmallNumber(1), "150");
-  EXPECT_EQ(codec.EncodeSmallNumber(0), "96");
-  EXPECT_EQ(codec.EncodeUniformNumber(0, "21"), "15");
-  EXPECT_EQ(codec.DecodeSmallNumber(1), "96");
-}
-
 TEST(SmallNumberCodec, EncodesUniformNumbersAsShownAndKeepsEachSlotsOwn) {
   SmallNumberCodec codec;
   for (int number = 0; number <= 200; ++number) {

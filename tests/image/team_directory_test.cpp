@@ -49,6 +49,7 @@ TEST(TeamDirectory, IsInTheOrderOfTheCitiesAndNamesTheClubs) {
   }
   EXPECT_EQ(kTeamDirectory[4].key, "White Sox");
   EXPECT_EQ(kTeamDirectory[17].key, "Yankees");
+  EXPECT_EQ(kTeamDirectory[25].display_name, "ST. LOUIS CARDINALS");
 }
 
 TEST(TeamDirectory, LookupIsExact) {
