@@ -15,6 +15,10 @@ target_compile_options(
             -Wnull-dereference
             -Wformat=2)
 
+if(MORLEK_BUILD_FUZZERS)
+  target_compile_options(morlek_compiler INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(MORLEK_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_compile_options(morlek_compiler INTERFACE ${sanitizers})
