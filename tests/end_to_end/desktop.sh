@@ -1,0 +1,141 @@
+# A virtual desktop with the real editor on it, driven from outside. To be sourced by a bash script
+# with `set -euo pipefail`; the caller sets `shots`, the folder for screenshots.
+
+patience=${PATIENCE:-30} # seconds
+pids=()
+
+finish() {
+  local status=$?
+  [ $status -eq 0 ] || shot failure || true
+  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
+  wait
+  exit $status
+}
+
+fail() {
+  echo "${0##*/}: $*" >&2
+  exit 1
+}
+
+# Repeats a command every tenth of a second until it succeeds.
+wait_for() {
+  local what=$1 end=$((SECONDS + patience))
+  shift
+  until "$@"; do
+    [ $SECONDS -lt $end ] || fail "$what did not come within $patience s"
+    sleep 0.1
+  done
+}
+
+shot() { import -window root "$shots/$1.png"; }
+
+start_desktop() {
+  rm -rf "$shots"
+  mkdir -p "$shots"
+  trap finish EXIT
+  coproc XVFB { exec Xvfb -displayfd 1 -screen 0 1024x800x24 -nolisten tcp 2>/dev/null; }
+  pids+=("$XVFB_PID")
+  read -r -t "$patience" -u "${XVFB[0]}" display || fail "the virtual display did not start"
+  export DISPLAY=:$display QT_QPA_PLATFORM=xcb
+  unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS
+  openbox >/dev/null 2>&1 &
+  pids+=($!)
+  wait_for "the window manager" eval 'xdotool get_desktop >/dev/null 2>&1'
+}
+
+# The windows with exactly this title; xdotool's own search does not tell capitals from small letters.
+windows_named() {
+  local each
+  for each in $(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do
+    [ "$(xdotool getwindowname "$each" 2>/dev/null)" != "$1" ] || echo "$each"
+  done
+}
+
+# Puts the newest window with a title, other than the one named second, into $window. The main
+# window and its boxes share one title.
+find_window() {
+  window=$(windows_named "$1" | grep -vx "${2:-none}" | tail -n 1)
+  [ -n "$window" ]
+}
+gone() { ! windows_named "$1" | grep -qx "$2"; }
+focused() { [ "$(xdotool getwindowfocus 2>/dev/null)" = "$1" ]; }
+expect_window() {
+  wait_for "the window \"$1\"" find_window "$@"
+  wait_for "the focus of \"$1\"" focused "$window"
+}
+
+# Answers the dialog with a title by keys and waits until it is gone.
+answer() {
+  local title=$1 other=$2
+  shift 2
+  expect_window "$title" "$other"
+  local dialog=$window
+  "$@"
+  wait_for "the end of \"$title\"" gone "$title" "$dialog"
+}
+type_path() {
+  xdotool type --delay 15 "$1"
+  xdotool key Return
+}
+press() { xdotool key "$@"; }
+
+# Starts the editor in the folder of the image and takes the splash away; puts its process into
+# $editor_pid.
+start_editor() {
+  "$editor" &
+  editor_pid=$!
+  pids+=("$editor_pid")
+  expect_window Form2
+  press space
+}
+
+# Puts the main window into $main and the height of its menu bar into $menu_bar.
+expect_main() {
+  expect_window "MORLEK EDITOR" "${1:-none}"
+  main=$window
+  eval "$(xdotool getwindowgeometry --shell "$main" | grep HEIGHT)"
+  menu_bar=$((HEIGHT - 653))
+}
+
+# The look of a part of the main window; points are in its content, which stands below the menu bar.
+look() { import -window "$main" -crop "$3x$4+$1+$((menu_bar + $2))" rgb:- | sha1sum; }
+differs() { [ "$(look "${@:2}")" != "$1" ]; }
+click() {
+  xdotool mousemove --window "$main" "$1" $((menu_bar + $2))
+  xdotool click 1
+}
+
+# Clicks at a point until a part of the window changes.
+click_until_changed() {
+  local x=$1 y=$2 before
+  shift 2
+  before=$(look "$@")
+  click_and_compare() {
+    click "$x" "$y"
+    differs "$before" "$@"
+  }
+  wait_for "a change after the click at $x, $y" click_and_compare "$@"
+}
+
+# Types over the box at a point.
+type_into() {
+  local before
+  click "$1" "$2"
+  before=$(look $(($1 - 8)) $(($2 - 8)) 16 16)
+  xdotool type --delay 15 "$3"
+  wait_for "the text $3" differs "$before" $(($1 - 8)) $(($2 - 8)) 16 16
+}
+
+# SAVE, and the message that it ends with.
+save() {
+  click 360 68
+  answer "MORLEK EDITOR" "$main" press Return
+  wait_for "the focus of the main window" focused "$main"
+}
+
+quit_editor() {
+  press ctrl+q
+  answer "MORLEK EDITOR" "$main" press alt+y
+  wait_for "the end of the editor" gone "MORLEK EDITOR" "$main"
+  wait "$editor_pid" || fail "the editor ended with exit status $?"
+}
