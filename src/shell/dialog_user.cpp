@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QSettings>
 
@@ -12,6 +13,18 @@ DialogUser::DialogUser() {
   // program keeps nothing between runs. Below this path no file can be.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }
+
+namespace {
+
+/// A box is as wide as its text by itself, and a short one then cuts its title.
+void MakeRoomForTitle(QMessageBox& box) {
+  constexpr int kWidth = 260;
+  auto* layout = qobject_cast<QGridLayout*>(box.layout());
+  if (layout == nullptr) return;
+  layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), 0, 1, layout->columnCount());
+}
+
+}  // namespace
 
 std::optional<QString> DialogUser::AskOpenPath(const FileQuestion& question) {
   QFileDialog dialog(window_);
@@ -51,6 +64,7 @@ void DialogUser::ShowMessage(const QString& text, const QString& title, Message:
   const auto shown = icon == Message::Icon::kCritical ? QMessageBox::Critical : QMessageBox::NoIcon;
   QMessageBox box(shown, title, text, QMessageBox::Ok, window_);
   box.setTextFormat(Qt::PlainText);
+  MakeRoomForTitle(box);
   box.exec();
 }
 

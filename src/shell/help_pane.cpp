@@ -57,9 +57,11 @@ void HelpPane::Open() {
   raise();
   // As if it were a menu: the box that had the focus keeps its selection.
   text_->setFocus(Qt::PopupFocusReason);
+  emit Covered(true);
 }
 
 void HelpPane::Close() {
+  emit Covered(false);
   // Likewise on the way back: the box does not take it for a new visit.
   if (focused_before_) focused_before_->setFocus(Qt::PopupFocusReason);
   hide();

@@ -17,6 +17,10 @@ class HelpPane : public QFrame {
   /// Shows the pane and gives it the keyboard, so that it can be scrolled; shown already, it stays.
   void Open();
 
+ signals:
+  /// The pane now covers the grid and the toolbar, or does so no more.
+  void Covered(bool covered);
+
  private:
   void Close();
 

@@ -122,6 +122,9 @@ void MainWindow::BuildContent() {
 
   identity_->raise();
   help_ = new HelpPane(content_);
+  // What the pane covers is not reached by keys either.
+  connect(help_, &HelpPane::Covered, toolbar_, &QWidget::setDisabled);
+  connect(help_, &HelpPane::Covered, roster_, &QWidget::setDisabled);
 }
 
 QLabel* MainWindow::AddLabel(const char* name, const QRect& place) {

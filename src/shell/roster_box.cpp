@@ -94,6 +94,12 @@ void RosterBox::focusOutEvent(QFocusEvent* event) {
 }
 
 void RosterBox::keyPressEvent(QKeyEvent* event) {
+  if (event->modifiers().testFlag(Qt::AltModifier) &&
+      !event->modifiers().testFlag(Qt::ControlModifier)) {
+    // Meant for a menu, and no text, as the line editor would take it. (With Ctrl it is AltGr.)
+    event->ignore();
+    return;
+  }
   const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   if (plain && event->key() == Qt::Key_Up) {
     emit RowStepRequested(-1);
@@ -108,6 +114,11 @@ void RosterBox::mousePressEvent(QMouseEvent* event) {
   if (swallowing_press_) return;
   QLineEdit::mousePressEvent(event);
   if (event->button() == Qt::LeftButton) emit Visited();
+}
+
+void RosterBox::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
+  // A box holds one value, of which the line editor would select the part up to the point.
+  selectAll();
 }
 
 void RosterBox::mouseMoveEvent(QMouseEvent* event) {

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <algorithm>
 
 #include "shell/code_page_text.h"
@@ -66,6 +67,7 @@ void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int t
     auto* label = new QLabel(FromCodePage(column.caption), this);
     label->setObjectName(QString("Label4(%1)").arg(index));
     label->setAccessibleName(FromCodePage(column.meaning));
+    label->setToolTip(FromCodePage(column.meaning));
     label->setGeometry(
         RectFromTwips(column.left, top, column.width, kBatterTop - kBatterHeaderTop));
     label->setFont(theme::Font(kPixels, QFont::DemiBold));
@@ -106,7 +108,7 @@ void RosterFrame::AddTeamNameAndSave() {
   team_name_ = new QLabel(this);
   team_name_->setObjectName("Label4(0)");
   team_name_->setAccessibleName("team");
-  team_name_->setGeometry(RectFromTwips(0, 60, 4140, 390));
+  team_name_->setGeometry(RectFromTwips(0, 60, 4140, 375));
   team_name_->setFont(theme::Font(kNamePixels, QFont::Bold));
 
   auto* save = new QPushButton("SAVE", this);
@@ -117,6 +119,8 @@ void RosterFrame::AddTeamNameAndSave() {
   save->setPalette(WithColor(WithColor(palette(), QPalette::Button, theme::kAccent),
                              QPalette::ButtonText, theme::kBase));
   connect(save, &QPushButton::clicked, this, &RosterFrame::SaveRequested);
+  connect(new QShortcut(Qt::CTRL | Qt::Key_S, this), &QShortcut::activated, this,
+          &RosterFrame::SaveRequested);
 }
 
 void RosterFrame::StepRow(const RosterBox& from, int rows) {

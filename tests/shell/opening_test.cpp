@@ -167,6 +167,8 @@ TEST_F(OpeningTest, SaveAfterAnEditSaysSo) {
   ExpectTold("Your changes have been saved.");
   EXPECT_EQ(ChangedPositions(), std::vector<std::size_t>{kBraves + 10});
 
+  QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+  ExpectTold("Your changes have been saved.");
   std::filesystem::remove(ImageFile());
   Click("Command1");
   ExpectTold("Your changes have been saved.");

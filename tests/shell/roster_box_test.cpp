@@ -68,6 +68,24 @@ TEST_F(RosterBoxTest, CharactersThatTheCodePageLacksBecomeQuestionMarks) {
   EXPECT_EQ(Box(1, 1).text(), "?");
 }
 
+TEST_F(RosterBoxTest, AltAndALetterIsNoText) {
+  StartWithTeam();
+  QLineEdit& box = Box(1, 0);
+  const QString before = box.text();
+  box.setFocus();
+  QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_O, "o", Qt::AltModifier);
+  EXPECT_EQ(box.text(), before);
+}
+
+TEST_F(RosterBoxTest, DoubleClickSelectsTheWholeValue) {
+  StartWithTeam();
+  QLineEdit& box = Box(9, 0);
+  QTest::mouseClick(&box, Qt::LeftButton);
+  QTest::mouseClick(&box, Qt::LeftButton);
+  DoubleClick(box);
+  EXPECT_EQ(box.selectedText(), box.text());
+}
+
 TEST_F(RosterBoxTest, ReplacedCharactersLeaveTheCursorInItsPlace) {
   StartWithTeam();
   QLineEdit& box = Box(1, 0);

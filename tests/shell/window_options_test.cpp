@@ -87,6 +87,11 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   QTest::keyClick(&help, Qt::Key_Backtab);
   EXPECT_EQ(QApplication::focusWidget(), &help) << "the covered grid takes no keys";
   EXPECT_TRUE(IsShown("Frame5"));
+  const QString team = LabelText("Label4(0)");
+  QTest::keyClick(&help, Qt::Key_PageDown, Qt::ControlModifier);
+  QTest::keyClick(&help, Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(LabelText("Label4(0)"), team);
+  EXPECT_TRUE(user.messages.empty());
   DoubleClick(*help.viewport());
   EXPECT_FALSE(IsShown("Frame5"));
   EXPECT_EQ(QApplication::focusWidget(), &Box(13, 3));
