@@ -10,6 +10,7 @@
 #include <array>
 #include <functional>
 #include <iostream>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -72,18 +73,19 @@ void PaintStances(QPainter& painter) {
   constexpr std::array kLegs = {0x00, 0x01, 0x02, 0x03, 0x04, 0x10, 0x11, 0x12, 0x13, 0x14};
   for (int i = 0; i < 24; ++i) {
     const int digits = (i * 11 + 3) % 48;
-    const int body_digits = (i * 2 + i / 8) % 48;
-    const QRectF place(4 + 132 * (i % 8), 4 + 164 * (i / 8), 128, 160);
+    const int line = i / 8;
+    const int body_digits = (i * 2 + line) % 48;
+    const QRectF place(4 + 132 * (i % 8), 4 + 164 * line, 128, 160);
     morlek::PaintStance(painter, place,
                         {.face = digits / 8 * 16 + digits % 8,
                          .body = body_digits / 8 * 16 + body_digits % 8,
-                         .legs = kLegs[static_cast<std::size_t>(i) % kLegs.size()]});
+                         .legs = kLegs.at(static_cast<std::size_t>(i) % kLegs.size())});
   }
 }
 
 class SheetWriter {
  public:
-  explicit SheetWriter(QDir directory) : directory_(std::move(directory)) {}
+  explicit SheetWriter(const QDir& directory) : directory_(directory) {}
 
   /// Writes one picture at a number of pixels for each logical one.
   void Write(const QString& name, QSize size, int scale, const QColor& ground,
@@ -132,12 +134,13 @@ bool WriteSheets(const QString& directory) {
 
 }  // namespace
 
-int main(int argument_count, char** arguments) {
-  if (argument_count != 2) {
+int main(int argument_count, char** argument_values) {
+  const std::span arguments(argument_values, static_cast<std::size_t>(argument_count));
+  if (arguments.size() != 2) {
     std::cerr << "usage: contact_sheet OUTPUT_DIR\n";
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argument_count, arguments);
+  const QGuiApplication application(argument_count, argument_values);
   return WriteSheets(QString::fromLocal8Bit(arguments[1])) ? 0 : 1;
 }

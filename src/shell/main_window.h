@@ -23,6 +23,8 @@ class MainWindow : public QMainWindow, private TeamView {
   Q_OBJECT
 
  public:
+  Q_DISABLE_COPY_MOVE(MainWindow)
+
   /// The user is asked and told everything that a dialog is for, and outlives the window.
   explicit MainWindow(User& user);
   ~MainWindow() override;

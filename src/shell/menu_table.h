@@ -23,9 +23,9 @@ enum class Command {
 
 /// A menu item: its object name, its caption with the access letter marked, its shortcut key.
 struct MenuItem {
-  Command command;
-  const char* name;
-  const char* caption;
+  Command command{};
+  const char* name = nullptr;
+  const char* caption = nullptr;
   QKeyCombination key;
 };
 

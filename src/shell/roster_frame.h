@@ -18,6 +18,8 @@ class RosterFrame : public QFrame {
   Q_OBJECT
 
  public:
+  Q_DISABLE_COPY_MOVE(RosterFrame)
+
   RosterFrame(RosterGrid& grid, QWidget* parent);
   ~RosterFrame() override;
 

@@ -77,6 +77,7 @@ void PaintBadge(QPainter& painter, const QRectF& target, const BadgeLook& look) 
 
 TeamBadges::TeamBadges(QObject* parent) : QObject(parent) { setObjectName("ImageList1"); }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): the list is asked as an object.
 QIcon TeamBadges::Badge(std::string_view toolbar_key) const {
   const auto found = std::ranges::find(kBadges, toolbar_key, &BadgeLook::key);
   if (found == kBadges.end()) return {};

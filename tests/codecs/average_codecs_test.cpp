@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -22,9 +22,9 @@ const std::vector<std::string> kNoEarnedRunAverages = {
 // clang-format on
 
 std::string Hex(int number) {
-  char text[8];
-  std::snprintf(text, sizeof text, "%X", static_cast<unsigned>(number));
-  return text;
+  std::ostringstream text;
+  text << std::uppercase << std::hex << number;
+  return text.str();
 }
 
 std::string TwoHexDigits(int number) { return (number < 16 ? "0" : "") + Hex(number); }

@@ -2,16 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <iomanip>
+#include <sstream>
 #include <string>
 
 namespace morlek {
 namespace {
 
 std::string TwoDigits(int number) {
-  char text[8];
-  std::snprintf(text, sizeof text, "%02X", static_cast<unsigned>(number));
-  return text;
+  std::ostringstream text;
+  text << std::uppercase << std::hex << std::setfill('0') << std::setw(2) << number;
+  return text.str();
 }
 
 TEST(SmallNumberCodec, DecodesAndEncodesUpTo200AndRepeatsBeyond) {

@@ -7,7 +7,10 @@ namespace {
 
 class RosterBoxTest : public WindowTest {
  protected:
-  void Paste(QLineEdit& box, const QString& text) {
+  /// Where the home runs of a batter's row lie in the image file.
+  static std::size_t HomeRunsAt(std::size_t row) { return kBraves - 1 + 32 * row + 26; }
+
+  static void Paste(QLineEdit& box, const QString& text) {
     QApplication::clipboard()->setText(text);
     QTest::mouseClick(&box, Qt::LeftButton);
     box.paste();
@@ -114,11 +117,11 @@ TEST_F(RosterBoxTest, TextsOfEveryWayReachTheSave) {
   Box(10, 4).setText("11");
   Click("Command1");
   const std::string image = GetFile(ImageFile());
-  const auto home_runs = [&image](int row) {
-    return static_cast<int>(image.at(static_cast<std::size_t>(kBraves - 1 + 32 * row + 26)));
+  const auto home_runs = [&image](std::size_t row) {
+    return static_cast<int>(image.at(HomeRunsAt(row)));
   };
-  const auto before = [](int row) {
-    return static_cast<int>(Sample().at(static_cast<std::size_t>(kBraves - 1 + 32 * row + 26)));
+  const auto before = [](std::size_t row) {
+    return static_cast<int>(Sample().at(HomeRunsAt(row)));
   };
   EXPECT_EQ(home_runs(0), 7);
   EXPECT_EQ(home_runs(1), 8);

@@ -67,7 +67,7 @@ class WindowTest : public ::testing::Test {
   [[nodiscard]] bool IsShown(const QString& name) const { return Find(name).isVisible(); }
 
   void Click(const QString& name) { QTest::mouseClick(&Find(name), Qt::LeftButton); }
-  void DoubleClick(QWidget& widget) { QTest::mouseDClick(&widget, Qt::LeftButton); }
+  static void DoubleClick(QWidget& widget) { QTest::mouseDClick(&widget, Qt::LeftButton); }
   void Choose(const QString& menu_item) { Find<QAction>(menu_item).trigger(); }
 
   /// Clicks a box, which selects its text if it had no focus yet, and types over it.

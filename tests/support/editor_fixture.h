@@ -68,7 +68,7 @@ class EditorTest : public ::testing::Test {
 
   void Poke(const std::vector<FieldByte>& bytes, std::int64_t base = kBraves) {
     for (const auto& [row, offset, byte] : bytes) {
-      const auto index = static_cast<std::size_t>(base - 1 + 32 * row + offset);
+      const auto index = static_cast<std::size_t>(base - 1 + std::int64_t{32} * row + offset);
       image().at(index) = static_cast<std::uint8_t>(byte);
     }
   }
@@ -106,7 +106,8 @@ class EditorTest : public ::testing::Test {
     for (const FieldByte& expected : bytes) {
       FieldByte actual = {expected.row, expected.offset, kNotWritten};
       for (const ByteAccess& write : disk.writes) {
-        if (write.position == base + 32 * actual.row + actual.offset) actual.byte = write.byte;
+        const std::int64_t place = std::int64_t{32} * actual.row + actual.offset;
+        if (write.position == base + place) actual.byte = write.byte;
       }
       EXPECT_EQ(actual, expected);
     }

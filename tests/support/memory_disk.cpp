@@ -16,7 +16,7 @@ class MemoryFile : public std::streambuf {
 
  protected:
   pos_type seekpos(pos_type position, std::ios_base::openmode /*which*/) override {
-    if (std::streamoff(position) < 0) return pos_type(off_type(-1));
+    if (std::streamoff(position) < 0) return off_type(-1);
     place_ = static_cast<std::size_t>(std::streamoff(position));
     return position;
   }

@@ -10,7 +10,8 @@ std::vector<std::uint8_t> PlainRecord() {
   std::vector<std::uint8_t> record(800, 0xEE);
   for (int row = 0; row < 25; ++row) {
     const auto put = [&](int offset, int byte) {
-      record.at(static_cast<std::size_t>(32 * row + offset)) = static_cast<std::uint8_t>(byte);
+      record.at(std::size_t{32} * static_cast<std::size_t>(row) +
+                static_cast<std::size_t>(offset)) = static_cast<std::uint8_t>(byte);
     };
     const auto put_word = [&](int offset, int word) {
       put(offset, word % 256);

@@ -113,8 +113,8 @@ TEST_F(AnomalyTest, Save) {
         EXPECT_FALSE(editor.channel.is_open());
         if (disk.failures != 1) return;
         Save();
-        EXPECT_EQ(image().at(kBraves - 1 + 10), 99);
-        EXPECT_EQ(image().at(kBraves - 1 + 32 * 20 + 16), 0x4F);
+        EXPECT_EQ(image().at(kBraves + 9), 99);
+        EXPECT_EQ(image().at(kBraves + 655), 0x4F);
       });
 }
 

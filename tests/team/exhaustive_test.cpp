@@ -1,5 +1,5 @@
 #include <array>
-#include <cstdio>
+#include <charconv>
 #include <map>
 
 #include "image/failure.h"
@@ -18,7 +18,9 @@ class ExhaustiveTest : public EditorTest {
   static constexpr std::array<int, 7> kBatterRows = {1, 3, 5, 7, 9, 11, 13};
   static constexpr std::array<int, 5> kPitcherRows = {16, 18, 20, 22, 24};
 
-  static std::size_t At(int row, int offset) { return static_cast<std::size_t>(32 * row + offset); }
+  static std::size_t At(int row, int offset) {
+    return std::size_t{32} * static_cast<std::size_t>(row) + static_cast<std::size_t>(offset);
+  }
 
   void PutRecord(const Bytes& record) { std::ranges::copy(record, image().begin() + kBraves - 1); }
 
@@ -35,8 +37,8 @@ class ExhaustiveTest : public EditorTest {
   template <typename Rows, typename Expect>
   void TryEveryValue(const Rows& rows, int offset, Expect expect) {
     for (int value = 0; value < 256;) {
-      Bytes before = plain_;
-      Bytes after = plain_;
+      Bytes before = plain;
+      Bytes after = plain;
       for (const int row : rows) {
         const int one = std::min(value++, 255);
         before[At(row, offset)] = static_cast<std::uint8_t>(one);
@@ -56,7 +58,7 @@ class ExhaustiveTest : public EditorTest {
     });
   }
 
-  const Bytes plain_ = PlainRecord();
+  const Bytes plain = PlainRecord();
 
  private:
   Bytes expected_image_ = image();
@@ -96,7 +98,7 @@ TEST_F(ExhaustiveTest, PitchersFaceHandAndMarks) {
         static_cast<std::uint8_t>((value < 0x10 ? 0x00 : 0x10) + after[At(row, 14)] / 16);
   });
   TryEveryValue(kPitcherRows, 17, [this](Bytes& after, int row, int /*value*/) {
-    after[At(row, 17)] = plain_[At(row, 17)];
+    after[At(row, 17)] = plain[At(row, 17)];
   });
   TryEveryValue(kPitcherRows, 23, [](Bytes& after, int row, int value) {
     const std::map<int, int> written = {{0x00, 0x00}, {0x01, 0x01}, {0x02, 0x01},
@@ -112,7 +114,7 @@ TEST_F(ExhaustiveTest, PitchersFaceHandAndMarks) {
 TEST_F(ExhaustiveTest, Ratings) {
   const auto try_field = [&](int row, int offset, bool is_pair) {
     for (int value = 0; value < 256; ++value) {
-      Bytes after = plain_;
+      Bytes after = plain;
       after[At(row, offset)] = static_cast<std::uint8_t>(value);
       PutRecord(after);
       if (value / 16 > 9 || value % 16 > 9) {
@@ -188,11 +190,12 @@ class AverageModel {
   }
 
  private:
+  /// Both bytes in hexadecimal without leading zeros, one behind the other.
   static std::string Key(int low, int high) {
-    std::array<char, 8> text{};
-    std::snprintf(text.data(), text.size(), "%X%X", static_cast<unsigned>(low),
-                  static_cast<unsigned>(high));
-    return text.data();
+    std::array<char, 4> text{};
+    char* end = text.data() + text.size();
+    const auto low_text = std::to_chars(text.data(), end, low, 16);
+    return {text.data(), std::to_chars(low_text.ptr, end, high, 16).ptr};
   }
 
   int marker_;
@@ -213,13 +216,13 @@ TEST_F(ExhaustiveTest, AllPairsOfBytesInBothAverages) {
     }
     return bytes;
   };
-  ASSERT_TRUE(LeavesRecord(after(plain_)));
+  ASSERT_TRUE(LeavesRecord(after(plain)));
 
   // Fifteen batters and ten pitchers take a pair each at a time.
   int batting_pair = 0;
   int earned_pair = 0;
   while (earned_pair < 65536) {
-    Bytes record = plain_;
+    Bytes record = plain;
     for (int row = 0; row < 25; ++row) {
       int& pair = row < 15 ? batting_pair : earned_pair;
       const std::size_t at = At(row, row < 15 ? 24 : 28);

@@ -71,7 +71,7 @@ BodyLook BodyLookOf(int code) {
   // The hold follows the code alone; each class of skin wears the outfits in another order.
   constexpr std::size_t kOutfitStep = 5;
   const std::size_t hold = index % kLooksInClass;
-  return {kOutfits[(hold + kOutfitStep * skin_class) % kLooksInClass], kHolds[hold]};
+  return {kOutfits.at((hold + kOutfitStep * skin_class) % kLooksInClass), kHolds.at(hold)};
 }
 
 }  // namespace morlek::art

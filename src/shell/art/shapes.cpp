@@ -19,7 +19,7 @@ void AddRoundSegment(QPainterPath& path, QPointF before, QPointF from, QPointF t
 }
 
 QPen RoundPen(const QColor& color, qreal width) {
-  return QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  return {color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
 }  // namespace

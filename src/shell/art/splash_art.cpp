@@ -54,7 +54,7 @@ void PaintStands(QPainter& painter) {
     for (int seat = 0; seat < 80; ++seat) {
       const QPointF place(seat * 6.1 + (row % 2) * 3, 152 + row * 6);
       const auto shirt = static_cast<std::size_t>(seat * 7 + row * 5 + seat * row) % kCrowd.size();
-      painter.fillPath(art::Ellipse(place, 1.5, 1.5), kCrowd[shirt]);
+      painter.fillPath(art::Ellipse(place, 1.5, 1.5), kCrowd.at(shirt));
     }
   }
   painter.restore();
