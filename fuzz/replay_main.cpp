@@ -5,14 +5,16 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <span>
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 int main(int argument_count, char** arguments) {
   int files = 0;
-  for (int each = 1; each < argument_count; ++each) {
-    for (const auto& entry : std::filesystem::directory_iterator(arguments[each])) {
+  const std::span<char*> folders(arguments, static_cast<std::size_t>(argument_count));
+  for (const char* folder : folders.subspan(1)) {
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
       std::ifstream file(entry.path(), std::ios::binary);
       const std::vector<char> content{std::istreambuf_iterator<char>(file), {}};
       const std::vector<std::uint8_t> bytes(content.begin(), content.end());
