@@ -24,8 +24,9 @@ TEST_F(RosterFrameTest, StandsAtTheStatedPlaces) {
       {"Label4(1)", {0, 32, 109, 24}},    {"Label4(14)", {408, 32, 25, 24}},
       {"Label4(19)", {180, 360, 33, 24}}, {"Label4(28)", {404, 360, 25, 24}},
   };
-  for (const Place& place : places)
+  for (const Place& place : places) {
     EXPECT_EQ(Find(place.name).geometry(), place.rect) << place.name;
+  }
   EXPECT_EQ(Find("Label4(0)").pos(), QPoint(0, 4));
   EXPECT_EQ(Find("Command1").pos(), QPoint(280, 4));
   EXPECT_EQ(window->width(), 447);
@@ -79,13 +80,13 @@ TEST_F(RosterFrameTest, TeamsCanBePickedByKeyboard) {
     return LabelText("Label4(0)");
   };
   EXPECT_EQ(press(Qt::Key_PageDown), "") << "not before there is an image";
-  user.paths.push_back(ImagePath());
+  user.paths.emplace_back(ImagePath());
   Choose("mnuOpen");
   EXPECT_EQ(press(Qt::Key_PageUp), "");
   EXPECT_EQ(press(Qt::Key_PageDown), "ATLANTA BRAVES");
   EXPECT_EQ(press(Qt::Key_PageDown), "BALTIMORE ORIOLES");
   EXPECT_EQ(press(Qt::Key_PageUp), "ATLANTA BRAVES");
-  user.paths.push_back(ImagePath());
+  user.paths.emplace_back(ImagePath());
   press(Qt::Key_PageDown);
   Choose("mnuOpen");
   EXPECT_EQ(press(Qt::Key_PageDown), "ATLANTA BRAVES") << "another image starts anew";
