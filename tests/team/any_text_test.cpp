@@ -64,8 +64,9 @@ TEST_F(AnyTextTest, ThatIsEmptyEverywhereWritesTheSFlagsAlone) {
   FillAll("");
   Save();
   std::vector<ByteAccess> expected;
-  for (int row = 15; row < 25; ++row)
+  for (int row = 15; row < 25; ++row) {
     expected.push_back({kBraves + std::int64_t{32} * row + 17, 0});
+  }
   EXPECT_EQ(disk.writes, expected);
   EXPECT_EQ(messages.shown.size(), 26U);  // an unknown letter a name, and the end
 }
