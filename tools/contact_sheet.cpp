@@ -124,7 +124,7 @@ bool WriteSheets(const QString& directory) {
       morlek::PaintSplash(painter, {0, 0, 480, 300});
     });
   }
-  for (const int size : {16, 32, 48, 256}) {
+  for (const int size : {16, 32, 48, 64, 128, 256}) {
     writer.Write(
         QString("icon-%1").arg(size), {size, size}, 1, Qt::transparent,
         [size](QPainter& painter) { morlek::PaintAppIcon(painter, QRectF(0, 0, size, size)); });
