@@ -18,9 +18,6 @@
 namespace morlek::bench {
 namespace {
 
-constexpr std::uintmax_t kGameBytes = 1573376;
-constexpr std::uintmax_t kHugeBytes = std::uintmax_t{4} << 30U;
-
 class SilentMessages : public MessagePort {
  public:
   void Show(const Message& /*message*/) override {}

@@ -45,14 +45,21 @@ void RunOnce(const std::filesystem::path& program, Measured& measured) {
   measured.mebibytes.push_back(static_cast<double>(usage.ru_maxrss) / 1024);
 }
 
-double OutputOf(const std::filesystem::path& program) {
+struct Clicks {
+  double first = 0;
+  double later = 0;
+  double huge_image = 0;
+};
+
+Clicks OutputOf(const std::filesystem::path& program) {
   FILE* pipe = popen(program.c_str(), "r");
-  double value = 0;
-  if (pipe == nullptr || std::fscanf(pipe, "%lf", &value) != 1) {
-    throw std::runtime_error("no figure from " + program.string());
+  Clicks clicks;
+  if (pipe == nullptr ||
+      std::fscanf(pipe, "%lf %lf %lf", &clicks.first, &clicks.later, &clicks.huge_image) != 3) {
+    throw std::runtime_error("no figures from " + program.string());
   }
   pclose(pipe);
-  return value;
+  return clicks;
 }
 
 bool PrintRow(const char* what, double value, double limit) {
@@ -82,6 +89,9 @@ int main(int /*argument_count*/, char** arguments) {
             << " MiB; editor: " << editor_start << " ms, " << editor_memory << " MiB\n";
   bool within = PrintRow("start to painted window / empty window", editor_start / empty_start, 1.6);
   within &= PrintRow("peak memory above the empty window, MiB", editor_memory - empty_memory, 10);
-  within &= PrintRow("click on a team to painted grid, ms", OutputOf(folder / "click_team"), 10);
+  const Clicks clicks = OutputOf(folder / "click_team");
+  std::cout << "the first click on a team, which also shows the grid: " << clicks.first << " ms\n";
+  within &= PrintRow("click on a team to painted grid, ms", clicks.later, 10);
+  within &= PrintRow("the same with 4 GiB / with 1.5 MiB", clicks.huge_image / clicks.later, 1.1);
   return within ? 0 : 1;
 }

@@ -22,8 +22,10 @@ class HelpPane : public QFrame {
   void Covered(bool covered);
 
  private:
+  void AddText();
   void Close();
 
+  // Null until the pane is first opened: the window need not wait for its text.
   QPlainTextEdit* text_ = nullptr;
   QPointer<QWidget> focused_before_;
 };

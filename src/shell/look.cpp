@@ -8,6 +8,17 @@
 #include "shell/theme.h"
 
 namespace morlek {
+namespace {
+
+/// Painted once for all windows, in the sizes that task bars and window lists show.
+QIcon AppIcon() {
+  const QIcon painted = MakePaintedIcon(PaintAppIcon);
+  QIcon icon;
+  for (const int side : {16, 32, 48, 64}) icon.addPixmap(painted.pixmap({side, side}, 1));
+  return icon;
+}
+
+}  // namespace
 
 void ApplyLook() {
   constexpr int kFontPixels = 12;
@@ -15,7 +26,7 @@ void ApplyLook() {
   QApplication::setPalette(theme::Palette());
   theme::LoadFonts();
   QApplication::setFont(theme::Font(kFontPixels));
-  QApplication::setWindowIcon(MakePaintedIcon(PaintAppIcon));
+  QApplication::setWindowIcon(AppIcon());
 }
 
 }  // namespace morlek

@@ -194,6 +194,7 @@ void MainWindow::OpenFirstImage() {
   // Only now is it known how much the system's borders take.
   FitToScreen();
   const QString path = user_.AskOpenPath(RomQuestion()).value_or(QString());
+  roster_->Fill();
   const Editor::Opening opening = editor_.OpenFirstImage(ToPath(path));
   ShowIdentity();
   if (opening == Editor::Opening::kAccepted) {

@@ -23,6 +23,11 @@ class RosterFrame : public QFrame {
   RosterFrame(RosterGrid& grid, QWidget* parent);
   ~RosterFrame() override;
 
+  /// Puts everything into the frame, which is empty at first: its 350 boxes take as long as the
+  /// rest of the window, which need not wait for them. To be called once, before the frame is
+  /// shown.
+  void Fill();
+
   void SetTeamName(std::string_view display_name);
 
  signals:
@@ -42,7 +47,7 @@ class RosterFrame : public QFrame {
 
   RosterGrid& grid_;
   QLabel* team_name_ = nullptr;
-  // Row by row, each row in the order of the arrays' numbers.
+  // Row by row, each row in the order of the arrays' numbers; null before they are made.
   std::array<std::array<RosterBox*, kColumnCount>, kSlotCount> boxes_{};
 };
 

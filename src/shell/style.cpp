@@ -91,6 +91,8 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option,
                           const QWidget* widget) const {
   if (icon == SP_MessageBoxQuestion) return MessageIcon(theme::kAccent, "?");
   if (icon == SP_MessageBoxCritical) return MessageIcon(theme::kCritical, "!");
+  // Every menu bar asks for it, for the case that it is too narrow, which ours is not.
+  if (icon == SP_ToolBarHorizontalExtensionButton) return {};
   return QProxyStyle::standardIcon(icon, option, widget);
 }
 

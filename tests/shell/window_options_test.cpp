@@ -101,6 +101,7 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
 
 TEST_F(WindowOptionsTest, HelpTellsItsTopicsInOrder) {
   Start(ImagePath());
+  Choose("mnuMorlekHELP");
   const QString text = Find<QPlainTextEdit>("Text15").toPlainText();
   const QStringList topics = {"::::::::::::::\nMORLEK EDITOR\n::::::::::::::\n",
                               "\n\n\nINTRODUCTION\n----",
