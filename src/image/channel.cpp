@@ -25,10 +25,17 @@ std::optional<char> ReadOrEnd(Read read) {
   }
 }
 
+class DiskFile : public File {
+ public:
+  std::streambuf& bytes() override { return buffer; }
+  bool Close() override { return buffer.close() != nullptr; }
+
+  std::filebuf buffer;
+};
+
 }  // namespace
 
-std::unique_ptr<std::streambuf> OpenFile(const std::filesystem::path& path,
-                                         std::ios_base::openmode mode) {
+std::unique_ptr<File> OpenFile(const std::filesystem::path& path, std::ios_base::openmode mode) {
   std::error_code ignored;
   const auto type = std::filesystem::status(path, ignored).type();
   using enum std::filesystem::file_type;
@@ -37,9 +44,9 @@ std::unique_ptr<std::streambuf> OpenFile(const std::filesystem::path& path,
     return nullptr;
   }
 
-  auto file = std::make_unique<std::filebuf>();
-  if ((mode & std::ios_base::out) != 0) file->pubsetbuf(nullptr, 0);
-  if (file->open(path, mode | std::ios_base::binary) == nullptr) return nullptr;
+  auto file = std::make_unique<DiskFile>();
+  if ((mode & std::ios_base::out) != 0) file->buffer.pubsetbuf(nullptr, 0);
+  if (file->buffer.open(path, mode | std::ios_base::binary) == nullptr) return nullptr;
   return file;
 }
 
@@ -57,39 +64,42 @@ bool Channel::OpenTextOutput(const std::filesystem::path& path) {
   return Open(path, Mode::kTextOutput, std::ios_base::out | std::ios_base::trunc);
 }
 
-void Channel::Close() {
+bool Channel::Close() {
+  const bool closed = !is_open() || file_->Close();
   file_.reset();
   mode_ = Mode::kClosed;
+  return closed;
 }
 
 std::uint8_t Channel::ReadByte(std::int64_t position) {
   Require(Mode::kBinary);
   if (!Seek(position)) throw OperationFailed("The position could not be reached.");
-  const std::optional<char> byte = ReadOrEnd([this] { return file_->sgetc(); });
+  const std::optional<char> byte = ReadOrEnd([this] { return file_->bytes().sgetc(); });
   return static_cast<std::uint8_t>(byte.value_or('\0'));
 }
 
 bool Channel::WriteByte(std::int64_t position, std::uint8_t value) {
   if (mode_ != Mode::kBinary || !Seek(position)) return false;
-  const auto written = file_->sputc(static_cast<char>(value));
+  const auto written = file_->bytes().sputc(static_cast<char>(value));
   return !Traits::eq_int_type(written, Traits::eof());
 }
 
 std::optional<char> Channel::ReadCharacter() {
   Require(Mode::kTextInput);
-  return ReadOrEnd([this] { return file_->sbumpc(); });
+  return ReadOrEnd([this] { return file_->bytes().sbumpc(); });
 }
 
 std::optional<char> Channel::PeekCharacter() {
   Require(Mode::kTextInput);
-  return ReadOrEnd([this] { return file_->sgetc(); });
+  return ReadOrEnd([this] { return file_->bytes().sgetc(); });
 }
 
 void Channel::WriteLine(std::string_view text) {
   Require(Mode::kTextOutput);
   const std::string line = std::string(text) + "\r\n";
   const auto length = static_cast<std::streamsize>(line.size());
-  if (file_->sputn(line.data(), length) != length || file_->pubsync() != 0) {
+  std::streambuf& bytes = file_->bytes();
+  if (bytes.sputn(line.data(), length) != length || bytes.pubsync() != 0) {
     throw OperationFailed("The file could not be written.");
   }
 }
@@ -104,7 +114,7 @@ bool Channel::Open(const std::filesystem::path& path, Mode mode, std::ios_base::
 
 bool Channel::Seek(std::int64_t position) {
   const std::streamoff offset = position - 1;
-  return offset >= 0 && std::streamoff(file_->pubseekpos(offset)) == offset;
+  return offset >= 0 && std::streamoff(file_->bytes().pubseekpos(offset)) == offset;
 }
 
 void Channel::Require(Mode mode) const {

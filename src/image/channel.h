@@ -11,14 +11,26 @@
 
 namespace morlek {
 
+/// An open file: its bytes, and the end of its use, which can fail as well. Destroying it closes
+/// it.
+class File {
+ public:
+  virtual ~File() = default;
+
+  [[nodiscard]] virtual std::streambuf& bytes() = 0;
+
+  /// False when the system tells that something written may be lost. Either way the file is closed.
+  [[nodiscard]] virtual bool Close() = 0;
+};
+
 /// Opens `path` in `mode`; null when that fails. A test puts a failing device in its place.
-using FileOpener = std::function<std::unique_ptr<std::streambuf>(const std::filesystem::path& path,
-                                                                 std::ios_base::openmode mode)>;
+using FileOpener = std::function<std::unique_ptr<File>(const std::filesystem::path& path,
+                                                       std::ios_base::openmode mode)>;
 
 /// The opener of the real program. It reads regular files only and never writes to a folder, a pipe
 /// or a socket, which might keep the program waiting. Nothing is buffered but text that is read.
-[[nodiscard]] std::unique_ptr<std::streambuf> OpenFile(const std::filesystem::path& path,
-                                                       std::ios_base::openmode mode);
+[[nodiscard]] std::unique_ptr<File> OpenFile(const std::filesystem::path& path,
+                                             std::ios_base::openmode mode);
 
 /// File channel 1, through which the program does all its file access, one file at a time.
 /// Opening it while it is open fails, so an operation that ends without closing it makes the later
@@ -38,8 +50,9 @@ class Channel {
   /// Creates or empties a file for writing text; false as above, and then nothing is created.
   [[nodiscard]] bool OpenTextOutput(const std::filesystem::path& path);
 
-  /// Closes the channel; harmless when nothing is open.
-  void Close();
+  /// Closes the channel; harmless when nothing is open. False when that failed, as a file in a
+  /// network can fail to take what was written; the channel is closed all the same.
+  bool Close();
 
   [[nodiscard]] bool is_open() const { return file_ != nullptr; }
 
@@ -72,7 +85,7 @@ class Channel {
 
   FileOpener opener_;
   Mode mode_ = Mode::kClosed;
-  std::unique_ptr<std::streambuf> file_;
+  std::unique_ptr<File> file_;
 };
 
 }  // namespace morlek

@@ -16,7 +16,7 @@ void ExportTeamData(Channel& channel, const std::filesystem::path& path, const R
     }
     channel.WriteLine(line);
   }
-  channel.Close();
+  if (!channel.Close()) throw OperationFailed("The file could not be written to its end.");
 }
 
 }  // namespace morlek

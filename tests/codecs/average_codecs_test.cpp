@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include "codecs/average_word.h"
 #include "codecs/batting_average_codec.h"
 #include "codecs/earned_run_average_codec.h"
 
@@ -30,34 +28,6 @@ std::string Hex(int number) {
 std::string TwoHexDigits(int number) { return (number < 16 ? "0" : "") + Hex(number); }
 
 std::string Decimals(int number) { return std::to_string(1000 + number).substr(1); }
-
-/// Tries all pairs of bytes: a pair in the table gives its row, any other the result before it.
-template <typename Decode>
-void ExpectDecodes(int marker, const std::string& in_front, Decode decode) {
-  std::map<std::string, std::string> rows;
-  for (int n = 0; n <= 511; ++n) {
-    rows[Hex(n % 256) + Hex(marker + n / 256)] = in_front + Decimals(n);
-  }
-  std::string expected;
-  for (int pair = 0; pair < 65536; ++pair) {
-    const int low = pair % 256;
-    const int high = pair / 256;
-    const auto row = rows.find(Hex(low) + Hex(high));
-    if (row != rows.end()) expected = row->second;
-    const auto key = PairKey(static_cast<std::uint8_t>(low), static_cast<std::uint8_t>(high));
-    ASSERT_EQ(decode(key), expected) << low << " " << high;
-  }
-}
-
-TEST(BattingAverageCodec, DecodesAllPairs) {
-  BattingAverageCodec codec;
-  ExpectDecodes(0x30, ".", [&](const auto& key) { return codec.DecodeBattingAverage(key); });
-}
-
-TEST(EarnedRunAverageCodec, DecodesAllPairs) {
-  EarnedRunAverageCodec codec;
-  ExpectDecodes(0x20, "", [&](const auto& key) { return codec.DecodeEarnedRunAverage(key); });
-}
 
 TEST(BattingAverageCodec, EncodesEveryRowAndRepeatsForOthers) {
   BattingAverageCodec codec;

@@ -108,24 +108,27 @@ TEST(ChannelFailure, AFailingDeviceFailsTheAccessAndLeavesTheChannelOpen) {
   disk.files["file"] = {'a', 'b', 'c'};
   Channel channel(disk.Opener());
   ASSERT_TRUE(channel.OpenBinary("file"));
-  disk.failing_read = 1;
+  disk.failing_access = 1;
   EXPECT_THROW((void)channel.ReadByte(2), OperationFailed);
   EXPECT_EQ(channel.ReadByte(2), 'b');
-  disk.failing_write = 1;
+  disk.failing_access = 1;
   EXPECT_FALSE(channel.WriteByte(3, 'X'));
   EXPECT_TRUE(channel.WriteByte(3, 'Y'));
-  channel.Close();
+  disk.failing_access = 1;
+  EXPECT_FALSE(channel.Close());
+  EXPECT_FALSE(channel.is_open());
+  EXPECT_TRUE(channel.Close());
 
   ASSERT_TRUE(channel.OpenTextInput("file"));
-  disk.failing_read = 1;
+  disk.failing_access = 1;
   EXPECT_THROW((void)channel.PeekCharacter(), OperationFailed);
-  disk.failing_read = 1;
+  disk.failing_access = 1;
   EXPECT_THROW((void)channel.ReadCharacter(), OperationFailed);
   EXPECT_EQ(channel.ReadCharacter(), 'a');
   channel.Close();
 
   ASSERT_TRUE(channel.OpenTextOutput("file"));
-  disk.failing_write = 4;
+  disk.failing_access = 4;
   EXPECT_THROW(channel.WriteLine("abcdef"), OperationFailed);
   EXPECT_TRUE(channel.is_open());
 }

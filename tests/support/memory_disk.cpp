@@ -7,12 +7,16 @@
 namespace morlek {
 namespace {
 
-/// Counts down to the access that fails; true for that one.
-bool IsDue(int& countdown) { return countdown > 0 && --countdown == 0; }
-
-class MemoryFile : public std::streambuf {
+class MemoryFile : public File, private std::streambuf {
  public:
   MemoryFile(MemoryDisk& disk, std::vector<std::uint8_t>& bytes) : disk_(disk), bytes_(bytes) {}
+
+  std::streambuf& bytes() override { return *this; }
+  bool Close() override {
+    const bool fails = disk_.FailsNow();
+    disk_.failed_closes += fails ? 1 : 0;
+    return !fails;
+  }
 
  protected:
   pos_type seekpos(pos_type position, std::ios_base::openmode /*which*/) override {
@@ -22,7 +26,7 @@ class MemoryFile : public std::streambuf {
   }
 
   int_type underflow() override {
-    if (disk_.FailsNow() || IsDue(disk_.failing_read)) throw std::ios_base::failure("bad sector");
+    if (disk_.FailsNow()) throw std::ios_base::failure("bad sector");
     const bool at_end = place_ >= bytes_.size();
     const int byte = at_end ? -1 : bytes_[place_];
     disk_.reads.push_back({static_cast<std::int64_t>(place_) + 1, byte});
@@ -36,7 +40,7 @@ class MemoryFile : public std::streambuf {
   }
 
   int_type overflow(int_type character) override {
-    if (disk_.FailsNow() || IsDue(disk_.failing_write)) return traits_type::eof();
+    if (disk_.FailsNow()) return traits_type::eof();
     if (place_ >= bytes_.size()) bytes_.resize(place_ + 1);
     bytes_[place_] = static_cast<std::uint8_t>(character);
     ++place_;
@@ -61,7 +65,7 @@ bool MemoryDisk::FailsNow() {
 
 FileOpener MemoryDisk::Opener() {
   return [this](const std::filesystem::path& path,
-                std::ios_base::openmode mode) -> std::unique_ptr<std::streambuf> {
+                std::ios_base::openmode mode) -> std::unique_ptr<File> {
     if (FailsNow()) return nullptr;
     if ((mode & std::ios_base::trunc) != 0) files[path].clear();
     const auto file = files.find(path);

@@ -25,15 +25,12 @@ class MemoryDisk {
   std::vector<ByteAccess> reads;
   std::vector<ByteAccess> writes;
 
-  /// Which read or write from now on fails, counted from 1; 0 for none.
-  int failing_read = 0;
-  int failing_write = 0;
-
-  /// Which open, read or write from now on fails, counted together from 1; 0 for none. Then either
-  /// that one alone or every later one too. `failures` counts those that did.
+  /// Which open, read, write or close from now on fails, counted from 1; 0 for none. Either that
+  /// one alone or every later one too. `failures` counts those that did, and apart the closes.
   int failing_access = 0;
   bool fails_from_then_on = false;
   int failures = 0;
+  int failed_closes = 0;
 
   /// Counts an access and tells whether it is to fail.
   [[nodiscard]] bool FailsNow();

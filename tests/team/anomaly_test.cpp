@@ -1,4 +1,5 @@
-#include <set>
+#include <algorithm>
+#include <iterator>
 
 #include "image/failure.h"
 #include "support/editor_fixture.h"
@@ -10,15 +11,6 @@ namespace {
 
 constexpr char kText[] = "team.txt";
 
-/// The offsets of a row that a save may write.
-const std::set<int>& SavedOffsets(int row) {
-  static const std::set<int> batter = {0,  1,  2,  3,  4,  5,  6,  7,  8,  9, 10,
-                                       11, 12, 13, 14, 15, 16, 24, 25, 26, 28};
-  static const std::set<int> pitcher = {0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11,
-                                        12, 14, 15, 16, 17, 21, 23, 24, 26, 28, 29, 30};
-  return row < 15 ? batter : pitcher;
-}
-
 /// Runs an operation again and again, with its first, second, ... file access failing, until it
 /// gets through; each time that access alone and then all from that one on.
 class AnomalyTest : public EditorTest {
@@ -26,7 +18,7 @@ class AnomalyTest : public EditorTest {
   template <typename Prepare, typename Operation, typename Check>
   void FailEachAccess(Prepare prepare, Operation operation, Check check) {
     for (const bool from_then_on : {false, true}) {
-      int access = 0;
+      access = 0;
       do {
         ++access;
         SCOPED_TRACE(testing::Message() << "access " << access << ", later too: " << from_then_on);
@@ -34,6 +26,7 @@ class AnomalyTest : public EditorTest {
         disk.writes.clear();
         messages.shown.clear();
         disk.failures = 0;
+        disk.failed_closes = 0;
         disk.failing_access = access;
         disk.fails_from_then_on = from_then_on;
         operation();
@@ -59,6 +52,10 @@ class AnomalyTest : public EditorTest {
 
   [[nodiscard]] bool failed() const { return disk.failures > 0; }
 
+  /// What has been read is there, even if the close fails then.
+  [[nodiscard]] bool read_failed() const { return disk.failures > disk.failed_closes; }
+
+  int access = 0;
   bool succeeded = false;
 };
 
@@ -71,15 +68,15 @@ TEST_F(AnomalyTest, IdentityCheck) {
             [this] { EXPECT_EQ(editor.OpenAnotherImage(kImage), Editor::Opening::kAccepted); });
       },
       [this] {
-        EXPECT_EQ(succeeded, !failed());
+        EXPECT_EQ(succeeded, !read_failed());
         EXPECT_EQ(editor.identity_text(), "3C");
         editor.image.Close();
       });
   FailEachAccess(
       nothing, [this] { succeeded = editor.OpenFirstImage(kImage) == Editor::Opening::kAccepted; },
       [this] {
-        EXPECT_EQ(succeeded, !failed());
-        EXPECT_EQ(editor.identity_text(), failed() ? "0" : "3C");
+        EXPECT_EQ(succeeded, !read_failed());
+        EXPECT_EQ(editor.identity_text(), read_failed() ? "0" : "3C");
         EXPECT_FALSE(editor.channel.is_open());
       });
   EXPECT_TRUE(disk.writes.empty());
@@ -88,7 +85,7 @@ TEST_F(AnomalyTest, IdentityCheck) {
 TEST_F(AnomalyTest, Load) {
   FailEachAccess([] {}, [this] { succeeded = Succeeds([this] { Load("Braves"); }); },
                  [this] {
-                   EXPECT_EQ(succeeded, !failed());
+                   EXPECT_EQ(succeeded, !read_failed());
                    EXPECT_TRUE(disk.writes.empty());
                    EXPECT_TRUE(messages.shown.empty());
                    editor.image.Close();
@@ -100,21 +97,24 @@ TEST_F(AnomalyTest, Load) {
 
 TEST_F(AnomalyTest, Save) {
   Load("Braves");
-  Type({{0, 3, "99"}, {20, 14, "4F"}});
+  Save();
+  const std::vector<ByteAccess> all = disk.writes;
   FailEachAccess(
       [this] { PutPlainRecord(); }, [this] { editor.saver.Save(); },
-      [this] {
+      [this, &all] {
         EXPECT_EQ(messages.shown, std::vector<Message>{{"Your changes have been saved."}});
-        for (const ByteAccess& write : disk.writes) {
-          const auto place = static_cast<int>(write.position - kBraves);
-          EXPECT_TRUE(place >= 0 && place < 800 && SavedOffsets(place / 32).contains(place % 32))
-              << "offset " << place % 32 << " of row " << place / 32;
-        }
         EXPECT_FALSE(editor.channel.is_open());
+        // The first access opens the image; without it nothing is written.
+        std::vector<ByteAccess> made = all;
+        if (access == 1) made.clear();
+        const auto failing = made.begin() + std::min<std::ptrdiff_t>(access - 2, std::ssize(made));
+        if (access > 1 && failing < made.end()) {
+          made.erase(failing, disk.fails_from_then_on ? made.end() : failing + 1);
+        }
+        EXPECT_EQ(disk.writes, made);
         if (disk.failures != 1) return;
         Save();
-        EXPECT_EQ(image().at(kBraves + 9), 99);
-        EXPECT_EQ(image().at(kBraves + 655), 0x4F);
+        EXPECT_EQ(disk.writes, all);
       });
 }
 
@@ -132,7 +132,8 @@ TEST_F(AnomalyTest, Export) {
         const bool is_prefix =
             file.size() <= lines.size() && std::equal(file.begin(), file.end(), lines.begin());
         EXPECT_TRUE(is_prefix);
-        EXPECT_EQ(succeeded, file.size() == lines.size() && !editor.channel.is_open());
+        EXPECT_EQ(file.size() == lines.size(), !read_failed());
+        EXPECT_EQ(editor.channel.is_open(), read_failed() && access > 1);
         // Whatever is left open, a save frees it; no team is loaded, so nothing is written.
         Save();
         EXPECT_TRUE(disk.writes.empty());
@@ -154,8 +155,9 @@ TEST_F(AnomalyTest, Import) {
         succeeded = Succeeds([this] { ImportTeamData(editor.channel, kText, editor.grid); });
       },
       [this] {
-        EXPECT_EQ(succeeded, !failed());
-        EXPECT_EQ(succeeded, Text(1, 24) == "A" && !editor.channel.is_open());
+        EXPECT_EQ(succeeded, !read_failed());
+        EXPECT_TRUE(Text(1, 24) == "A" || !succeeded);
+        EXPECT_EQ(editor.channel.is_open(), read_failed() && access > 1);
         // The grid is emptied only when the file has been opened.
         EXPECT_EQ(Text(2, 24), !succeeded && !editor.channel.is_open() ? "old" : "");
         editor.image.Close();

@@ -47,7 +47,7 @@ TEST_F(EditorOpeningTest, TheFirstFileIsTakenOnlyWhenItsIdentityByteIsRight) {
     EXPECT_EQ(editor.OpenFirstImage(path), kRefused) << path;
     ExpectImage("", "0");
   }
-  disk.failing_read = 1;
+  disk.failing_access = 2;
   EXPECT_EQ(editor.OpenFirstImage("good"), kRefused);
   ExpectImage("", "0");
   EXPECT_EQ(editor.OpenFirstImage("good"), kAccepted);
@@ -72,7 +72,7 @@ TEST_F(EditorOpeningTest, ALaterFileTakesThePlaceOfTheImageOnlyWhenItPasses) {
 
 TEST_F(EditorOpeningTest, ALaterFileThatCannotBeReadBlocksTheNextOperations) {
   EXPECT_EQ(editor.OpenFirstImage("good"), kAccepted);
-  disk.failing_read = 1;
+  disk.failing_access = 2;
   EXPECT_THROW((void)editor.OpenAnotherImage("C3"), OperationFailed);
   EXPECT_TRUE(editor.channel.is_open());
   EXPECT_THROW((void)editor.OpenAnotherImage("good too"), OperationFailed);

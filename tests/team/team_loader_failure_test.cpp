@@ -67,20 +67,5 @@ TEST_F(TeamLoaderFailureTest, ARatingThatIsALetterEndsTheLoad) {
   }
 }
 
-TEST_F(TeamLoaderFailureTest, AnyReadMayFail) {
-  const auto reads = static_cast<int>(disk.reads.size());
-  ASSERT_EQ(reads, 25 * (9 + 3 + 1 + 5 + 4 + 5));
-  for (int nth = 1; nth <= reads; ++nth) {
-    disk.failing_read = nth;
-    ASSERT_THROW(Load("Braves"), OperationFailed) << nth;
-    ASSERT_EQ(disk.reads.size(), static_cast<std::size_t>(nth - 1));
-    ASSERT_TRUE(editor.channel.is_open()) << nth;
-    editor.channel.Close();
-  }
-  Load("Braves");
-  EXPECT_FALSE(editor.channel.is_open());
-  EXPECT_TRUE(disk.writes.empty());
-}
-
 }  // namespace
 }  // namespace morlek

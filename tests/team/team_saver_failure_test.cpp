@@ -40,20 +40,6 @@ TEST_F(TeamSaverFailure, WritesInTheOrderOfTheSteps) {
   EXPECT_FALSE(editor.channel.is_open());
 }
 
-TEST_F(TeamSaverFailure, AnyWriteMayFailAndTheOthersAreMade) {
-  Load("Braves");
-  Save();
-  const std::vector<ByteAccess> all = disk.writes;
-  for (std::size_t nth = 0; nth < all.size(); ++nth) {
-    disk.failing_write = static_cast<int>(nth) + 1;
-    Save();
-    std::vector<ByteAccess> others = all;
-    others.erase(others.begin() + static_cast<std::ptrdiff_t>(nth));
-    ASSERT_EQ(disk.writes, others) << nth;
-    ASSERT_EQ(messages.Texts(), std::vector<std::string>{kSaved});
-  }
-}
-
 TEST_F(TeamSaverFailure, NothingIsWrittenWithoutATeamOrAnImage) {
   for (int row = 0; row < 25; ++row) Type({{row, 1, "A.B"}, {row, 3, "7"}});
   ExpectNothingButTheMessage();

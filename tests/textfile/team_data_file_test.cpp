@@ -153,26 +153,6 @@ TEST_F(TeamDataFileTest, UnopenableFileAndHeldChannelChangeNothing) {
   EXPECT_EQ(channel.ReadCharacter(), 'h') << "what holds the channel goes on undisturbed";
 }
 
-TEST_F(TeamDataFileTest, ReadThatFailsEndsTheImportWhereItIs) {
-  FillGrid();
-  Put(Lines(25, "A,B,\r\n"));
-  disk.failing_read = 8;
-  EXPECT_THROW(Import(), OperationFailed);
-  EXPECT_EQ(Text(1, 0), "A");
-  EXPECT_EQ(Text(1, 24), "");
-  EXPECT_TRUE(channel.is_open());
-}
-
-TEST_F(TeamDataFileTest, WriteThatFailsEndsTheExportWhereItIs) {
-  FillGrid();
-  Export();
-  const std::string whole = Content();
-  disk.failing_write = 100;
-  EXPECT_THROW(Export(), OperationFailed);
-  EXPECT_EQ(Content(), whole.substr(0, 99));
-  EXPECT_TRUE(channel.is_open());
-}
-
 TEST_F(TeamDataFileTest, FieldLongerThanABoxIsCutAndTheNextOneIsWhole) {
   const std::string longest(32767, 'x');
   Put(longest + "yz,NEXT," + longest + ",\r\n" + Lines(24, ",\r\n"));
