@@ -21,7 +21,7 @@ BenchFolder::~BenchFolder() {
 }
 
 std::filesystem::path BenchFolder::ImageOf(std::uintmax_t bytes) const {
-  const std::filesystem::path image = folder_ / ("image_" + std::to_string(bytes) + ".smc");
+  std::filesystem::path image = folder_ / ("image_" + std::to_string(bytes) + ".smc");
   if (!std::filesystem::exists(image)) {
     const std::vector<std::uint8_t> sample = MakeSampleImage();
     std::ofstream(image, std::ios::binary) << std::string(sample.begin(), sample.end());

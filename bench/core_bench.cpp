@@ -219,5 +219,5 @@ int main(int argument_count, char** arguments) {
   add("import", Import);
   MedianCollector collector;
   benchmark::RunSpecifiedBenchmarks(&collector);
-  return collector.PrintTable(kRatios) ? 0 : 1;
+  return collector.PrintRows(kRatios) ? 0 : 1;
 }

@@ -9,7 +9,10 @@
 
 namespace morlek::bench {
 
-/// One line of the table: how many times the base a measured benchmark may take.
+/// Prints one row of the table and tells whether the value is within its limit.
+bool PrintRow(const char* what, double value, double limit);
+
+/// A ratio of the table: how many times the base a measured benchmark may take.
 struct Ratio {
   const char* what;
   const char* measured;
@@ -18,12 +21,13 @@ struct Ratio {
 };
 
 /// Collects the medians of a run, so that all ratios come from the same minutes of one machine.
-class MedianCollector : public benchmark::ConsoleReporter {
+class MedianCollector : public benchmark::BenchmarkReporter {
  public:
+  bool ReportContext(const Context& /*context*/) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override;
 
-  /// Prints a line a ratio and tells whether all are within their limits.
-  [[nodiscard]] bool PrintTable(std::span<const Ratio> ratios) const;
+  /// Prints a row a ratio and tells whether all are within their limits.
+  [[nodiscard]] bool PrintRows(std::span<const Ratio> ratios) const;
 
  private:
   std::map<std::string, double> medians_;

@@ -9,11 +9,12 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
-#include <iomanip>
 #include <iostream>
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "ratio_table.h"
 
 namespace {
 
@@ -62,14 +63,6 @@ Clicks OutputOf(const std::filesystem::path& program) {
   return clicks;
 }
 
-bool PrintRow(const char* what, double value, double limit) {
-  const bool within = value <= limit;
-  std::cout << std::left << std::setw(58) << what << std::right << std::fixed
-            << std::setprecision(2) << std::setw(8) << value << std::setw(10) << limit
-            << (within ? "" : "  OVER") << '\n';
-  return within;
-}
-
 }  // namespace
 
 int main(int /*argument_count*/, char** arguments) {
@@ -85,13 +78,15 @@ int main(int /*argument_count*/, char** arguments) {
   const double editor_start = Median(editor.milliseconds);
   const double empty_memory = Median(empty.mebibytes);
   const double editor_memory = Median(editor.mebibytes);
-  std::cout << "empty window: " << empty_start << " ms, " << empty_memory
-            << " MiB; editor: " << editor_start << " ms, " << editor_memory << " MiB\n";
+  using morlek::bench::PrintRow;
   bool within = PrintRow("start to painted window / empty window", editor_start / empty_start, 1.6);
   within &= PrintRow("peak memory above the empty window, MiB", editor_memory - empty_memory, 10);
   const Clicks clicks = OutputOf(folder / "click_team");
-  std::cout << "the first click on a team, which also shows the grid: " << clicks.first << " ms\n";
   within &= PrintRow("click on a team to painted grid, ms", clicks.later, 10);
   within &= PrintRow("the same with 4 GiB / with 1.5 MiB", clicks.huge_image / clicks.later, 1.1);
+  std::cout << "\nThe empty window took " << empty_start << " ms and " << empty_memory
+            << " MiB, the editor " << editor_start << " ms and " << editor_memory
+            << " MiB; the first\nclick on a team, which also shows the grid, " << clicks.first
+            << " ms.\n";
   return within ? 0 : 1;
 }
