@@ -1,9 +1,11 @@
-// The editor from its start to its painted main window, with the splash dismissed at once.
+// The editor from its start to its painted main window, with the splash dismissed at once; with the
+// path of an image, on to the painted grid of its first team.
 
-#include <QEventLoop>
+#include <QAbstractButton>
 #include <QTimer>
 
 #include "first_paint.h"
+#include "shell/dialog_user.h"
 #include "shell/look.h"
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
@@ -11,25 +13,21 @@
 
 namespace {
 
-/// Has not chosen an image yet when the window is painted.
-class SlowUser : public morlek::bench::SilentUser {
- public:
-  SlowUser() : SilentUser(std::nullopt) {}
-
-  std::optional<QString> AskOpenPath(const morlek::FileQuestion& question) override {
-    QEventLoop().exec();
-    return SilentUser::AskOpenPath(question);
-  }
-};
-
-}  // namespace
-
-int main(int argument_count, char** arguments) {
-  const QApplication application(argument_count, arguments);
-  morlek::ApplyLook();
-  SlowUser user;
+/// Runs the editor until its window, or with a team the last box of its grid, has been painted.
+int Run(morlek::User& user, bool with_team) {
   morlek::MainWindow window(user);
-  const morlek::bench::QuitAfterFirstPaint quit(window);
+  std::optional<morlek::bench::QuitAfterFirstPaint> quit;
+  if (!with_team) quit.emplace(window);
+  QTimer picking;
+  QObject::connect(&picking, &QTimer::timeout, &window, [&] {
+    auto* last_box = window.findChild<QWidget*>("Text11(24)");
+    if (last_box == nullptr) return;
+    quit.emplace(*last_box);
+    picking.stop();
+    window.findChild<QAbstractButton*>("Braves")->click();
+  });
+  if (with_team) picking.start();
+
   morlek::SplashWindow splash;
   QObject::connect(&splash, &morlek::SplashWindow::Dismissed, &window, [&] {
     window.show();
@@ -38,4 +36,17 @@ int main(int argument_count, char** arguments) {
   splash.show();
   QTimer::singleShot(0, &splash, &morlek::SplashWindow::Dismissed);
   return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  const QApplication application(argument_count, arguments);
+  morlek::ApplyLook();
+  if (argument_count > 1) {
+    morlek::bench::SilentUser user(QString::fromLocal8Bit(arguments[1]));
+    return Run(user, true);
+  }
+  morlek::DialogUser user;
+  return Run(user, false);
 }

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "bench_files.h"
 #include "ratio_table.h"
 
 namespace {
@@ -29,9 +30,9 @@ double Median(std::vector<double> values) {
   return *middle;
 }
 
-void RunOnce(const std::filesystem::path& program, Measured& measured) {
+void RunOnce(const std::filesystem::path& program, Measured& measured, std::string argument = {}) {
   std::string name = program.string();
-  char* const arguments[] = {name.data(), nullptr};
+  char* const arguments[] = {name.data(), argument.empty() ? nullptr : argument.data(), nullptr};
   const auto start = std::chrono::steady_clock::now();
   pid_t process = 0;
   if (posix_spawn(&process, name.c_str(), nullptr, nullptr, arguments, environ) != 0) {
@@ -70,17 +71,23 @@ int main(int /*argument_count*/, char** arguments) {
   const std::filesystem::path folder = std::filesystem::path(arguments[0]).parent_path();
   Measured empty;
   Measured editor;
+  Measured team;
+  const morlek::bench::BenchFolder files;
+  const std::string image = files.ImageOf(morlek::bench::kGameBytes).string();
   for (int round = 0; round < kRounds; ++round) {
     RunOnce(folder / "empty_window", empty);
     RunOnce(folder / "start_editor", editor);
+    RunOnce(folder / "start_editor", team, image);
   }
   const double empty_start = Median(empty.milliseconds);
   const double editor_start = Median(editor.milliseconds);
   const double empty_memory = Median(empty.mebibytes);
   const double editor_memory = Median(editor.mebibytes);
+  const double team_memory = Median(team.mebibytes);
   using morlek::bench::PrintRow;
   bool within = PrintRow("start to painted window / empty window", editor_start / empty_start, 1.6);
   within &= PrintRow("peak memory above the empty window, MiB", editor_memory - empty_memory, 10);
+  within &= PrintRow("the same with a team on the screen, MiB", team_memory - empty_memory, 10);
   const Clicks clicks = OutputOf(folder / "click_team");
   within &= PrintRow("click on a team to painted grid, ms", clicks.later, 10);
   within &= PrintRow("the same with 4 GiB / with 1.5 MiB", clicks.huge_image / clicks.later, 1.1);

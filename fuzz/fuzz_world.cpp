@@ -43,49 +43,50 @@ std::span<std::uint8_t> World::Record(std::int64_t base) {
   return std::span(disk_.files.at(kImage)).subspan(static_cast<std::size_t>(base - 1), 800);
 }
 
-bool World::Load(std::string_view key) {
-  disk_.reads.clear();
+template <typename Operation>
+bool World::Succeeds(Operation operation) {
+  Forget();
   try {
-    editor_.loader.Load(key, view_);
+    operation();
     return true;
   } catch (const OperationFailed&) {
-    editor_.image.Close();
     return false;
   }
+}
+
+bool World::Load(std::string_view key) {
+  const bool succeeded = Succeeds([this, key] { editor_.loader.Load(key, view_); });
+  RequireNoWrites();
+  return succeeded;
 }
 
 void World::Save() {
   std::vector<ByteAccess> earlier;
   for (int round = 0; round < 3; ++round) {
     earlier.swap(disk_.writes);
-    disk_.writes.clear();
+    Forget();
     editor_.saver.Save();
+    Require(disk_.opened.empty() || disk_.opened == std::vector<std::filesystem::path>{kImage},
+            "a save opens the image alone");
     CheckWrites();
   }
   Require(disk_.writes == earlier, "equal saves write equal bytes");
 }
 
 bool World::Export() {
-  try {
-    ExportTeamData(editor_.channel, kText, editor_.grid);
-    return true;
-  } catch (const OperationFailed&) {
-    editor_.image.Close();
-    return false;
-  }
+  const bool succeeded = Succeeds([this] { ExportTeamData(editor_.channel, kText, editor_.grid); });
+  Require(disk_.opened.empty() || disk_.opened == std::vector<std::filesystem::path>{kText},
+          "an export opens its file alone");
+  return succeeded;
 }
 
 bool World::Import(std::span<const std::uint8_t> file) {
-  disk_.reads.clear();
-  disk_.files[kText].assign(file.begin(), file.end());
-  try {
-    ImportTeamData(editor_.channel, kText, editor_.grid);
-    return true;
-  } catch (const OperationFailed&) {
-    Require(editor_.channel.is_open(), "a short file holds the channel");
-    editor_.image.Close();
-    return false;
-  }
+  // What holds the channel may be this very file.
+  if (!editor_.channel.is_open()) disk_.files[kText].assign(file.begin(), file.end());
+  const bool succeeded = Succeeds([this] { ImportTeamData(editor_.channel, kText, editor_.grid); });
+  Require(succeeded || editor_.channel.is_open(), "a short file holds the channel");
+  RequireNoWrites();
+  return succeeded;
 }
 
 std::string World::GridTexts() const {
@@ -98,6 +99,16 @@ std::string World::GridTexts() const {
     }
   }
   return texts;
+}
+
+void World::Forget() {
+  disk_.opened.clear();
+  disk_.reads.clear();
+  disk_.writes.clear();
+}
+
+void World::RequireNoWrites() const {
+  Require(disk_.writes.empty(), "what only reads writes nothing");
 }
 
 void World::CheckWrites() const {

@@ -26,17 +26,22 @@ class World {
   /// The bytes of the record of the team at this base.
   [[nodiscard]] std::span<std::uint8_t> Record(std::int64_t base);
 
-  /// Loads a team and frees the channel when that fails; true when it came through.
+  /// Loads a team, which must write nothing; true when it came through. A load that fails, like the
+  /// operations below, can leave the channel stuck.
   bool Load(std::string_view key);
 
-  /// Saves three times: every write has to lie in the current record at an offset that a save may
-  /// write, and the third save must change nothing that the second one wrote.
+  /// Saves three times: every write has to go into the image, within the current record, at an
+  /// offset that a save may write, and the third save must write what the second one wrote.
   void Save();
 
-  /// Exports and imports the grid; each frees the channel when it fails. True when they came
-  /// through.
+  /// Exports the grid; true when it came through. The image must not be touched.
   bool Export();
+
+  /// Imports a file, which must write nothing; true when it came through.
   bool Import(std::span<const std::uint8_t> file);
+
+  /// Closes the channel if a failure has left it open.
+  void FreeChannel() { editor_.image.Close(); }
 
   /// What a file of the world holds.
   [[nodiscard]] const std::vector<std::uint8_t>& File(const char* name) const {
@@ -59,6 +64,14 @@ class World {
     void PrepareView() override {}
   };
 
+  /// Runs something that ends by an exception when it fails; true when it came through.
+  template <typename Operation>
+  bool Succeeds(Operation operation);
+
+  /// Empties the disk's records of what was done to it.
+  void Forget();
+
+  void RequireNoWrites() const;
   void CheckWrites() const;
 
   MemoryDisk disk_;

@@ -7,6 +7,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using morlek::fuzz::Require;
   morlek::fuzz::World world;
   world.Import({data, size});
+  world.FreeChannel();
   const std::string imported = world.GridTexts();
   Require(world.Export(), "an export into a writable file succeeds");
   world.editor().grid.SetText(morlek::Column::kText1, 0, "other");

@@ -32,6 +32,8 @@ shot() { import -window root "$shots/$1.png"; }
 start_desktop() {
   rm -rf "$shots"
   mkdir -p "$shots"
+  chmod 700 "$shots"
+  export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$shots} # Qt complains when there is none
   trap finish EXIT
   coproc XVFB { exec Xvfb -displayfd 1 -screen 0 1024x800x24 -nolisten tcp 2>/dev/null; }
   pids+=("$XVFB_PID")
@@ -134,7 +136,7 @@ save() {
 }
 
 quit_editor() {
-  press ctrl+q
+  press alt+f q # Quit in the menu File
   answer "MORLEK EDITOR" "$main" press alt+y
   wait_for "the end of the editor" gone "MORLEK EDITOR" "$main"
   wait "$editor_pid" || fail "the editor ended with exit status $?"

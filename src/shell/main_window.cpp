@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPaintEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -54,11 +55,12 @@ MainWindow::MainWindow(User& user) : user_(user), editor_(user) {
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::showEvent(QShowEvent* event) {
-  QMainWindow::showEvent(event);
-  if (loaded_) return;
-  loaded_ = true;
-  // From the event loop, so that the window stands on the screen before the dialog asks over it.
+void MainWindow::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  if (has_asked_) return;
+  has_asked_ = true;
+  // Only now, and from the event loop: the window is to stand on the screen, and not just its
+  // frame, while the dialog is made that asks over it.
   QTimer::singleShot(0, this, &MainWindow::OpenFirstImage);
 }
 
@@ -194,11 +196,10 @@ void MainWindow::OpenFirstImage() {
   // Only now is it known how much the system's borders take.
   FitToScreen();
   const QString path = user_.AskOpenPath(RomQuestion()).value_or(QString());
-  roster_->Fill();
   const Editor::Opening opening = editor_.OpenFirstImage(ToPath(path));
   ShowIdentity();
   if (opening == Editor::Opening::kAccepted) {
-    toolbar_->show();
+    ShowToolbar();
     ShowHint();
   } else {
     user_.ShowMessage("You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle,
@@ -225,7 +226,7 @@ void MainWindow::OpenAnotherImage() {
     // The image that was current stays so, and nobody is told.
     return;
   }
-  toolbar_->show();
+  ShowToolbar();
   toolbar_->Restart();
   HideRoster();
   SetContentWidth(kNarrowWidth);
@@ -300,6 +301,11 @@ void MainWindow::LoadTeam(std::string_view toolbar_key) {
   if (box != nullptr && roster_->isAncestorOf(box)) box->selectAll();
 }
 
+void MainWindow::ShowToolbar() {
+  roster_->Fill();
+  toolbar_->show();
+}
+
 void MainWindow::HideRoster() {
   // A hidden widget that kept the focus would go on taking keys.
   QWidget* focused = focusWidget();
@@ -319,7 +325,7 @@ void MainWindow::ShowIdentity() { identity_->setText(FromCodePage(editor_.identi
 void MainWindow::ShowTeamName(std::string_view display_name) { roster_->SetTeamName(display_name); }
 
 void MainWindow::PrepareView() {
-  toolbar_->show();
+  ShowToolbar();
   hint_->hide();
   roster_->show();
   SetContentWidth(kNarrowWidth);

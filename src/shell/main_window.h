@@ -30,7 +30,7 @@ class MainWindow : public QMainWindow, private TeamView {
   ~MainWindow() override;
 
  protected:
-  void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void BuildMenus();
@@ -53,6 +53,9 @@ class MainWindow : public QMainWindow, private TeamView {
   void ShowAbout();
   void LoadTeam(std::string_view toolbar_key);
 
+  /// From here on teams can be picked, so the roster is filled.
+  void ShowToolbar();
+
   /// Hides the grid and SAVE with it, until a team is loaded.
   void HideRoster();
 
@@ -63,7 +66,7 @@ class MainWindow : public QMainWindow, private TeamView {
 
   User& user_;
   Editor editor_;
-  bool loaded_ = false;
+  bool has_asked_ = false;
 
   QScrollArea* scroll_ = nullptr;
   QWidget* content_ = nullptr;

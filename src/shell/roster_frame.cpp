@@ -52,6 +52,7 @@ RosterFrame::RosterFrame(RosterGrid& grid, QWidget* parent) : QFrame(parent), gr
 RosterFrame::~RosterFrame() { grid_.SetListener(nullptr); }
 
 void RosterFrame::Fill() {
+  if (team_name_ != nullptr) return;
   AddHeaders(kBatterColumns, kFirstBatterHeader, kBatterHeaderTop);
   AddHeaders(kPitcherColumns, kFirstPitcherHeader, kPitcherHeaderTop);
   for (int row = 0; row < kSlotCount; ++row) AddRow(row);

@@ -30,6 +30,7 @@ class AccessibilityTest : public WindowTest {};
 TEST_F(AccessibilityTest, EveryControlHasANameAndARole) {
   StartWithTeam();
   Box(12, 0).setFocus();
+  Choose("mnuMorlekHELP");
   QStringList nameless;
   CollectNameless(*window, nameless);
   const SplashWindow splash;

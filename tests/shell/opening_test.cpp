@@ -64,9 +64,18 @@ TEST_F(OpeningTest, FirstFileThatIsNoImageIsRefusedAndALaterOneIsTaken) {
     EXPECT_EQ(LabelText("Label3"), "0");
     EXPECT_FALSE(IsShown("Toolbar1"));
   }
+  // The grid can be imported into before there is an image.
+  std::string lines;
+  for (int row = 0; row < 25; ++row) lines += "T.EAM,\r\n";
+  PutFile(folder / "team.txt", lines);
+  user.paths.push_back(PathOf("team.txt"));
+  Choose("mnuImport");
   OpenLater(ImagePath());
   EXPECT_TRUE(IsShown("Toolbar1"));
+  EXPECT_EQ(Box(1, 0).text(), "T.EAM");
   EXPECT_TRUE(user.messages.empty());
+  Click("Braves");
+  EXPECT_TRUE(IsShown("Frame1"));
 }
 
 TEST_F(OpeningTest, LaterRefusalKeepsEverythingButTheIdentityByte) {

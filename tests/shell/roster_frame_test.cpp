@@ -75,11 +75,12 @@ TEST_F(RosterFrameTest, UpAndDownKeepThePlaceInTheRow) {
 
 TEST_F(RosterFrameTest, TeamsCanBePickedByKeyboard) {
   Start(std::nullopt);
+  QTest::keyClick(window.get(), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_FALSE(IsShown("Frame1")) << "not before there is an image";
   const auto press = [this](Qt::Key key) {
     QTest::keyClick(window.get(), key, Qt::ControlModifier);
     return LabelText("Label4(0)");
   };
-  EXPECT_EQ(press(Qt::Key_PageDown), "") << "not before there is an image";
   user.paths.emplace_back(ImagePath());
   Choose("mnuOpen");
   EXPECT_EQ(press(Qt::Key_PageUp), "");

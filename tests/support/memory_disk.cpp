@@ -70,6 +70,7 @@ FileOpener MemoryDisk::Opener() {
     if ((mode & std::ios_base::trunc) != 0) files[path].clear();
     const auto file = files.find(path);
     if (file == files.end()) return nullptr;
+    opened.push_back(path);
     return std::make_unique<MemoryFile>(*this, file->second);
   };
 }

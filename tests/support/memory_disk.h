@@ -22,6 +22,7 @@ struct ByteAccess {
 class MemoryDisk {
  public:
   std::map<std::filesystem::path, std::vector<std::uint8_t>> files;
+  std::vector<std::filesystem::path> opened;
   std::vector<ByteAccess> reads;
   std::vector<ByteAccess> writes;
 

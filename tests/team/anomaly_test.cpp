@@ -39,10 +39,11 @@ class AnomalyTest : public EditorTest {
 
   /// Runs something that ends by an exception when it fails; true when it came through.
   template <typename Operation>
-  static bool Succeeds(Operation operation) {
+  bool Succeeds(Operation operation) {
     try {
       operation();
-    } catch (const OperationFailed&) {
+    } catch (const OperationFailed& failure) {
+      told = failure.what();
       return false;
     }
     return true;
@@ -57,6 +58,7 @@ class AnomalyTest : public EditorTest {
 
   int access = 0;
   bool succeeded = false;
+  std::string told;
 };
 
 TEST_F(AnomalyTest, IdentityCheck) {
@@ -83,16 +85,32 @@ TEST_F(AnomalyTest, IdentityCheck) {
 }
 
 TEST_F(AnomalyTest, Load) {
-  FailEachAccess([] {}, [this] { succeeded = Succeeds([this] { Load("Braves"); }); },
-                 [this] {
-                   EXPECT_EQ(succeeded, !read_failed());
-                   EXPECT_TRUE(disk.writes.empty());
-                   EXPECT_TRUE(messages.shown.empty());
-                   editor.image.Close();
-                   if (disk.failures != 1) return;
-                   EXPECT_TRUE(Succeeds([this] { Load("Orioles"); }));
-                   EXPECT_EQ(Text(14, 24), "18");
-                 });
+  Load("Braves");
+  const std::vector<ByteAccess> reads = disk.reads;
+  FailEachAccess(
+      [this] {
+        disk.reads.clear();
+        told.clear();
+      },
+      [this] { succeeded = Succeeds([this] { Load("Braves"); }); },
+      [this, &reads] {
+        EXPECT_EQ(succeeded, !read_failed());
+        EXPECT_EQ(editor.channel.is_open(), read_failed() && access > 1);
+        EXPECT_TRUE(disk.writes.empty());
+        EXPECT_TRUE(messages.shown.empty());
+        // The first access opens the image; a read that fails is told with its place.
+        if (editor.channel.is_open()) {
+          const std::int64_t place =
+              reads.at(static_cast<std::size_t>(access) - 2).position - kBraves;
+          const std::string where = "offset " + std::to_string(place % 32) + " of player slot " +
+                                    std::to_string(place / 32) + " ";
+          EXPECT_NE(told.find(where), std::string::npos) << where << "is not in: " << told;
+        }
+        editor.image.Close();
+        if (disk.failures != 1) return;
+        EXPECT_TRUE(Succeeds([this] { Load("Orioles"); }));
+        EXPECT_EQ(Text(14, 24), "18");
+      });
 }
 
 TEST_F(AnomalyTest, Save) {
