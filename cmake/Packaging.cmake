@@ -21,7 +21,8 @@ set(man_page ${PROJECT_BINARY_DIR}/morlek-editor.1.gz)
 set(debian_changelog ${PROJECT_BINARY_DIR}/changelog.Debian.gz)
 add_compressed(${man_page} ${packaging}/linux/morlek-editor.1)
 add_compressed(${debian_changelog} ${packaging}/linux/changelog)
-add_custom_target(compressed_documents ALL DEPENDS ${man_page} ${debian_changelog})
+add_custom_target(compressed_documents DEPENDS ${man_page} ${debian_changelog})
+add_dependencies(morlek-editor compressed_documents) # so whoever has the program can install it
 
 install(TARGETS morlek-editor)
 install(FILES ${packaging}/linux/${app_id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)

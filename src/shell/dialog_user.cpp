@@ -3,8 +3,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QSettings>
+#include <QTreeView>
 
 namespace morlek {
 
@@ -22,6 +24,16 @@ void MakeRoomForTitle(QMessageBox& box) {
   auto* layout = qobject_cast<QGridLayout*>(box.layout());
   if (layout == nullptr) return;
   layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), 0, 1, layout->columnCount());
+}
+
+/// The toolkit's own dialog, where the system has none, cuts sizes and dates although it has room.
+void FitColumns(const QFileDialog& dialog) {
+  const auto* details = dialog.findChild<QTreeView*>("treeView");
+  if (details == nullptr) return;
+  QHeaderView& header = *details->header();
+  header.setStretchLastSection(false);
+  header.setSectionResizeMode(QHeaderView::ResizeToContents);
+  header.setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 }  // namespace
@@ -47,7 +59,11 @@ std::optional<QString> DialogUser::Ask(QFileDialog& dialog, const FileQuestion& 
   dialog.setWindowTitle(question.title);
   dialog.setNameFilter(question.filter.section('|', 0, 0));
   dialog.setDirectory(folder_);
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  FitColumns(dialog);
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  // A dialog of the system does not always give the focus back.
+  if (window_ != nullptr) window_->activateWindow();
+  if (!accepted) return std::nullopt;
   const QString path = dialog.selectedFiles().value(0);
   folder_ = QFileInfo(path).absolutePath();
   return path;

@@ -23,6 +23,7 @@
 #include "shell/twips.h"
 #include "textfile/team_export.h"
 #include "textfile/team_import.h"
+#include "version.h"
 
 namespace morlek {
 namespace {
@@ -282,9 +283,10 @@ void MainWindow::Quit() {
 }
 
 void MainWindow::ShowAbout() {
-  user_.ShowMessage(
-      "MORLEK EDITOR for SNES Dale Harrow Baseball.\nFree software under the MIT licence.",
-      kProgramTitle, Message::Icon::kNone);
+  const QString text =
+      "MORLEK EDITOR for SNES Dale Harrow Baseball.\n"
+      "Version %1, free software under the MIT licence; uses Qt under the LGPL version 3.";
+  user_.ShowMessage(text.arg(kVersion), kProgramTitle, Message::Icon::kNone);
 }
 
 void MainWindow::LoadTeam(std::string_view toolbar_key) {
