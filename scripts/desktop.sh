@@ -31,9 +31,9 @@ shot() { import -window root "$shots/$1.png"; }
 
 start_desktop() {
   rm -rf "$shots"
-  mkdir -p "$shots"
-  chmod 700 "$shots"
-  export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$shots} # Qt complains when there is none
+  mkdir -p "$shots/.runtime"
+  chmod 700 "$shots/.runtime"
+  export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$shots/.runtime} # Qt complains when there is none
   trap finish EXIT
   coproc XVFB { exec Xvfb -displayfd 1 -screen 0 1024x800x24 -nolisten tcp 2>/dev/null; }
   pids+=("$XVFB_PID")
