@@ -60,10 +60,7 @@ std::optional<QString> DialogUser::Ask(QFileDialog& dialog, const FileQuestion& 
   dialog.setNameFilter(question.filter.section('|', 0, 0));
   dialog.setDirectory(folder_);
   FitColumns(dialog);
-  const bool accepted = dialog.exec() == QDialog::Accepted;
-  // A dialog of the system does not always give the focus back.
-  if (window_ != nullptr) window_->activateWindow();
-  if (!accepted) return std::nullopt;
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const QString path = dialog.selectedFiles().value(0);
   folder_ = QFileInfo(path).absolutePath();
   return path;
