@@ -39,7 +39,7 @@ Clicks MeasureClicks(const std::filesystem::path& image) {
   QWidget* last_box = nullptr;
   while (last_box == nullptr) {
     QCoreApplication::processEvents();
-    last_box = window.findChild<QWidget*>("Text11(24)");
+    last_box = window.findChild<QWidget*>("Text14(24)");
   }
   PaintWatcher watcher;
   last_box->installEventFilter(&watcher);

@@ -20,13 +20,15 @@ int Run(morlek::User& user, bool with_team) {
   if (!with_team) quit.emplace(window);
   QTimer picking;
   QObject::connect(&picking, &QTimer::timeout, &window, [&] {
-    auto* last_box = window.findChild<QWidget*>("Text11(24)");
+    auto* last_box = window.findChild<QWidget*>("Text14(24)");
     if (last_box == nullptr) return;
     quit.emplace(*last_box);
     picking.stop();
     window.findChild<QAbstractButton*>("Braves")->click();
   });
   if (with_team) picking.start();
+  // Should the image be refused, nothing is ever painted.
+  QTimer::singleShot(std::chrono::seconds(30), &window, [] { QApplication::exit(1); });
 
   morlek::SplashWindow splash;
   QObject::connect(&splash, &morlek::SplashWindow::Dismissed, &window, [&] {

@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QPaintEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -56,13 +55,14 @@ MainWindow::MainWindow(User& user) : user_(user), editor_(user) {
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::paintEvent(QPaintEvent* event) {
-  QMainWindow::paintEvent(event);
-  if (has_asked_) return;
-  has_asked_ = true;
-  // Only now, and from the event loop: the window is to stand on the screen, and not just its
-  // frame, while the dialog is made that asks over it.
-  QTimer::singleShot(0, this, &MainWindow::OpenFirstImage);
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Paint) {
+    content_->removeEventFilter(this);
+    // Only now, and from the event loop: the window is to stand on the screen, and not just its
+    // frame, while the dialog is made that asks over it.
+    QTimer::singleShot(0, this, &MainWindow::OpenFirstImage);
+  }
+  return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::BuildMenus() {
@@ -89,6 +89,7 @@ void MainWindow::BuildContent() {
   scroll_->setAccessibleName("scrolling area");
   content_ = new QWidget;
   content_->setAccessibleName("content");
+  content_->installEventFilter(this);
   scroll_->setWidget(content_);
   setCentralWidget(scroll_);
 
@@ -161,6 +162,7 @@ void MainWindow::FitToScreen() {
 }
 
 void MainWindow::Run(Command command) {
+  if (!takes_commands_) return;
   switch (command) {
     case Command::kOpen:
       OpenAnotherImage();
@@ -197,10 +199,12 @@ void MainWindow::OpenFirstImage() {
   // Only now is it known how much the system's borders take.
   FitToScreen();
   const QString path = user_.AskOpenPath(RomQuestion()).value_or(QString());
+  roster_->Fill();
+  takes_commands_ = true;
   const Editor::Opening opening = editor_.OpenFirstImage(ToPath(path));
   ShowIdentity();
   if (opening == Editor::Opening::kAccepted) {
-    ShowToolbar();
+    toolbar_->show();
     ShowHint();
   } else {
     user_.ShowMessage("You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle,
@@ -227,7 +231,7 @@ void MainWindow::OpenAnotherImage() {
     // The image that was current stays so, and nobody is told.
     return;
   }
-  ShowToolbar();
+  toolbar_->show();
   toolbar_->Restart();
   HideRoster();
   SetContentWidth(kNarrowWidth);
@@ -303,11 +307,6 @@ void MainWindow::LoadTeam(std::string_view toolbar_key) {
   if (box != nullptr && roster_->isAncestorOf(box)) box->selectAll();
 }
 
-void MainWindow::ShowToolbar() {
-  roster_->Fill();
-  toolbar_->show();
-}
-
 void MainWindow::HideRoster() {
   // A hidden widget that kept the focus would go on taking keys.
   QWidget* focused = focusWidget();
@@ -327,7 +326,7 @@ void MainWindow::ShowIdentity() { identity_->setText(FromCodePage(editor_.identi
 void MainWindow::ShowTeamName(std::string_view display_name) { roster_->SetTeamName(display_name); }
 
 void MainWindow::PrepareView() {
-  ShowToolbar();
+  toolbar_->show();
   hint_->hide();
   roster_->show();
   SetContentWidth(kNarrowWidth);

@@ -30,7 +30,7 @@ class MainWindow : public QMainWindow, private TeamView {
   ~MainWindow() override;
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void BuildMenus();
@@ -53,9 +53,6 @@ class MainWindow : public QMainWindow, private TeamView {
   void ShowAbout();
   void LoadTeam(std::string_view toolbar_key);
 
-  /// From here on teams can be picked, so the roster is filled.
-  void ShowToolbar();
-
   /// Hides the grid and SAVE with it, until a team is loaded.
   void HideRoster();
 
@@ -66,7 +63,8 @@ class MainWindow : public QMainWindow, private TeamView {
 
   User& user_;
   Editor editor_;
-  bool has_asked_ = false;
+  // From the answer to the first question on, which is asked over the painted window.
+  bool takes_commands_ = false;
 
   QScrollArea* scroll_ = nullptr;
   QWidget* content_ = nullptr;

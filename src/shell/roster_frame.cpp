@@ -41,22 +41,22 @@ RosterFrame::RosterFrame(RosterGrid& grid, QWidget* parent) : QFrame(parent), gr
   setObjectName("Frame1");
   setAccessibleName("roster");
   setGeometry(RectFromTwips(60, 720, 6555, 9015));
-  grid_.SetListener([this](Column column, int row) {
-    RosterBox* box = boxes_.at(static_cast<std::size_t>(row)).at(Index(column));
-    const QString shown = FromCodePage(grid_.Text(column, row));
-    if (box != nullptr && box->text() != shown) box->setText(shown);
-    emit RowChanged(row);
-  });
 }
 
 RosterFrame::~RosterFrame() { grid_.SetListener(nullptr); }
 
 void RosterFrame::Fill() {
-  if (team_name_ != nullptr) return;
   AddHeaders(kBatterColumns, kFirstBatterHeader, kBatterHeaderTop);
   AddHeaders(kPitcherColumns, kFirstPitcherHeader, kPitcherHeaderTop);
   for (int row = 0; row < kSlotCount; ++row) AddRow(row);
   AddTeamNameAndSave();
+
+  grid_.SetListener([this](Column column, int row) {
+    RosterBox* box = boxes_.at(static_cast<std::size_t>(row)).at(Index(column));
+    const QString shown = FromCodePage(grid_.Text(column, row));
+    if (box->text() != shown) box->setText(shown);
+    emit RowChanged(row);
+  });
 }
 
 void RosterFrame::SetTeamName(std::string_view display_name) {
@@ -89,7 +89,6 @@ void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int t
 void RosterFrame::AddRow(int row) {
   for (const GridColumn& column : ColumnsOfRow(row)) {
     auto* box = new RosterBox(column, row, this);
-    box->setText(FromCodePage(grid_.Text(column.column, row)));
     box->setGeometry(RectFromTwips(column.left, TopOfRow(row), column.width, kBoxHeight));
     boxes_.at(static_cast<std::size_t>(row)).at(Index(column.column)) = box;
     connect(box, &RosterBox::textChanged, this, [this, box] {

@@ -24,8 +24,8 @@ class RosterFrame : public QFrame {
   ~RosterFrame() override;
 
   /// Puts everything into the frame, which is empty at first: its 350 boxes take as long as the
-  /// rest of the window, which need not wait for them. To be called before the frame is used; a
-  /// second call does nothing.
+  /// rest of the window, which need not wait for them. To be called once, before the grid and the
+  /// frame are used.
   void Fill();
 
   void SetTeamName(std::string_view display_name);

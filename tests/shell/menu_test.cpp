@@ -1,5 +1,6 @@
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 
 #include "shell/window_fixture.h"
 
@@ -52,6 +53,7 @@ TEST_F(MenuTest, KeysOfTheLineEditorReachTheMenuFromABox) {
   ASSERT_EQ(user.messages.size(), 1U);
   EXPECT_EQ(user.messages[0].title, "MORLEK EDITOR");
   EXPECT_TRUE(user.messages[0].text.startsWith("MORLEK EDITOR for SNES Dale Harrow Baseball.\n"));
+  EXPECT_TRUE(user.messages[0].text.contains(QRegularExpression(R"(\nVersion \d+\.\d+\.\d+,)")));
   EXPECT_EQ(user.messages[0].icon, Message::Icon::kNone);
 
   QTest::keyClick(&box, Qt::Key_E, Qt::ControlModifier);
