@@ -10,24 +10,13 @@
 #include <vector>
 
 #include "bench_files.h"
+#include "no_window.h"
 #include "ratio_table.h"
-#include "team/editor.h"
 #include "textfile/team_export.h"
 #include "textfile/team_import.h"
 
 namespace morlek::bench {
 namespace {
-
-class SilentMessages : public MessagePort {
- public:
-  void Show(const Message& /*message*/) override {}
-};
-
-class NoView : public TeamView {
- public:
-  void ShowTeamName(std::string_view /*display_name*/) override {}
-  void PrepareView() override {}
-};
 
 /// Counts the single-byte accesses of an operation at the seam through which all of them go.
 class CountingFile : public File, private std::streambuf {

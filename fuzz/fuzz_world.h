@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "support/memory_disk.h"
-#include "team/editor.h"
+#include "tools/no_window.h"
 
 namespace morlek::fuzz {
 
@@ -54,16 +54,6 @@ class World {
   Editor& editor() { return editor_; }
 
  private:
-  class Silence : public MessagePort {
-   public:
-    void Show(const Message& /*message*/) override {}
-  };
-  class NoView : public TeamView {
-   public:
-    void ShowTeamName(std::string_view /*display_name*/) override {}
-    void PrepareView() override {}
-  };
-
   /// Runs something that ends by an exception when it fails; true when it came through.
   template <typename Operation>
   bool Succeeds(Operation operation);
@@ -75,7 +65,7 @@ class World {
   void CheckWrites() const;
 
   MemoryDisk disk_;
-  Silence messages_;
+  SilentMessages messages_;
   NoView view_;
   Editor editor_;
 };

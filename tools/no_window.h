@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+#include "team/editor.h"
+
+// For programs that use an editor without showing anything.
+namespace morlek {
+
+class SilentMessages : public MessagePort {
+ public:
+  void Show(const Message& /*message*/) override {}
+};
+
+class NoView : public TeamView {
+ public:
+  void ShowTeamName(std::string_view /*display_name*/) override {}
+  void PrepareView() override {}
+};
+
+}  // namespace morlek
