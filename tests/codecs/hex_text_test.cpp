@@ -37,15 +37,6 @@ const std::map<std::string, std::string> kTold = {
     {"@", "@ is Not a valid hexadecimal number"}, {"`", "` is Not a valid hexadecimal number"}};
 // clang-format on
 
-TEST(HexText, WritesEveryByteWithAndWithoutLeadingZero) {
-  const std::string digits = "0123456789ABCDEF";
-  for (std::size_t byte = 0; byte < 256; ++byte) {
-    const std::string two = {digits[byte / 16], digits[byte % 16]};
-    EXPECT_EQ(ByteToTwoDigits(static_cast<std::uint8_t>(byte)), two);
-    EXPECT_EQ(ByteToText(static_cast<std::uint8_t>(byte)), byte < 16 ? two.substr(1) : two);
-  }
-}
-
 TEST(HexText, ReadsUpToFourDigitsAs16BitsAndMoreAs32) {
   for (const auto& [text, number] : kSigned) {
     EXPECT_EQ(SignedHexToNumber(text), number) << text;

@@ -45,13 +45,5 @@ TEST(TextToByte, RoundsHalvesToEvenAndKeepsToAByte) {
   for (const auto& text : kNoBytes) EXPECT_EQ(TextToByte(text), std::nullopt) << text;
 }
 
-TEST(NumberToText, HasNoPointForAWholeNumberAndFifteenDigitsAtMost) {
-  EXPECT_EQ(NumberToText(100), "100");
-  EXPECT_EQ(NumberToText(-64), "-64");
-  EXPECT_EQ(NumberToText(14.5), "14.5");
-  EXPECT_EQ(NumberToText(999999999999999), "999999999999999");
-  EXPECT_EQ(NumberToText(24.0000000000001), "24.0000000000001");
-}
-
 }  // namespace
 }  // namespace morlek

@@ -26,18 +26,6 @@ const std::vector<Pair> kPairs = {
     {"1,", "000"}, {"1e9", ""}, {"1e300", ""}, {"1e999", ""}, {"35.0000000000001", ""}};
 // clang-format on
 
-TEST(RatingDigitCodec, FormatsEveryByteInTwoDigits) {
-  const std::string digits = "0123456789ABCDEF";
-  RatingDigitCodec codec;
-  for (std::size_t byte = 0; byte < 256; ++byte) {
-    codec.first_bytes[24] = static_cast<std::uint8_t>(byte);
-    codec.second_bytes[24] = static_cast<std::uint8_t>(255 - byte);
-    const RatingTexts texts = codec.FormatRatingBytes(24);
-    EXPECT_EQ(texts.first, (std::string{digits[byte / 16], digits[byte % 16]}));
-    EXPECT_EQ(texts.second, (std::string{digits[15 - byte / 16], digits[15 - byte % 16]}));
-  }
-}
-
 TEST(RatingDigitCodec, PacksTwoRatingsByJoiningTheirTexts) {
   for (const Pair& pair : kPairs) {
     EXPECT_EQ(PackRatings(pair.first, pair.second), pair.packed) << pair.first << pair.second;

@@ -6,7 +6,6 @@
 #include <string>
 
 #include "image/failure.h"
-#include "support/memory_disk.h"
 #include "support/temp_dir.h"
 
 namespace morlek {
@@ -43,17 +42,6 @@ TEST_F(ChannelTest, ThereIsNoPositionBelowOneAndOnlyZerosPastTheEnd) {
   EXPECT_EQ(channel.ReadByte(988297), 0);
   EXPECT_EQ(channel.ReadByte(2), 'b');
   EXPECT_EQ(GetFile(path), "abc");
-}
-
-TEST_F(ChannelTest, RefusesFoldersAndNeverCreatesAFileToRead) {
-  for (const char* name : {"missing", ".", "missing/file"}) {
-    EXPECT_FALSE(channel.OpenBinary(dir / name)) << name;
-    EXPECT_FALSE(channel.OpenTextInput(dir / name)) << name;
-  }
-  EXPECT_FALSE(channel.OpenBinary(""));
-  EXPECT_FALSE(channel.OpenTextOutput(dir / "."));
-  EXPECT_FALSE(std::filesystem::exists(dir / "missing"));
-  EXPECT_FALSE(channel.is_open());
 }
 
 TEST_F(ChannelTest, ServesOneFileInOneModeAtATime) {
@@ -101,36 +89,6 @@ TEST_F(ChannelTest, WritesLinesWithCarriageReturnAndLineFeedAtOnce) {
   channel.WriteLine("one\x80,");
   channel.WriteLine("");
   EXPECT_EQ(GetFile(path), "one\x80,\r\n\r\n");
-}
-
-TEST(ChannelFailure, AFailingDeviceFailsTheAccessAndLeavesTheChannelOpen) {
-  MemoryDisk disk;
-  disk.files["file"] = {'a', 'b', 'c'};
-  Channel channel(disk.Opener());
-  ASSERT_TRUE(channel.OpenBinary("file"));
-  disk.failing_access = 1;
-  EXPECT_THROW((void)channel.ReadByte(2), OperationFailed);
-  EXPECT_EQ(channel.ReadByte(2), 'b');
-  disk.failing_access = 1;
-  EXPECT_FALSE(channel.WriteByte(3, 'X'));
-  EXPECT_TRUE(channel.WriteByte(3, 'Y'));
-  disk.failing_access = 1;
-  EXPECT_FALSE(channel.Close());
-  EXPECT_FALSE(channel.is_open());
-  EXPECT_TRUE(channel.Close());
-
-  ASSERT_TRUE(channel.OpenTextInput("file"));
-  disk.failing_access = 1;
-  EXPECT_THROW((void)channel.PeekCharacter(), OperationFailed);
-  disk.failing_access = 1;
-  EXPECT_THROW((void)channel.ReadCharacter(), OperationFailed);
-  EXPECT_EQ(channel.ReadCharacter(), 'a');
-  channel.Close();
-
-  ASSERT_TRUE(channel.OpenTextOutput("file"));
-  disk.failing_access = 4;
-  EXPECT_THROW(channel.WriteLine("abcdef"), OperationFailed);
-  EXPECT_TRUE(channel.is_open());
 }
 
 }  // namespace

@@ -38,16 +38,5 @@ TEST_F(AccessibilityTest, EveryControlHasANameAndARole) {
   EXPECT_TRUE(nameless.isEmpty()) << nameless.join('\n').toStdString();
 }
 
-TEST_F(AccessibilityTest, NamesTellTheCellAndThePlayer) {
-  StartWithTeam();
-  EXPECT_EQ(Box(3, 2).accessibleName(), "uniform number, batter 3");
-  EXPECT_EQ(Box(9, 14).accessibleName(), "batting average, batter 15");
-  EXPECT_EQ(Box(9, 15).accessibleName(), "earned run average, pitcher 1");
-  EXPECT_EQ(Box(10, 24).accessibleName(), "losses, pitcher 10");
-  EXPECT_EQ(Find("Picture1(28)").accessibleName(), "face 22");
-  EXPECT_EQ(Find("Picture3(2)").accessibleName(), "legs 13");
-  EXPECT_EQ(Find("Braves").accessibleName(), "ATLANTA BRAVES");
-}
-
 }  // namespace
 }  // namespace morlek

@@ -69,12 +69,6 @@ TEST_F(DialogUserTest, OpenDialogGivesThePathAndLaterOnesStartInItsFolder) {
   EXPECT_FALSE(QFileInfo::exists(kept.fileName())) << "the program keeps nothing between runs";
 }
 
-TEST_F(DialogUserTest, MissingFileIsGivenAsItIsTyped) {
-  const QString path = PathText(folder / "missing.smc");
-  AnswerNext<QFileDialog>([&](QFileDialog& dialog) { TypeNameAndAccept(dialog, path); });
-  EXPECT_EQ(user.AskOpenPath({"Title", "SNES File (*.smc)|*.smc"}), path);
-}
-
 TEST_F(DialogUserTest, SaveDialogReplacesWithoutAskingAndAddsNoExtension) {
   PutFile(folder / "team", std::string("old"));
   const QString path = PathText(folder / "team");

@@ -9,40 +9,6 @@ namespace {
 
 class MenuTest : public WindowTest {};
 
-TEST_F(MenuTest, ItemsStandInOrderWithCaptionsAndKeys) {
-  Start(ImagePath());
-  struct Item {
-    const char* menu;
-    const char* name;
-    const char* caption;
-    const char* key;
-  };
-  const std::vector<Item> items = {
-      {"&File", "mnuOpen", "&Open Rom", "Ctrl+O"},
-      {"&File", "mnuQuit", "&Quit", "Ctrl+Q"},
-      {"Options", "mnuImport", "&Import Team Data", "Ctrl+I"},
-      {"Options", "mnuExport", "&Export Team Data", "Ctrl+E"},
-      {"Options", "mnuMini", "&Minimize Player Features", "Ctrl+M"},
-      {"Options", "mnuAlwaysOnTop", "Always On top", "Ctrl+T"},
-      {"Options", "mnuNotTop", "Not Always On Top", "Ctrl+N"},
-      {"Help", "mnuMorlekHELP", "Morlek &Help", "Ctrl+H"},
-      {"Help", "mnuAboutMorlek", "&About MORLEK EDITOR", "Ctrl+A"},
-  };
-  std::size_t place = 0;
-  for (const QAction* menu : window->menuBar()->actions()) {
-    for (const QAction* action : menu->menu()->actions()) {
-      ASSERT_LT(place, items.size());
-      const Item& item = items[place++];
-      EXPECT_EQ(menu->text(), item.menu);
-      EXPECT_EQ(action->objectName(), item.name);
-      EXPECT_EQ(action->text(), item.caption);
-      EXPECT_EQ(action->shortcut().toString(), item.key);
-      EXPECT_TRUE(action->isEnabled() || !action->isVisible());
-    }
-  }
-  EXPECT_EQ(place, items.size());
-}
-
 TEST_F(MenuTest, KeysOfTheLineEditorReachTheMenuFromABox) {
   StartWithTeam();
   QLineEdit& box = Box(1, 4);

@@ -100,10 +100,6 @@ TEST_F(OpeningTest, LaterRefusalKeepsEverythingButTheIdentityByte) {
   OpenLater(WrongImage(0xC3));
   ExpectTold(kNotThisGame, kImageTitle);
   EXPECT_EQ(LabelText("Label3"), "C3");
-  PutFile(folder / "short.smc", std::string(100, '<'));
-  OpenLater(PathOf("short.smc"));
-  ExpectTold(kNotThisGame, kImageTitle);
-  EXPECT_EQ(LabelText("Label3"), "0");
 
   EXPECT_EQ(GridTexts(), texts);
   EXPECT_TRUE(IsShown("Toolbar1"));
@@ -171,18 +167,6 @@ TEST_F(OpeningTest, KeysDoNotReachTheHiddenGrid) {
   EXPECT_EQ(Box(1, 0).text(), name);
 }
 
-TEST_F(OpeningTest, RatingThatIsNoNumberIsReportedWithItsPlace) {
-  std::vector<std::uint8_t> bytes = Sample();
-  bytes.at(kBraves - 1 + 32 * 7 + 12) = 0x4E;
-  PutFile(ImageFile(), bytes);
-  Start(ImagePath());
-  Click("Braves");
-  ASSERT_EQ(user.messages.size(), 1U);
-  EXPECT_TRUE(user.messages[0].text.contains("slot 7")) << user.messages[0].text.toStdString();
-  EXPECT_TRUE(user.messages[0].text.contains("offset 12"));
-  EXPECT_FALSE(IsShown("Frame1"));
-}
-
 TEST_F(OpeningTest, SaveAfterAnEditSaysSo) {
   StartWithTeam();
   EXPECT_EQ(Box(3, 0).text(), "21");
@@ -193,10 +177,6 @@ TEST_F(OpeningTest, SaveAfterAnEditSaysSo) {
 
   QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
   ExpectTold("Your changes have been saved.");
-  std::filesystem::remove(ImageFile());
-  Click("Command1");
-  ExpectTold("Your changes have been saved.");
-  EXPECT_FALSE(std::filesystem::exists(ImageFile()));
 }
 
 }  // namespace

@@ -28,15 +28,6 @@ TEST_F(RosterBoxTest, FocusSelectsTheWholeText) {
   EXPECT_EQ(Box(1, 21).selectedText(), Box(1, 21).text());
 }
 
-TEST_F(RosterBoxTest, SecondClickPlacesTheCursor) {
-  StartWithTeam();
-  QLineEdit& box = Box(1, 0);
-  QTest::mouseClick(&box, Qt::LeftButton);
-  EXPECT_TRUE(box.hasSelectedText());
-  QTest::mouseClick(&box, Qt::LeftButton);
-  EXPECT_FALSE(box.hasSelectedText());
-}
-
 TEST_F(RosterBoxTest, LoadedTextIsReplacedByTyping) {
   StartWithTeam();
   QTest::mouseClick(&Box(1, 0), Qt::LeftButton);

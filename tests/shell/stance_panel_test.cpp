@@ -62,13 +62,6 @@ TEST_F(StancePanelTest, ThreeColumnsShareTheStanceRow) {
   EXPECT_EQ(Box(13, 4).text(), "54");
 }
 
-TEST_F(StancePanelTest, SkinToolTipStandsOnTheFaceTitle) {
-  Start(ImagePath());
-  EXPECT_EQ(Find("Label1").toolTip(),
-            "This will edit the skin color and facial features of a player but not hair color. "
-            "Click to make selection.");
-}
-
 TEST_F(StancePanelTest, CurrentPictureIsMarkedAndTheStanceFollows) {
   StartWithTeam();
   TypeInto(12, 2, "10");

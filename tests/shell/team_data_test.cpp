@@ -46,27 +46,6 @@ TEST_F(TeamDataTest, EveryCharacterThatABoxCanHoldComesBack) {
   }
 }
 
-TEST_F(TeamDataTest, TeamImportedIntoAnotherAndSavedIsTheSameRecord) {
-  StartWithTeam("Braves");
-  Export(PathOf("braves.txt"));
-  Click("Marlins");
-  Import(PathOf("braves.txt"));
-  Click("Command1");
-  const std::string image = GetFile(ImageFile());
-  constexpr std::size_t kMarlins = 1288865;
-  for (std::size_t place = 0; place < 800; ++place) {
-    const std::size_t offset = place % 32;
-    // Bytes that the editor leaves to the game are the Marlins' own still.
-    const bool is_pitcher = place / 32 >= 15;
-    const bool is_left_alone =
-        (offset >= 18 && offset <= 20) || offset == 22 || offset == 27 || offset == 31 ||
-        (is_pitcher ? offset == 13 || offset == 25
-                    : offset == 17 || offset == 21 || offset == 23 || offset == 29 || offset == 30);
-    const std::size_t source = (is_left_alone ? kMarlins : std::size_t{kBraves}) - 1 + place;
-    EXPECT_EQ(static_cast<std::uint8_t>(image[kMarlins - 1 + place]), Sample()[source]) << place;
-  }
-}
-
 TEST_F(TeamDataTest, CancelsAndFailuresAreSilent) {
   StartWithTeam();
   user.messages.clear();

@@ -56,18 +56,6 @@ TEST_F(WindowOptionsTest, ClickWidensAgainAlsoWhereTheFocusHasStayed) {
   }
 }
 
-TEST_F(WindowOptionsTest, NothingOfAChooserShowsInTheNarrowLayout) {
-  StartWithTeam();
-  const QImage before = window->grab().toImage();
-  Box(12, 2).setFocus();
-  Choose("mnuMini");
-  Box(1, 2).setFocus();
-  const QImage after = window->grab().toImage();
-  ASSERT_EQ(after.size(), before.size());
-  const QRect strip(after.width() - 6, 0, 6, after.height());
-  EXPECT_EQ(after.copy(strip), before.copy(strip));
-}
-
 TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   StartWithTeam();
   QTest::mouseClick(&Box(13, 3), Qt::LeftButton);
@@ -97,39 +85,6 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   EXPECT_EQ(QApplication::focusWidget(), &Box(13, 3));
   EXPECT_EQ(Box(13, 3).selectedText(), Box(13, 3).text());
   EXPECT_EQ(window->width(), kNarrow) << "closing the help is no visit to a features box";
-}
-
-TEST_F(WindowOptionsTest, HelpTellsItsTopicsInOrder) {
-  Start(ImagePath());
-  Choose("mnuMorlekHELP");
-  const QString text = Find<QPlainTextEdit>("Text15").toPlainText();
-  const QStringList topics = {"::::::::::::::\nMORLEK EDITOR\n::::::::::::::\n",
-                              "\n\n\nINTRODUCTION\n----",
-                              "\nKNOWN BUGS\n----",
-                              "backup copy",
-                              "\nHOW TO USE\n----",
-                              "\nUsing the Morlek Editor is simple.\n",
-                              "\nOPEN A ROM-",
-                              "\nSELECT A TEAM-",
-                              "\nEDIT PLAYER NUMBER-",
-                              "\nEDIT PLAYER NAME-",
-                              "\nEDIT BATTING STANCE-",
-                              "\nSAVE EDITS-",
-                              "\nFILE MENU-",
-                              "\nOptions Menu-",
-                              "the close button at the bottom",
-                              "\nIMPORT TEAM DATA-",
-                              "\nEXPORT TEAM DATA-",
-                              "\nMINIMIZE PLAYER FEATURES-",
-                              "\nALWAYS ON TOP-",
-                              "\n\n\nDOUBLE CLICK TO CLOSE HELP"};
-  qsizetype from = 0;
-  for (const QString& topic : topics) {
-    const qsizetype found = text.indexOf(topic, from);
-    EXPECT_GE(found, from) << topic.toStdString();
-    from = std::max(from, found);
-  }
-  EXPECT_TRUE(text.endsWith("DOUBLE CLICK TO CLOSE HELP"));
 }
 
 TEST_F(WindowOptionsTest, OnTopIsTurnedOnAndOffInPlace) {

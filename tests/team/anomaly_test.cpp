@@ -19,6 +19,7 @@ class AnomalyTest : public EditorTest {
   void FailEachAccess(Prepare prepare, Operation operation, Check check) {
     for (const bool from_then_on : {false, true}) {
       access = 0;
+      int failed_closes = 0;
       do {
         ++access;
         SCOPED_TRACE(testing::Message() << "access " << access << ", later too: " << from_then_on);
@@ -32,8 +33,10 @@ class AnomalyTest : public EditorTest {
         operation();
         disk.failing_access = 0;
         check();
+        failed_closes += disk.failed_closes;
       } while (disk.failures > 0 && !HasFailure());
       EXPECT_GT(access, 2) << "nothing was made to fail";
+      EXPECT_GT(failed_closes, 0) << "no close was made to fail";
     }
   }
 

@@ -26,12 +26,6 @@ TEST(RoundTrip, LoadingAndSavingEveryTeamLeavesTheFileAsItWas) {
     ASSERT_EQ(messages.Texts(), std::vector<std::string>{kSaved}) << team.key;
     messages.shown.clear();
   }
-  editor.loader.Load("Braves", view);
-  editor.grid.SetText(Column::kText3, 0, "24");
-  editor.saver.Save();
-  std::string after = before;
-  after.at(1278465 + 10 - 1) = 0x18;
-  EXPECT_EQ(GetFile(path), after);
 }
 
 class RoundTripTest : public EditorTest {
@@ -75,17 +69,6 @@ const std::vector<Edit> kEdits = {
     {{7, 5, ""}, {}}, {{7, 7, ""}, {}},
     {{7, 9, ""}, {}}, {{20, 12, ""}, {}}, {{20, 4, ""}, {{20, 21, 0x13}}}};
 
-const std::vector<FieldByte> kStored = {
-    {0, 0, 0x00}, {0, 1, 0x1D}, {0, 2, 0x17},          // no initial: the name closes up
-    {1, 0, 0x36}, {1, 1, 0x0A},                        // a small c, a blank inside
-    {2, 11, 0x09}, {3, 12, 0x09}, {2, 10, 0xFF},       // ratings of 10, a large number
-    {14, 24, 0x00}, {14, 25, 0x00},                    // no average at all
-    {15, 23, 0x02}, {16, 23, 0x12}, {17, 23, 0x22},    // other ways to store an S
-    {18, 21, 0x0F}, {19, 21, 0xF0}, {20, 17, 0x77}};   // digits of the game's own
-const std::vector<FieldByte> kBack = {
-    {0, 0, 0x1D}, {0, 1, 0x17}, {0, 2, 0x00}, {1, 0, 0x0D}, {1, 1, 0x0C}, {1, 2, 0x00},
-    {2, 10, 0x02}, {2, 11, 0x99}, {3, 12, 0x99}, {14, 24, 0x07}, {14, 25, 0x31}, {15, 23, 0x01},
-    {16, 17, 0x01}, {16, 23, 0x11}, {17, 23, 0x21}, {18, 21, 0x03}, {19, 21, 0x13}, {20, 17, 0x00}};
 // clang-format on
 
 TEST_F(RoundTripTest, EditsOfOneCellChangeItsBytesAlone) {
@@ -100,14 +83,6 @@ TEST_F(RoundTripTest, EditsOfOneCellChangeItsBytesAlone) {
     Save();
     EXPECT_EQ(ChangesSince(before), std::vector<FieldByte>{});
   }
-}
-
-TEST_F(RoundTripTest, SomeBytesComeBackDifferently) {
-  Poke(kStored);
-  const auto before = image();
-  Load("Braves");
-  Save();
-  EXPECT_EQ(ChangesSince(before), kBack);
 }
 
 }  // namespace

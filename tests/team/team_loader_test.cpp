@@ -36,30 +36,6 @@ TEST_F(TeamLoaderTest, ShowsEveryFieldOfEveryRow) {
   EXPECT_TRUE(messages.shown.empty());
 }
 
-TEST_F(TeamLoaderTest, ReadsFieldByFieldAcrossTheWholeRoster) {
-  std::vector<std::int64_t> expected;
-  const auto pass = [&](const std::vector<int>& batter, const std::vector<int>& pitcher) {
-    for (int row = 0; row < 25; ++row) {
-      for (const int offset : row < 15 ? batter : pitcher) {
-        expected.push_back(kOrioles + 32 * row + offset);
-      }
-    }
-  };
-  pass({0, 1, 2, 3, 4, 5, 6, 7, 8}, {0, 1, 2, 3, 4, 5, 6, 7, 8});
-  pass({9}, {9});
-  pass({10}, {10});
-  pass({13}, {21});
-  for (const int offset : {23, 11, 12, 14, 15, 16}) pass({offset}, {offset});
-  pass({24, 25}, {24, 25});
-  pass({28, 29}, {28, 29});
-  for (const int offset : {26, 28, 24, 26, 30}) pass({offset}, {offset});
-
-  Load("Orioles");
-  std::vector<std::int64_t> positions;
-  for (const ByteAccess& read : disk.reads) positions.push_back(read.position);
-  EXPECT_EQ(positions, expected);
-}
-
 TEST_F(TeamLoaderTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {
   Load("Orioles");
   view.calls.clear();

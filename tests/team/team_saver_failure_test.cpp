@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,39 @@ class TeamSaverFailure : public EditorTest {
     EXPECT_EQ(messages.Texts(), std::vector<std::string>{kSaved});
     EXPECT_FALSE(editor.channel.is_open());
   }
+
+  void FillAll(const std::string& name, const std::string& text) {
+    for (int row = 0; row < 25; ++row) {
+      for (int column = 1; column <= 14; ++column) Type({{row, column, column == 1 ? name : text}});
+    }
+  }
 };
+
+TEST_F(TeamSaverFailure, WhateverTheTextsAreOnlyFieldsAreWritten) {
+  Load("Braves");
+  Save();
+  std::set<std::int64_t> fields;
+  for (const ByteAccess& write : disk.writes) fields.insert(write.position);
+  for (const std::string text : {" ", ".", "&H", "&H8000", "1e999", "-5", "256", "FFFFFFFF", "nan",
+                                 "\x80\xFF", "a\r\nb\x1A", "99999999999999999999"}) {
+    FillAll(text.substr(0, 10), text);
+    Save();
+    EXPECT_EQ(messages.shown.back().text, kSaved);
+    for (const ByteAccess& write : disk.writes)
+      EXPECT_TRUE(fields.contains(write.position)) << text;
+  }
+}
+
+TEST_F(TeamSaverFailure, EmptyTextsWriteTheSFlagsAlone) {
+  Load("Braves");
+  FillAll("", "");
+  Save();
+  std::vector<ByteAccess> expected;
+  for (int row = 15; row < 25; ++row)
+    expected.push_back({kBraves + std::int64_t{32} * row + 17, 0});
+  EXPECT_EQ(disk.writes, expected);
+  EXPECT_EQ(messages.shown.size(), 26U);  // an unknown letter a name, and the end
+}
 
 TEST_F(TeamSaverFailure, WritesInTheOrderOfTheSteps) {
   std::vector<std::int64_t> expected;

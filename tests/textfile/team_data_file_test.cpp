@@ -46,13 +46,6 @@ class TeamDataFileTest : public ::testing::Test {
   RosterGrid grid;
 };
 
-TEST_F(TeamDataFileTest, EmptyGridIsCommasAndLineEnds) {
-  Put("an older and longer content that has to go");
-  Export();
-  EXPECT_EQ(Content(), Lines(25, ",,,,,,,,,,,,,,\r\n"));
-  EXPECT_FALSE(channel.is_open());
-}
-
 TEST_F(TeamDataFileTest, PitcherLinesHaveTheirAverageFifth) {
   FillGrid();
   Export();
@@ -63,20 +56,6 @@ TEST_F(TeamDataFileTest, PitcherLinesHaveTheirAverageFifth) {
       "\r\n24.1,24.2,24.3,24.4,24.9,24.5,24.6,24.7,24.8,24.10,24.11,24.12,24.13,24.14,\r\n"));
   EXPECT_NE(content.find("\r\n14.1,14.2,14.3,14.4,14.5,"), std::string::npos);
   EXPECT_NE(content.find("\r\n15.1,15.2,15.3,15.4,15.9,15.5,"), std::string::npos);
-}
-
-TEST_F(TeamDataFileTest, ImportPutsEachFieldBackInItsColumn) {
-  FillGrid();
-  Export();
-  const RosterGrid exported = grid;
-  ClearRosterGrid(grid);
-  Import();
-  for (int row = 0; row < 25; ++row) {
-    for (int column = 1; column <= 14; ++column) {
-      EXPECT_EQ(Text(column, row), exported.Text(static_cast<Column>(column), row));
-    }
-  }
-  EXPECT_FALSE(channel.is_open());
 }
 
 TEST_F(TeamDataFileTest, TooFewAndTooManyFieldsStayInTheirLine) {
@@ -137,20 +116,6 @@ TEST_F(TeamDataFileTest, ShortFileFillsWhatItHasAndLeavesTheChannelOpen) {
     EXPECT_TRUE(channel.is_open());
     channel.Close();
   }
-}
-
-TEST_F(TeamDataFileTest, UnopenableFileAndHeldChannelChangeNothing) {
-  FillGrid();
-  EXPECT_THROW(Import(), OperationFailed);
-  EXPECT_EQ(Text(1, 0), "0.1");
-
-  Put("held");
-  ASSERT_TRUE(channel.OpenTextInput(kFile));
-  EXPECT_THROW(Import(), OperationFailed);
-  EXPECT_THROW(Export(), OperationFailed);
-  EXPECT_EQ(Text(1, 0), "0.1");
-  EXPECT_EQ(Content(), "held");
-  EXPECT_EQ(channel.ReadCharacter(), 'h') << "what holds the channel goes on undisturbed";
 }
 
 TEST_F(TeamDataFileTest, FieldLongerThanABoxIsCutAndTheNextOneIsWhole) {
