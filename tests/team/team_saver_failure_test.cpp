@@ -35,8 +35,9 @@ TEST_F(TeamSaverFailure, WhateverTheTextsAreOnlyFieldsAreWritten) {
     FillAll(text.substr(0, 10), text);
     Save();
     EXPECT_EQ(messages.shown.back().text, kSaved);
-    for (const ByteAccess& write : disk.writes)
+    for (const ByteAccess& write : disk.writes) {
       EXPECT_TRUE(fields.contains(write.position)) << text;
+    }
   }
 }
 
@@ -45,8 +46,9 @@ TEST_F(TeamSaverFailure, EmptyTextsWriteTheSFlagsAlone) {
   FillAll("", "");
   Save();
   std::vector<ByteAccess> expected;
-  for (int row = 15; row < 25; ++row)
+  for (int row = 15; row < 25; ++row) {
     expected.push_back({kBraves + std::int64_t{32} * row + 17, 0});
+  }
   EXPECT_EQ(disk.writes, expected);
   EXPECT_EQ(messages.shown.size(), 26U);  // an unknown letter a name, and the end
 }
