@@ -7,15 +7,12 @@
 #include <QImage>
 #include <QPainter>
 #include <QString>
-#include <array>
 #include <functional>
 #include <iostream>
 #include <span>
-#include <utility>
-#include <vector>
 
-#include "shell/art/stance_figure.h"
-#include "shell/art/title_art.h"
+#include "art/stance_figure.h"
+#include "art/title_art.h"
 
 namespace {
 
@@ -25,61 +22,43 @@ using PagePainter = std::function<void(QPainter& painter)>;
 constexpr int kTileSize = 50;
 constexpr int kTilePitch = 52;
 
-/// One picture of a chooser: its place in the grid and its code.
-struct Tile {
-  int column;
-  int row;
-  int code;
-};
-
-std::vector<Tile> UpperTiles() {
-  std::vector<Tile> tiles;
-  for (int column = 0; column < 4; ++column) {
-    for (int row = 0; row < 12; ++row) {
-      tiles.push_back({column, row, 16 * (row / 2) + 4 * (row % 2) + column});
-    }
-  }
-  return tiles;
-}
-
-std::vector<Tile> LegsTiles() {
-  return {{0, 0, 0x00}, {1, 0, 0x01}, {2, 0, 0x02}, {3, 0, 0x03}, {0, 1, 0x04},
-          {1, 1, 0x10}, {2, 1, 0x11}, {3, 1, 0x12}, {0, 2, 0x13}, {1, 2, 0x14}};
-}
-
-void PaintTile(QPainter& painter, StancePiece piece, const Tile& tile) {
-  const QRectF square(8 + kTilePitch * tile.column, 28 + kTilePitch * tile.row, kTileSize,
-                      kTileSize);
+void PaintTile(QPainter& painter, StancePiece piece, int index, int code) {
+  const QRectF square(8 + kTilePitch * (index / morlek::kPictureRows),
+                      28 + kTilePitch * (index % morlek::kPictureRows), kTileSize, kTileSize);
   painter.setPen(QColor(0xcb, 0xd2, 0xdc));
   painter.setBrush(Qt::white);
   painter.drawRoundedRect(square.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-  morlek::PaintPiece(painter, square.adjusted(2, 2, -2, -2), piece, tile.code);
+  morlek::PaintPiece(painter, square.adjusted(2, 2, -2, -2), piece, code);
   QFont font("Roboto");
   font.setPixelSize(9);
   painter.setFont(font);
   painter.setPen(QColor(0x47, 0x55, 0x69));
   painter.drawText(square.adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
-                   QString::number(tile.code, 16).toUpper());
+                   QString::number(code, 16).toUpper());
 }
 
-PagePainter ChooserPage(StancePiece piece, std::vector<Tile> tiles) {
-  return [piece, tiles = std::move(tiles)](QPainter& painter) {
-    for (const Tile& tile : tiles) PaintTile(painter, piece, tile);
+PagePainter ChooserPage(StancePiece piece) {
+  return [piece](QPainter& painter) {
+    const morlek::PictureCodes& codes = morlek::PictureCodesOf(piece);
+    for (int place = 0; place < codes.count(); ++place) {
+      PaintTile(painter, piece, morlek::PictureCodes::IndexAt(place), codes.CodeAt(place));
+    }
   };
 }
 
 /// Complete batters, every body and every face code in turn, over all legs.
 void PaintStances(QPainter& painter) {
-  constexpr std::array kLegs = {0x00, 0x01, 0x02, 0x03, 0x04, 0x10, 0x11, 0x12, 0x13, 0x14};
   for (int i = 0; i < 24; ++i) {
-    const int digits = (i * 11 + 3) % 48;
+    using morlek::kFaceAndBodyCodes;
+    using morlek::kLegsCodes;
+    const int face = (i * 11 + 3) % kFaceAndBodyCodes.count();
     const int line = i / 8;
-    const int body_digits = (i * 2 + line) % 48;
+    const int body = (i * 2 + line) % kFaceAndBodyCodes.count();
     const QRectF place(4 + 132 * (i % 8), 4 + 164 * line, 128, 160);
     morlek::PaintStance(painter, place,
-                        {.face = digits / 8 * 16 + digits % 8,
-                         .body = body_digits / 8 * 16 + body_digits % 8,
-                         .legs = kLegs.at(static_cast<std::size_t>(i) % kLegs.size())});
+                        {.face = kFaceAndBodyCodes.CodeAt(face),
+                         .body = kFaceAndBodyCodes.CodeAt(body),
+                         .legs = kLegsCodes.CodeAt(i % kLegsCodes.count())});
   }
 }
 
@@ -115,10 +94,9 @@ bool WriteSheets(const QString& directory) {
   const QColor window(0xf1, 0xf3, 0xf6);
   SheetWriter writer{QDir(directory)};
   for (const int scale : {1, 2}) {
-    writer.Write("faces", {222, 660}, scale, window, ChooserPage(StancePiece::kFace, UpperTiles()));
-    writer.Write("bodies", {222, 660}, scale, window,
-                 ChooserPage(StancePiece::kBody, UpperTiles()));
-    writer.Write("legs", {222, 192}, scale, window, ChooserPage(StancePiece::kLegs, LegsTiles()));
+    writer.Write("faces", {222, 660}, scale, window, ChooserPage(StancePiece::kFace));
+    writer.Write("bodies", {222, 660}, scale, window, ChooserPage(StancePiece::kBody));
+    writer.Write("legs", {222, 192}, scale, window, ChooserPage(StancePiece::kLegs));
     writer.Write("stances", {1060, 496}, scale, window, PaintStances);
     writer.Write("splash", {480, 300}, scale, Qt::transparent, [](QPainter& painter) {
       morlek::PaintSplash(painter, {0, 0, 480, 300});

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "team/editor.h"
+#include "editor/editor.h"
 
 // For programs that use an editor without showing anything.
 namespace morlek {

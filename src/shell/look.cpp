@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "shell/art/title_art.h"
+#include "art/title_art.h"
 #include "shell/painted_icon.h"
 #include "shell/style.h"
 #include "shell/theme.h"

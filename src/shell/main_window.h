@@ -3,9 +3,9 @@
 #include <QMainWindow>
 #include <memory>
 
+#include "editor/editor.h"
 #include "shell/menu_table.h"
 #include "shell/user.h"
-#include "team/editor.h"
 
 class QLabel;
 class QScrollArea;

@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "shell/art/title_art.h"
+#include "art/title_art.h"
 
 namespace morlek {
 namespace {

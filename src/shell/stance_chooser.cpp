@@ -8,7 +8,6 @@
 #include "shell/code_page_text.h"
 #include "shell/theme.h"
 #include "shell/twips.h"
-#include "team/stance_tables.h"
 
 namespace morlek {
 namespace {
@@ -88,10 +87,10 @@ StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent) : QFrame(
   title->setFont(theme::Font(kTitlePixels, QFont::Bold));
   title->move(kLeft, 5);
 
-  for (int index = 0; index < kind.pictures; ++index) {
-    const std::optional<std::uint8_t> code = kind.code_of_index(index);
-    if (!code) continue;
-    auto* picture = new StancePicture(kind, index, *code, this);
+  const PictureCodes& codes = PictureCodesOf(kind.piece);
+  for (int place = 0; place < codes.count(); ++place) {
+    auto* picture =
+        new StancePicture(kind, PictureCodes::IndexAt(place), codes.CodeAt(place), this);
     pictures_.push_back(picture);
     connect(picture, &QAbstractButton::clicked, this,
             [this, picture] { emit CodePicked(picture->code_text()); });

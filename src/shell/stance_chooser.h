@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "shell/art/stance_figure.h"
+#include "art/stance_figure.h"
 
 namespace morlek {
 
@@ -20,8 +20,6 @@ struct ChooserKind {
   const char* label_name;
   const char* title;
   const char* tool_tip;
-  int pictures;  // indices are below this; not every index has a picture
-  std::optional<std::uint8_t> (*code_of_index)(int index);
 };
 
 /// A frame of pictures to choose a face, body or legs from.

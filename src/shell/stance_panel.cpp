@@ -5,7 +5,6 @@
 #include "shell/stance_chooser.h"
 #include "shell/stance_view.h"
 #include "shell/twips.h"
-#include "team/stance_tables.h"
 
 namespace morlek {
 namespace {
@@ -19,10 +18,9 @@ constexpr std::array<Column, 3> kFeatures = {Column::kText12, Column::kText13, C
 constexpr std::array<ChooserKind, 3> kKinds = {{
     {StancePiece::kFace, "Frame2", "Picture1", "Label1", "Face",
      "This will edit the skin color and facial features of a player but not hair color. Click to "
-     "make selection.",
-     48, FaceOrBodyCode},
-    {StancePiece::kBody, "Frame3", "Picture2", "Label2", "Body", "", 48, FaceOrBodyCode},
-    {StancePiece::kLegs, "Frame4", "Picture3", "Label5", "Legs", "", 48, LegsCode},
+     "make selection."},
+    {StancePiece::kBody, "Frame3", "Picture2", "Label2", "Body", ""},
+    {StancePiece::kLegs, "Frame4", "Picture3", "Label5", "Legs", ""},
 }};
 
 }  // namespace

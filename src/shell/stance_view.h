@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "shell/art/stance_figure.h"
+#include "art/stance_figure.h"
 
 namespace morlek {
 

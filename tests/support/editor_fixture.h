@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "editor/editor.h"
 #include "sample_image.h"
 #include "support/memory_disk.h"
 #include "support/plain_record.h"
 #include "support/recording_messages.h"
-#include "team/editor.h"
 
 namespace morlek {
 

@@ -4,10 +4,10 @@
 #include <utility>
 #include <vector>
 
+#include "editor/editor.h"
 #include "image/failure.h"
 #include "support/memory_disk.h"
 #include "support/recording_messages.h"
-#include "team/editor.h"
 
 namespace morlek {
 namespace {

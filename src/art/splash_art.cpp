@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <array>
 
-#include "shell/art/shapes.h"
-#include "shell/art/stance_figure.h"
-#include "shell/art/title_art.h"
+#include "art/shapes.h"
+#include "art/stance_figure.h"
+#include "art/title_art.h"
 
 namespace morlek {
 namespace {

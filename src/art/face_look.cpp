@@ -1,15 +1,15 @@
-#include "shell/art/face_look.h"
+#include "art/face_look.h"
 
 #include <array>
 
-#include "shell/art/picture_code.h"
+#include "art/picture_codes.h"
 
 namespace morlek::art {
 namespace {
 
 // Two rows of eight to a skin class. Within a class each face has one feature of its own that is
 // seen at a glance; the rest varies from class to class.
-constexpr std::array<FaceLook, kUpperCodeCount> kFaceLooks = {{
+constexpr std::array<FaceLook, kFaceAndBodyCodes.count()> kFaceLooks = {{
     // 00 to 07
     {.mouth = Mouth::kSmile, .brows = Brows::kRaised},
     {.jaw = Jaw::kSquare, .whiskers = Whiskers::kChevron},
@@ -84,6 +84,8 @@ constexpr std::array<FaceLook, kUpperCodeCount> kFaceLooks = {{
 
 }  // namespace
 
-FaceLook FaceLookOf(int code) { return kFaceLooks.at(UpperCodeIndex(code)); }
+FaceLook FaceLookOf(int code) {
+  return kFaceLooks.at(static_cast<std::size_t>(kFaceAndBodyCodes.PlaceOf(code)));
+}
 
 }  // namespace morlek::art

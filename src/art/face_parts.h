@@ -3,8 +3,8 @@
 #include <QPainterPath>
 #include <QPointF>
 
-#include "shell/art/face_look.h"
-#include "shell/art/palette.h"
+#include "art/face_look.h"
+#include "art/palette.h"
 
 class QPainter;
 

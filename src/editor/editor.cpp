@@ -1,4 +1,4 @@
-#include "team/editor.h"
+#include "editor/editor.h"
 
 #include <utility>
 

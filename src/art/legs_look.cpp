@@ -1,13 +1,13 @@
-#include "shell/art/legs_look.h"
+#include "art/legs_look.h"
 
 #include <array>
 
-#include "shell/art/picture_code.h"
+#include "art/picture_codes.h"
 
 namespace morlek::art {
 namespace {
 
-constexpr std::array<LegsLook, kLegsCodeCount> kLegsLooks = {{
+constexpr std::array<LegsLook, kLegsCodes.count()> kLegsLooks = {{
     // Narrow and upright.
     {{0, -90},
      {{-10, -47}, {-11, -7}, -0.6, 0},
@@ -47,6 +47,8 @@ constexpr std::array<LegsLook, kLegsCodeCount> kLegsLooks = {{
 
 }  // namespace
 
-LegsLook LegsLookOf(int code) { return kLegsLooks.at(LegsCodeIndex(code)); }
+LegsLook LegsLookOf(int code) {
+  return kLegsLooks.at(static_cast<std::size_t>(kLegsCodes.PlaceOf(code)));
+}
 
 }  // namespace morlek::art

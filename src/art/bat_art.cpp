@@ -1,10 +1,10 @@
-#include "shell/art/bat_art.h"
+#include "art/bat_art.h"
 
 #include <QPainter>
 #include <cmath>
 #include <numbers>
 
-#include "shell/art/shapes.h"
+#include "art/shapes.h"
 
 namespace morlek::art {
 

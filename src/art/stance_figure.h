@@ -3,15 +3,16 @@
 #include <QRectF>
 #include <optional>
 
+#include "art/picture_codes.h"
+
 class QPainter;
 
 namespace morlek {
 
 enum class StancePiece { kFace, kBody, kLegs };
 
-/// Whether a code, 0 to 255, has a picture: faces and bodies 0x00-0x07 to 0x50-0x57, legs
-/// 0x00-0x04 and 0x10-0x14.
-[[nodiscard]] bool HasPicture(StancePiece piece, int code);
+/// The codes of this piece that have a picture.
+[[nodiscard]] const PictureCodes& PictureCodesOf(StancePiece piece);
 
 /// Paints one piece alone as large as the target allows, in the middle. Faces come out at one scale
 /// and legs too; a body with a far-reaching bat is a little smaller. The background is left as it

@@ -5,7 +5,7 @@
 #include <QRectF>
 #include <span>
 
-#include "shell/art/palette.h"
+#include "art/palette.h"
 
 class QPainter;
 

@@ -2,8 +2,8 @@
 #include <array>
 #include <vector>
 
-#include "shell/art/face_parts.h"
-#include "shell/art/shapes.h"
+#include "art/face_parts.h"
+#include "art/shapes.h"
 
 namespace morlek::art {
 namespace {

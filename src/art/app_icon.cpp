@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "shell/art/shapes.h"
-#include "shell/art/title_art.h"
+#include "art/shapes.h"
+#include "art/title_art.h"
 
 namespace morlek {
 namespace {

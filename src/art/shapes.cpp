@@ -1,4 +1,4 @@
-#include "shell/art/shapes.h"
+#include "art/shapes.h"
 
 #include <QLineF>
 #include <QPainter>

@@ -1,12 +1,11 @@
-#include "shell/art/face_art.h"
+#include "art/face_art.h"
 
 #include <QPainter>
 #include <array>
 
-#include "shell/art/face_look.h"
-#include "shell/art/face_parts.h"
-#include "shell/art/picture_code.h"
-#include "shell/art/shapes.h"
+#include "art/face_look.h"
+#include "art/face_parts.h"
+#include "art/shapes.h"
 
 namespace morlek::art {
 namespace {
@@ -81,7 +80,7 @@ void PaintHelmet(QPainter& painter) {
 
 void PaintHead(QPainter& painter, int code) {
   const FaceLook look = FaceLookOf(code);
-  const Tone skin = SkinOf(HighDigit(code));
+  const Tone skin = SkinOf(code / 16);
   const JawLine jaw = JawLineOf(look.jaw);
 
   if (look.locks == Locks::kLong) PaintLongHair(painter);

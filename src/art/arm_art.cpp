@@ -1,9 +1,9 @@
-#include "shell/art/arm_art.h"
+#include "art/arm_art.h"
 
 #include <QPainter>
 #include <cmath>
 
-#include "shell/art/shapes.h"
+#include "art/shapes.h"
 
 namespace morlek::art {
 namespace {

@@ -1,14 +1,13 @@
-#include "shell/art/body_art.h"
+#include "art/body_art.h"
 
 #include <QPainter>
 #include <algorithm>
 #include <array>
 
-#include "shell/art/arm_art.h"
-#include "shell/art/bat_art.h"
-#include "shell/art/body_look.h"
-#include "shell/art/picture_code.h"
-#include "shell/art/shapes.h"
+#include "art/arm_art.h"
+#include "art/bat_art.h"
+#include "art/body_look.h"
+#include "art/shapes.h"
 
 namespace morlek::art {
 namespace {
@@ -84,7 +83,7 @@ QRectF BodyFrame(int code) {
 void PaintTorso(QPainter& painter, int code) {
   const auto [outfit, hold] = BodyLookOf(code);
   if (hold.is_behind) PaintBat(painter, hold.knob, hold.angle);
-  PaintNeck(painter, SkinOf(HighDigit(code)));
+  PaintNeck(painter, SkinOf(code / 16));
   const QPainterPath torso = TorsoOf(GirthOf(outfit.build));
   PaintSolid(painter, torso, kJersey, 5);
   PaintJerseyFront(painter, torso, UndershirtOf(outfit.sleeves));
@@ -95,7 +94,7 @@ void PaintArms(QPainter& painter, int code) {
   const Outfit& outfit = look.outfit;
   const BatHold& hold = look.hold;
   const Girth girth = GirthOf(outfit.build);
-  const Tone skin = SkinOf(HighDigit(code));
+  const Tone skin = SkinOf(code / 16);
   const QPointF direction = BatDirection(hold.angle);
   const auto hand = [&](std::optional<qreal> grip, qreal side) {
     return grip ? hold.knob + direction * *grip : QPointF(side * (girth.waist - 1), -5);

@@ -1,8 +1,8 @@
 #include <QPainter>
 #include <array>
 
-#include "shell/art/face_parts.h"
-#include "shell/art/shapes.h"
+#include "art/face_parts.h"
+#include "art/shapes.h"
 
 namespace morlek::art {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <QPointF>
 
-#include "shell/art/body_look.h"
-#include "shell/art/palette.h"
+#include "art/body_look.h"
+#include "art/palette.h"
 
 class QPainter;
 

@@ -1,13 +1,12 @@
-#include "shell/art/stance_figure.h"
+#include "art/stance_figure.h"
 
 #include <QPainter>
 #include <algorithm>
 
-#include "shell/art/body_art.h"
-#include "shell/art/face_art.h"
-#include "shell/art/legs_art.h"
-#include "shell/art/legs_look.h"
-#include "shell/art/picture_code.h"
+#include "art/body_art.h"
+#include "art/face_art.h"
+#include "art/legs_art.h"
+#include "art/legs_look.h"
 
 namespace morlek {
 namespace {
@@ -24,17 +23,17 @@ void FitFrame(QPainter& painter, const QRectF& frame, const QRectF& target) {
 }
 
 std::optional<int> Paintable(StancePiece piece, std::optional<int> code) {
-  return code && HasPicture(piece, *code) ? code : std::nullopt;
+  return code && PictureCodesOf(piece).Contains(*code) ? code : std::nullopt;
 }
 
 }  // namespace
 
-bool HasPicture(StancePiece piece, int code) {
-  return piece == StancePiece::kLegs ? art::IsLegsCode(code) : art::IsUpperCode(code);
+const PictureCodes& PictureCodesOf(StancePiece piece) {
+  return piece == StancePiece::kLegs ? kLegsCodes : kFaceAndBodyCodes;
 }
 
 void PaintPiece(QPainter& painter, const QRectF& target, StancePiece piece, int code) {
-  if (!HasPicture(piece, code)) return;
+  if (!PictureCodesOf(piece).Contains(code)) return;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   switch (piece) {

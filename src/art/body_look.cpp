@@ -1,13 +1,15 @@
-#include "shell/art/body_look.h"
+#include "art/body_look.h"
 
 #include <array>
 
-#include "shell/art/picture_code.h"
+#include "art/picture_codes.h"
 
 namespace morlek::art {
 namespace {
 
 constexpr std::size_t kLooksInClass = 16;
+
+static_assert(kFaceAndBodyCodes.count() % kLooksInClass == 0);
 
 constexpr std::array<BatHold, kLooksInClass> kHolds = {{
     // Upright beside the head.
@@ -66,7 +68,7 @@ constexpr std::array<Outfit, kLooksInClass> kOutfits = {{
 }  // namespace
 
 BodyLook BodyLookOf(int code) {
-  const std::size_t index = UpperCodeIndex(code);
+  const auto index = static_cast<std::size_t>(kFaceAndBodyCodes.PlaceOf(code));
   const std::size_t skin_class = index / kLooksInClass;
   // The hold follows the code alone; each class of skin wears the outfits in another order.
   constexpr std::size_t kOutfitStep = 5;

@@ -1,4 +1,4 @@
-#include "shell/art/legs_art.h"
+#include "art/legs_art.h"
 
 #include <QPainter>
 #include <QTransform>
@@ -6,8 +6,8 @@
 #include <array>
 #include <cmath>
 
-#include "shell/art/legs_look.h"
-#include "shell/art/shapes.h"
+#include "art/legs_look.h"
+#include "art/shapes.h"
 
 namespace morlek::art {
 namespace {
