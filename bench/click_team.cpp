@@ -34,7 +34,8 @@ struct Clicks {
 Clicks MeasureClicks(const std::filesystem::path& image) {
   constexpr int kRounds = 41;
   morlek::bench::SilentUser user(QString::fromStdU16String(image.u16string()));
-  morlek::MainWindow window(user);
+  morlek::Editor editor(user);
+  morlek::MainWindow window(editor, user);
   window.show();
   QWidget* last_box = nullptr;
   while (last_box == nullptr) {

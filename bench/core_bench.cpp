@@ -12,6 +12,8 @@
 #include "bench_files.h"
 #include "no_window.h"
 #include "ratio_table.h"
+#include "team/rehearsal.h"
+#include "team/team_saver.h"
 #include "textfile/team_export.h"
 #include "textfile/team_import.h"
 
@@ -43,39 +45,42 @@ const BenchFolder& Folder() {
   return folder;
 }
 
-/// An editor with the Braves of an image loaded.
-struct LoadedEditor {
-  explicit LoadedEditor(std::uintmax_t image_bytes) {
-    if (editor.OpenFirstImage(Folder().ImageOf(image_bytes)) != Editor::Opening::kAccepted) {
-      throw std::runtime_error("the sample image was not accepted");
-    }
-    editor.loader.Load("Braves", view);
+/// The Braves of an image, loaded.
+struct LoadedTeam {
+  explicit LoadedTeam(std::uintmax_t image_bytes) {
+    image.SetPath(Folder().ImageOf(image_bytes));
+    Load();
   }
+
+  void Load() { known = loader.Load("Braves", grid, view); }
+  void Save() { saver.Save(grid); }
 
   SilentMessages messages;
   NoView view;
-  Editor editor{messages};
+  Channel channel;
+  CartridgeImage image{channel};
+  KeptState kept;
+  RosterGrid grid;
+  RecordBytes known;
+  TeamLoader loader{image, kept};
+  TeamSaver saver{image, kept, messages};
 };
 
 /// The offsets that one load or save of a team accesses, in its order.
 std::vector<std::int64_t> OffsetsOf(bool save) {
   std::vector<std::int64_t> offsets;
-  SilentMessages messages;
-  NoView view;
-  Editor editor(messages, [&offsets](const auto& /*path*/, auto /*mode*/) {
+  LoadedTeam loaded(kGameBytes);
+  Channel channel([&offsets](const auto& /*path*/, auto /*mode*/) {
     return std::make_unique<CountingFile>(offsets);
   });
-  editor.image.SetPath("any");
-  editor.loader.Load("Braves", view);
-  if (!save) return offsets;
-  LoadedEditor loaded(kGameBytes);
-  for (int row = 0; row < kSlotCount; ++row) {
-    for (const GridColumn& column : ColumnsOfRow(row)) {
-      editor.grid.SetText(column.column, row, loaded.editor.grid.Text(column.column, row));
-    }
+  CartridgeImage image(channel);
+  image.SetPath("any");
+  if (save) {
+    image.SetTeamBase(*loaded.image.team_base());
+    TeamSaver(image, loaded.kept, loaded.messages).Save(loaded.grid);
+  } else {
+    TeamLoader(image, loaded.kept).Load("Braves", loaded.grid, loaded.view);
   }
-  offsets.clear();
-  editor.saver.Save();
   return offsets;
 }
 
@@ -110,19 +115,27 @@ void BareWrites(benchmark::State& state) {
 }
 
 void Load(benchmark::State& state, std::uintmax_t image_bytes) {
-  LoadedEditor loaded(image_bytes);
-  for (auto _ : state) loaded.editor.loader.Load("Braves", loaded.view);
+  LoadedTeam loaded(image_bytes);
+  for (auto _ : state) loaded.Load();
 }
 
 void Save(benchmark::State& state, std::uintmax_t image_bytes) {
-  LoadedEditor loaded(image_bytes);
-  for (auto _ : state) loaded.editor.saver.Save();
+  LoadedTeam loaded(image_bytes);
+  for (auto _ : state) loaded.Save();
+}
+
+/// What SAVE would keep, found out in memory.
+void Rehearse(benchmark::State& state) {
+  const LoadedTeam loaded(kGameBytes);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(Rehearsal(loaded.grid, loaded.kept, loaded.known));
+  }
 }
 
 std::string ExportedText() {
-  LoadedEditor loaded(kGameBytes);
+  LoadedTeam loaded(kGameBytes);
   const auto path = Folder().path("team.txt");
-  ExportTeamData(loaded.editor.channel, path, loaded.editor.grid);
+  ExportTeamData(loaded.channel, path, loaded.grid);
   std::string text(std::filesystem::file_size(path), '\0');
   const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (read(file, text.data(), text.size()) != static_cast<ssize_t>(text.size())) text.clear();
@@ -146,9 +159,9 @@ void BareExport(benchmark::State& state) {
 }
 
 void Export(benchmark::State& state) {
-  LoadedEditor loaded(kGameBytes);
+  LoadedTeam loaded(kGameBytes);
   const auto path = Folder().path("exported.txt");
-  for (auto _ : state) ExportTeamData(loaded.editor.channel, path, loaded.editor.grid);
+  for (auto _ : state) ExportTeamData(loaded.channel, path, loaded.grid);
 }
 
 /// Reads the same bytes and puts them into 350 texts of a grid, which is the least to be done.
@@ -165,22 +178,23 @@ void BareImport(benchmark::State& state) {
     ClearRosterGrid(grid);
     for (int row = 0; row < kSlotCount; ++row) {
       for (const GridColumn& column : ColumnsOfRow(row)) {
-        grid.SetText(column.column, row, std::string(buffer.data(), 4));
+        grid.SetText({column.column, row}, std::string(buffer.data(), 4));
       }
     }
   }
 }
 
 void Import(benchmark::State& state) {
-  LoadedEditor loaded(kGameBytes);
+  LoadedTeam loaded(kGameBytes);
   ExportedText();
   const auto path = Folder().path("team.txt");
-  for (auto _ : state) ImportTeamData(loaded.editor.channel, path, loaded.editor.grid);
+  for (auto _ : state) ImportTeamData(loaded.channel, path, loaded.grid);
 }
 
-constexpr std::array<Ratio, 6> kRatios = {{
+constexpr std::array<Ratio, 7> kRatios = {{
     {"load a team / the same single-byte reads", "load", "bare_reads", 2.5},
     {"save a team / the same single-byte writes", "save", "bare_writes", 2.5},
+    {"rehearsal of a save / load a team", "rehearsal", "load", 0.5},
     {"load from 4 GiB / from 1.5 MiB", "load_4gib", "load", 1.1},
     {"save into 4 GiB / into 1.5 MiB", "save_4gib", "save", 1.1},
     {"export / writing the same lines", "export", "bare_export", 2.0},
@@ -199,6 +213,7 @@ int main(int argument_count, char** arguments) {
   add("bare_reads", BareReads);
   add("load", [](benchmark::State& state) { Load(state, kGameBytes); });
   add("load_4gib", [](benchmark::State& state) { Load(state, kHugeBytes); });
+  add("rehearsal", Rehearse);
   add("bare_writes", BareWrites);
   add("save", [](benchmark::State& state) { Save(state, kGameBytes); });
   add("save_4gib", [](benchmark::State& state) { Save(state, kHugeBytes); });

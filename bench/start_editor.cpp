@@ -15,7 +15,8 @@ namespace {
 
 /// Runs the editor until its window, or with a team the last box of its grid, has been painted.
 int Run(morlek::User& user, bool with_team) {
-  morlek::MainWindow window(user);
+  morlek::Editor editor(user);
+  morlek::MainWindow window(editor, user);
   std::optional<morlek::bench::QuitAfterFirstPaint> quit;
   if (!with_team) quit.emplace(window);
   QTimer picking;

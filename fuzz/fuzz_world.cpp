@@ -1,13 +1,12 @@
 #include "fuzz/fuzz_world.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <set>
 
-#include "image/failure.h"
 #include "image/team_directory.h"
 #include "sample_image.h"
-#include "textfile/team_export.h"
 #include "textfile/team_import.h"
 
 namespace morlek::fuzz {
@@ -36,28 +35,19 @@ void Require(bool holds, const char* promise) {
 
 World::World() : editor_(messages_, disk_.Opener()) {
   disk_.files[kImage] = Sample();
-  Require(editor_.OpenFirstImage(kImage) == Editor::Opening::kAccepted, "the sample is accepted");
+  editor_.OpenFirstImage(kImage, *this);
+  Require(editor_.image_path() == kImage, "the sample is accepted");
 }
 
 std::span<std::uint8_t> World::Record(std::int64_t base) {
   return std::span(disk_.files.at(kImage)).subspan(static_cast<std::size_t>(base - 1), 800);
 }
 
-template <typename Operation>
-bool World::Succeeds(Operation operation) {
-  Forget();
-  try {
-    operation();
-    return true;
-  } catch (const OperationFailed&) {
-    return false;
-  }
-}
-
 bool World::Load(std::string_view key) {
-  const bool succeeded = Succeeds([this, key] { editor_.loader.Load(key, view_); });
+  Forget();
+  editor_.LoadTeam(key, *this);
   RequireNoWrites();
-  return succeeded;
+  return is_shown_;
 }
 
 void World::Save() {
@@ -65,7 +55,7 @@ void World::Save() {
   for (int round = 0; round < 3; ++round) {
     earlier.swap(disk_.writes);
     Forget();
-    editor_.saver.Save();
+    editor_.Save();
     Require(disk_.opened.empty() || disk_.opened == std::vector<std::filesystem::path>{kImage},
             "a save opens the image alone");
     CheckWrites();
@@ -73,8 +63,18 @@ void World::Save() {
   Require(disk_.writes == earlier, "equal saves write equal bytes");
 }
 
+void World::SaveAsRehearsed() {
+  if (!is_shown_ || disk_.open_files > 0) return;
+  const Rehearsal rehearsal = editor_.Rehearse();
+  editor_.Save();
+  Require(editor_.knowledge().texts() == rehearsal.after(), "what was saved is known");
+  Require(Load(team_->key), "a saved team loads");
+  Require(editor_.document().grid() == rehearsal.after(), "a load shows what the rehearsal told");
+}
+
 bool World::Export() {
-  const bool succeeded = Succeeds([this] { ExportTeamData(editor_.channel, kText, editor_.grid); });
+  Forget();
+  const bool succeeded = editor_.ExportTeam(kText);
   Require(disk_.opened.empty() || disk_.opened == std::vector<std::filesystem::path>{kText},
           "an export opens its file alone");
   return succeeded;
@@ -82,23 +82,27 @@ bool World::Export() {
 
 bool World::Import(std::span<const std::uint8_t> file) {
   // What holds the channel may be this very file.
-  if (!editor_.channel.is_open()) disk_.files[kText].assign(file.begin(), file.end());
-  const bool succeeded = Succeeds([this] { ImportTeamData(editor_.channel, kText, editor_.grid); });
-  Require(succeeded || editor_.channel.is_open(), "a short file holds the channel");
+  if (disk_.open_files == 0) disk_.files[kText].assign(file.begin(), file.end());
+  Forget();
+  const bool was_held = disk_.open_files > 0;
+  editor_.ImportTeam(kText);
   RequireNoWrites();
-  return succeeded;
+  // A file with too few lines holds the channel.
+  return !was_held && disk_.open_files == 0;
 }
 
 std::string World::GridTexts() const {
   std::string texts;
-  for (int row = 0; row < kSlotCount; ++row) {
-    for (const GridColumn& column : ColumnsOfRow(row)) {
-      const std::string& text = editor_.grid.Text(column.column, row);
-      Require(text.size() <= kLongestField, "no text is longer than a box");
-      texts += std::to_string(text.size()) + ":" + text;
-    }
+  for (const Cell cell : kAllCells) {
+    const std::string& text = editor_.document().grid().Text(cell);
+    Require(text.size() <= kLongestField, "no text is longer than a box");
+    texts += std::to_string(text.size()) + ":" + text;
   }
   return texts;
+}
+
+void World::ShowTeamName(std::string_view display_name) {
+  team_ = std::ranges::find(kTeamDirectory, display_name, &Team::display_name);
 }
 
 void World::Forget() {
@@ -112,10 +116,9 @@ void World::RequireNoWrites() const {
 }
 
 void World::CheckWrites() const {
-  const std::optional<std::int64_t> base = editor_.image.team_base();
   for (const ByteAccess& write : disk_.writes) {
-    Require(base.has_value(), "nothing is written before a team is loaded");
-    const std::int64_t place = write.position - *base;
+    Require(team_ != nullptr, "nothing is written before a team is loaded");
+    const std::int64_t place = write.position - team_->base;
     Require(place >= 0 && place < 800, "writes stay inside the current record");
     Require(IsSaved(static_cast<int>(place / 32), static_cast<int>(place % 32)),
             "bytes that belong to the game alone are left alone");

@@ -7,8 +7,10 @@
 #include <string_view>
 #include <vector>
 
+#include "editor/editor.h"
+#include "image/team_directory.h"
 #include "support/memory_disk.h"
-#include "tools/no_window.h"
+#include "support/recording_messages.h"
 
 namespace morlek::fuzz {
 
@@ -19,20 +21,23 @@ inline constexpr char kText[] = "team.txt";
 void Require(bool holds, const char* promise);
 
 /// An editor with the sample image open in memory, that checks every save.
-class World {
+class World : private EditorView {
  public:
   World();
 
   /// The bytes of the record of the team at this base.
   [[nodiscard]] std::span<std::uint8_t> Record(std::int64_t base);
 
-  /// Loads a team, which must write nothing; true when it came through. A load that fails, like the
-  /// operations below, can leave the channel stuck.
+  /// Loads a team, which must write nothing; true when it came through.
   bool Load(std::string_view key);
 
   /// Saves three times: every write has to go into the image, within the current record, at an
   /// offset that a save may write, and the third save must write what the second one wrote.
   void Save();
+
+  /// Saves once and loads again, when a team is shown and the channel is free: the grid has to be
+  /// what a rehearsal told before.
+  void SaveAsRehearsed();
 
   /// Exports the grid; true when it came through. The image must not be touched.
   bool Export();
@@ -41,7 +46,13 @@ class World {
   bool Import(std::span<const std::uint8_t> file);
 
   /// Closes the channel if a failure has left it open.
-  void FreeChannel() { editor_.image.Close(); }
+  void FreeChannel() { editor_.OpenAnotherImage(std::nullopt, *this); }
+
+  /// All messages so far.
+  [[nodiscard]] const std::vector<Message>& messages() const { return messages_.shown; }
+
+  /// All files of the world.
+  [[nodiscard]] const auto& files() const { return disk_.files; }
 
   /// What a file of the world holds.
   [[nodiscard]] const std::vector<std::uint8_t>& File(const char* name) const {
@@ -54,9 +65,12 @@ class World {
   Editor& editor() { return editor_; }
 
  private:
-  /// Runs something that ends by an exception when it fails; true when it came through.
-  template <typename Operation>
-  bool Succeeds(Operation operation);
+  void ShowTeamName(std::string_view display_name) override;
+  void PrepareView() override { is_shown_ = true; }
+  void ShowIdentity(std::string_view /*byte_text*/) override {}
+  void ShowToolbar() override {}
+  void HideRoster() override { is_shown_ = false; }
+  void ShowNarrow() override {}
 
   /// Empties the disk's records of what was done to it.
   void Forget();
@@ -65,8 +79,9 @@ class World {
   void CheckWrites() const;
 
   MemoryDisk disk_;
-  SilentMessages messages_;
-  NoView view_;
+  RecordingMessages messages_;
+  const Team* team_ = nullptr;
+  bool is_shown_ = false;
   Editor editor_;
 };
 

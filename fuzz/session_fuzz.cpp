@@ -1,6 +1,7 @@
-// Sessions: the input is read as a row of loads, edits, saves, exports and imports.
+// Sessions: the input is read as a row of loads, edits, saves, undos, exports and imports.
 
 #include <algorithm>
+#include <memory>
 
 #include "fuzz/fuzz_world.h"
 #include "image/team_directory.h"
@@ -31,38 +32,55 @@ class Script {
   std::span<const std::uint8_t> bytes_;
 };
 
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  morlek::fuzz::World world;
-  Script script({data, size});
+/// Plays a session in a world of its own, with or without a rehearsal after every step.
+std::unique_ptr<morlek::fuzz::World> Play(Script script, bool rehearses) {
+  auto world = std::make_unique<morlek::fuzz::World>();
   constexpr int kMostSteps = 40;
   for (int step = 0; step < kMostSteps && !script.is_over(); ++step) {
     const std::uint8_t what = script.Byte();
-    switch (what % 6) {
+    switch (what % 8) {
       case 0:
-        world.Load(morlek::kTeamDirectory.at(script.Byte() % 28U).key);
+        world->Load(morlek::kTeamDirectory.at(script.Byte() % 28U).key);
         break;
       case 1:
       case 2: {
-        const auto column = static_cast<morlek::Column>(script.Byte() % 14 + 1);
-        const int row = script.Byte() % 25;
+        const morlek::Cell cell{static_cast<morlek::Column>(script.Byte() % 14 + 1),
+                                script.Byte() % 25};
         const auto text = script.Bytes(script.Byte() % 16U);
-        world.editor().grid.SetText(column, row, {text.begin(), text.end()});
+        world->editor().document().Type(cell, {text.begin(), text.end()});
         break;
       }
       case 3:
-        world.Save();
+        world->Save();
         break;
       case 4:
-        world.Export();
+        world->Export();
+        break;
+      case 5:
+        world->SaveAsRehearsed();
+        break;
+      case 6:
+        world->editor().document().Undo();
         break;
       default:
-        world.Import(script.Bytes(script.Byte() * std::size_t{4}));
+        world->Import(script.Bytes(script.Byte() * std::size_t{4}));
         break;
     }
+    if (rehearses) static_cast<void>(world->editor().Rehearse());
     // In half of the steps the next one finds what this one has left.
-    if (what < 0x80) world.FreeChannel();
+    if (what < 0x80) world->FreeChannel();
   }
+  return world;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using morlek::fuzz::Require;
+  const Script script({data, size});
+  const auto plain = Play(script, false);
+  const auto rehearsed = Play(script, true);
+  Require(plain->files() == rehearsed->files(), "a rehearsal changes no file");
+  Require(plain->messages() == rehearsed->messages(), "a rehearsal shows no message");
   return 0;
 }

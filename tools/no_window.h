@@ -12,10 +12,14 @@ class SilentMessages : public MessagePort {
   void Show(const Message& /*message*/) override {}
 };
 
-class NoView : public TeamView {
+class NoView : public EditorView {
  public:
   void ShowTeamName(std::string_view /*display_name*/) override {}
   void PrepareView() override {}
+  void ShowIdentity(std::string_view /*byte_text*/) override {}
+  void ShowToolbar() override {}
+  void HideRoster() override {}
+  void ShowNarrow() override {}
 };
 
 }  // namespace morlek

@@ -22,19 +22,19 @@ constexpr std::array<SkinGroup, 6> kSkinGroups = {{{'0', '5', "0"},
 
 }  // namespace
 
-const std::string& AppearanceCodec::NormalizeAppearanceCode(std::string_view text) {
+std::string AppearanceCodec::NormalizeAppearanceCode(std::string_view text) {
   const bool is_single_digit = text.size() == 1 && text[0] >= '0' && text[0] <= '9';
-  appearance_code_ = text;
-  if (is_single_digit) appearance_code_.insert(0, 1, '0');
+  std::string code(text);
+  if (is_single_digit) code.insert(0, 1, '0');
 
-  if (appearance_code_.size() != 2) return appearance_code_;
+  if (code.size() != 2) return code;
   for (const SkinGroup& group : kSkinGroups) {
-    const char low = appearance_code_[1];
-    if (appearance_code_[0] == group.high && low >= '0' && low <= group.last) {
+    const char low = code[1];
+    if (code[0] == group.high && low >= '0' && low <= group.last) {
       skin_class_ = group.skin_class;
     }
   }
-  return appearance_code_;
+  return code;
 }
 
 }  // namespace morlek

@@ -10,13 +10,12 @@ class AppearanceCodec {
  public:
   /// The code with a single digit "0" to "9" padded to two; any other text as it stands. Updates
   /// the skin class.
-  const std::string& NormalizeAppearanceCode(std::string_view text);
+  [[nodiscard]] std::string NormalizeAppearanceCode(std::string_view text);
 
   /// "0", "3" or "5", by the last code that belongs to a class; empty before the first one.
   [[nodiscard]] const std::string& skin_class() const { return skin_class_; }
 
  private:
-  std::string appearance_code_;
   std::string skin_class_;
 };
 

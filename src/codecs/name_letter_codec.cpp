@@ -25,7 +25,8 @@ const std::string& NameLetterCodec::DecodeNameLetter(std::uint8_t code) {
   return decoded_letter_;
 }
 
-const std::string& NameLetterCodec::EncodeNameLetter(std::string_view character) {
+const std::string& NameLetterCodec::EncodeNameLetter(std::string_view character,
+                                                     MessagePort& messages) {
   // A small "c" becomes a capital like every letter, so its own code is never written.
   const std::string capital = UpperCase(character);
   const std::size_t letter =
@@ -37,7 +38,7 @@ const std::string& NameLetterCodec::EncodeNameLetter(std::string_view character)
   } else if (capital == " ") {
     encoded_letter_code_ = ByteToTwoDigits(kBlankCode);
   } else {
-    messages_.Show(
+    messages.Show(
         {"You've used a letter that is not recognized by MORLEK EDITOR, change the letter and "
          "save your edits again."});
   }

@@ -13,8 +13,6 @@ namespace morlek {
 /// not know.
 class NameLetterCodec {
  public:
-  explicit NameLetterCodec(MessagePort& messages) : messages_(messages) {}
-
   /// The character of a letter code: one character, or none for the blank codes 0x00 and 0x0A.
   /// An unknown code gives the previous result.
   const std::string& DecodeNameLetter(std::uint8_t code);
@@ -22,10 +20,9 @@ class NameLetterCodec {
   /// The byte text of a character (a text of length 0 or 1, capitals and small letters alike); a
   /// period gives the empty text. For an unknown character, and for none, the person is told and
   /// the result is the previous one.
-  const std::string& EncodeNameLetter(std::string_view character);
+  const std::string& EncodeNameLetter(std::string_view character, MessagePort& messages);
 
  private:
-  MessagePort& messages_;
   std::string decoded_letter_;
   std::string encoded_letter_code_;
 };

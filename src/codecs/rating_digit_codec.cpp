@@ -15,9 +15,8 @@ std::optional<std::int32_t> DigitsOfDifference(const std::string& joined, double
 
 }  // namespace
 
-RatingTexts RatingDigitCodec::FormatRatingBytes(int slot) const {
-  const auto index = static_cast<std::size_t>(slot);
-  return {ByteToTwoDigits(first_bytes.at(index)), ByteToTwoDigits(second_bytes.at(index))};
+RatingTexts FormatRatingBytes(const RatingBytes& bytes) {
+  return {ByteToTwoDigits(bytes.first), ByteToTwoDigits(bytes.second)};
 }
 
 std::optional<std::string> ShownRating(std::string_view digits) {

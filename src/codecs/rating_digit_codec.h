@@ -1,32 +1,26 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "image/record_layout.h"
-
 namespace morlek {
 
-/// The texts of a slot's two rating bytes, two upper-case hexadecimal digits each.
+/// A slot's two rating bytes. A rating is stored as one less than it is shown.
+struct RatingBytes {
+  std::uint8_t first = 0;
+  std::uint8_t second = 0;
+};
+
+/// Their texts, two upper-case hexadecimal digits each.
 struct RatingTexts {
   std::string first;
   std::string second;
 };
 
-/// The rating bytes of the loaded team, and their texts. A rating is stored as one less than it is
-/// shown.
-class RatingDigitCodec {
- public:
-  /// The bytes of the two rating fields, one of each a slot.
-  std::array<std::uint8_t, kSlotCount> first_bytes{};
-  std::array<std::uint8_t, kSlotCount> second_bytes{};
-
-  /// The texts of both bytes of `slot` (0 to 24); every byte has one.
-  [[nodiscard]] RatingTexts FormatRatingBytes(int slot) const;
-};
+/// The texts of both bytes; every byte has one.
+[[nodiscard]] RatingTexts FormatRatingBytes(const RatingBytes& bytes);
 
 /// The rating that a digit of such a text, or a pitcher's whole text, shows: one more, in decimal.
 /// Nothing when a digit is a letter.

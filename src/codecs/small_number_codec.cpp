@@ -23,14 +23,14 @@ std::optional<std::uint8_t> ShownNumber(std::string_view text) {
 
 const std::string& SmallNumberCodec::DecodeSmallNumber(int slot) {
   const std::uint8_t number = number_bytes.at(static_cast<std::size_t>(slot));
-  if (number <= kLargestNumber) decoded_number_ = std::to_string(number);
-  return decoded_number_;
+  if (number <= kLargestNumber) number_text_ = std::to_string(number);
+  return number_text_;
 }
 
 const std::string& SmallNumberCodec::EncodeSmallNumber(int slot) {
   const std::uint8_t number = number_bytes.at(static_cast<std::size_t>(slot));
-  if (number <= kLargestNumber) decoded_number_ = ByteToTwoDigits(number);
-  return decoded_number_;
+  if (number <= kLargestNumber) number_text_ = ByteToTwoDigits(number);
+  return number_text_;
 }
 
 const std::string& SmallNumberCodec::EncodeUniformNumber(int slot, std::string_view text) {

@@ -29,7 +29,7 @@ class SmallNumberCodec {
   const std::string& EncodeUniformNumber(int slot, std::string_view text);
 
  private:
-  std::string decoded_number_;
+  std::string number_text_;
   std::array<std::string, kSlotCount> encoded_uniform_numbers_;
 };
 

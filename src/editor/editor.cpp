@@ -4,35 +4,126 @@
 
 #include "codecs/hex_text.h"
 #include "image/failure.h"
+#include "team/team_saver.h"
+#include "textfile/team_export.h"
+#include "textfile/team_import.h"
 
 namespace morlek {
+namespace {
+
+constexpr char kImageFailureTitle[] = "Morlek Editor";
+
+}  // namespace
 
 Editor::Editor(MessagePort& messages, FileOpener opener)
-    : channel(std::move(opener)),
-      image(channel),
-      codecs(messages),
-      loader(image, codecs, grid),
-      saver(image, codecs, grid, messages) {}
+    : messages_(messages), channel_(std::move(opener)) {}
 
-Editor::Opening Editor::OpenFirstImage(const std::filesystem::path& path) {
+void Editor::OpenFirstImage(const std::optional<std::filesystem::path>& chosen, EditorView& view) {
+  const std::filesystem::path path = chosen.value_or(std::filesystem::path());
   std::uint8_t identity = 0;
   try {
-    identity = image.ReadIdentityByte(path);
+    identity = image_.ReadIdentityByte(path);
   } catch (const OperationFailed&) {
-    image.Close();
+    image_.Close();
   }
-  return Judge(path, identity);
+  if (Judge(path, identity, view)) {
+    view.ShowToolbar();
+    return;
+  }
+  image_.Close();
+  messages_.Show({"You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
 }
 
-Editor::Opening Editor::OpenAnotherImage(const std::filesystem::path& path) {
-  return Judge(path, image.ReadIdentityByte(path));
+void Editor::OpenAnotherImage(const std::optional<std::filesystem::path>& chosen,
+                              EditorView& view) {
+  if (!chosen) {
+    image_.Close();
+    return;
+  }
+  std::uint8_t identity = 0;
+  try {
+    identity = image_.ReadIdentityByte(*chosen);
+  } catch (const OperationFailed&) {
+    // The image that was current stays so, and nobody is told.
+    return;
+  }
+  if (!Judge(*chosen, identity, view)) {
+    image_.Close();
+    messages_.Show({"This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
+    return;
+  }
+  // The grid keeps its texts, but they are no longer this image's.
+  knowledge_.Forget();
+  document_.ForgetHistory();
+  view.ShowToolbar();
+  view.HideRoster();
+  view.ShowNarrow();
 }
 
-Editor::Opening Editor::Judge(const std::filesystem::path& path, std::uint8_t identity) {
-  identity_text_ = ByteToText(identity);
-  if (identity_text_ != ByteToText(kIdentityByte)) return Opening::kRefused;
-  image.SetPath(path);
-  return Opening::kAccepted;
+bool Editor::Judge(const std::filesystem::path& path, std::uint8_t identity, EditorView& view) {
+  const std::string text = ByteToText(identity);
+  view.ShowIdentity(text);
+  if (text != ByteToText(kIdentityByte)) return false;
+  image_.SetPath(path);
+  return true;
+}
+
+void Editor::LoadTeam(std::string_view toolbar_key, EditorView& view) {
+  const bool was_held = channel_.is_open();
+  RosterGrid grid = document_.grid();
+  try {
+    const RecordBytes read = TeamLoader(image_, kept_).Load(toolbar_key, grid, view);
+    knowledge_.LearnLoad(read, grid);
+    document_.Restart(grid);
+  } catch (const OperationFailed& failure) {
+    knowledge_.Forget();
+    document_.Restart(grid);
+    messages_.Show({was_held ? "The team could not be loaded, because a team file was still "
+                               "open since an import or export failed. It is closed now, so pick "
+                               "the team again."
+                             : failure.what(),
+                    kProgramTitle, Message::Icon::kCritical});
+    image_.Close();
+    view.HideRoster();
+  }
+}
+
+void Editor::Save() {
+  const Rehearsal rehearsal = Rehearse();
+  const SavedBytes saved = TeamSaver(image_, kept_, messages_).Save(document_.grid());
+  knowledge_.LearnSave(saved, rehearsal);
+}
+
+void Editor::ImportTeam(const std::optional<std::filesystem::path>& chosen) {
+  if (!chosen) {
+    image_.Close();
+    return;
+  }
+  RosterGrid grid = document_.grid();
+  try {
+    ImportTeamData(channel_, *chosen, grid);
+  } catch (const OperationFailed&) {
+    // An import that fails ends where it is, and nobody is told.
+  }
+  document_.Replace(grid);
+}
+
+bool Editor::ExportTeam(const std::optional<std::filesystem::path>& chosen) {
+  if (!chosen) {
+    image_.Close();
+    return false;
+  }
+  try {
+    ExportTeamData(channel_, *chosen, document_.grid());
+  } catch (const OperationFailed&) {
+    // An export that fails ends where it is, and nobody is told.
+    return false;
+  }
+  return true;
+}
+
+Rehearsal Editor::Rehearse() const {
+  return Rehearsal(document_.grid(), kept_, knowledge_.bytes());
 }
 
 }  // namespace morlek

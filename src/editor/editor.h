@@ -1,50 +1,75 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
+#include <optional>
+#include <string_view>
 
 #include "codecs/message_port.h"
+#include "editor/editor_view.h"
+#include "editor/image_knowledge.h"
 #include "image/cartridge_image.h"
 #include "image/channel.h"
-#include "team/codecs.h"
-#include "team/roster_grid.h"
-#include "team/team_loader.h"
-#include "team/team_saver.h"
+#include "team/kept_state.h"
+#include "team/rehearsal.h"
+#include "team/roster_document.h"
 
 namespace morlek {
 
-/// Everything that lives as long as the program runs, without a window: the one file channel, the
-/// current image, what the codecs keep, the roster grid, and the operations on them.
+/// The program without a window: the one file channel, the current image, what the codecs keep, the
+/// roster, and every step that a person can take. It outlives the windows that show it.
+/// A path that is nothing is a file dialog that was cancelled.
 class Editor {
  public:
-  /// No image, no team, an empty grid. The message port outlives the object.
+  /// No image, no team, an empty grid. The message port outlives the object; `opener` opens files.
   explicit Editor(MessagePort& messages, FileOpener opener = OpenFile);
 
-  /// What the identity check of a file came to.
-  enum class Opening { kAccepted, kRefused };
+  /// The first file of the run: takes it as the image when its identity byte is right, else tells
+  /// that an image must be opened. No file, and one that cannot be opened or read, count as wrong.
+  void OpenFirstImage(const std::optional<std::filesystem::path>& chosen, EditorView& view);
 
-  /// Checks the first file of the run and takes it as the image when it passes. A file that cannot
-  /// be opened or read counts as refused, and channel 1 is closed in any case.
-  [[nodiscard]] Opening OpenFirstImage(const std::filesystem::path& path);
+  /// A later file, likewise. A file that cannot be opened or read changes nothing and is not told;
+  /// one that was opened before its reading failed keeps channel 1. Cancelling frees channel 1.
+  void OpenAnotherImage(const std::optional<std::filesystem::path>& chosen, EditorView& view);
 
-  /// Checks a later file likewise. Throws OperationFailed when it cannot be opened or read; the
-  /// identity text is then as before, and a channel that was opened stays open.
-  [[nodiscard]] Opening OpenAnotherImage(const std::filesystem::path& path);
+  /// Loads the team with this toolbar key into the grid. A failure is told, and the grid hidden,
+  /// with what has been read so far in it.
+  void LoadTeam(std::string_view toolbar_key, EditorView& view);
 
-  /// The identity byte of the last file checked, passed or not, as hexadecimal text.
-  [[nodiscard]] const std::string& identity_text() const { return identity_text_; }
+  /// Saves the grid into the image and says so, whatever could be written.
+  void Save();
 
-  Channel channel;       // the one file channel, through which all below read and write
-  CartridgeImage image;  // the current image and team
-  Codecs codecs;         // what decoders and encoders keep
-  RosterGrid grid;       // the texts on the screen
-  TeamLoader loader;     // fills the grid from the image
-  TeamSaver saver;       // writes the grid into the image
+  /// Replaces the grid by a team data file, in one step. A failure is not told: a file that cannot
+  /// be opened changes nothing, one that ends too soon leaves the grid in part filled, and channel
+  /// 1 held. Cancelling frees channel 1.
+  void ImportTeam(const std::optional<std::filesystem::path>& chosen);
+
+  /// Writes the grid to a team data file; true when that came through. A failure is not told, and
+  /// holds channel 1 when it came while the file was written. Cancelling frees channel 1.
+  [[nodiscard]] bool ExportTeam(const std::optional<std::filesystem::path>& chosen);
+
+  [[nodiscard]] RosterDocument& document() { return document_; }
+  [[nodiscard]] const RosterDocument& document() const { return document_; }
+
+  /// What SAVE would make of the grid as it stands.
+  [[nodiscard]] Rehearsal Rehearse() const;
+
+  /// What the image is known to hold of the team in the grid.
+  [[nodiscard]] const ImageKnowledge& knowledge() const { return knowledge_; }
+
+  /// The current image; empty before the first one.
+  [[nodiscard]] const std::filesystem::path& image_path() const { return image_.path(); }
 
  private:
-  [[nodiscard]] Opening Judge(const std::filesystem::path& path, std::uint8_t identity);
+  /// Takes the file as the image when its identity byte is right, and shows what it is either way.
+  [[nodiscard]] bool Judge(const std::filesystem::path& path, std::uint8_t identity,
+                           EditorView& view);
 
-  std::string identity_text_;
+  MessagePort& messages_;
+  Channel channel_;
+  CartridgeImage image_{channel_};
+  KeptState kept_;
+  RosterDocument document_;
+  ImageKnowledge knowledge_;
 };
 
 }  // namespace morlek

@@ -12,7 +12,8 @@ int main(int argument_count, char** arguments) {
   morlek::ApplyLook();
 
   morlek::DialogUser user;
-  morlek::MainWindow window(user);
+  morlek::Editor editor(user);
+  morlek::MainWindow window(editor, user);
   user.SetWindow(&window);
   morlek::SplashWindow splash;
   QObject::connect(&splash, &morlek::SplashWindow::Dismissed, &window, [&] {

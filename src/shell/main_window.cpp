@@ -11,7 +11,6 @@
 #include <QScrollBar>
 #include <QTimer>
 
-#include "image/failure.h"
 #include "shell/cls_on_top.h"
 #include "shell/code_page_text.h"
 #include "shell/help_pane.h"
@@ -20,8 +19,6 @@
 #include "shell/team_toolbar.h"
 #include "shell/theme.h"
 #include "shell/twips.h"
-#include "textfile/team_export.h"
-#include "textfile/team_import.h"
 #include "version.h"
 
 namespace morlek {
@@ -32,18 +29,20 @@ constexpr int kWideWidth = 9990;
 constexpr int kContentHeight = 653;  // logical pixels
 constexpr int kRowMargin = 24;       // what stays in view around a box, likewise
 
-constexpr char kImageFailureTitle[] = "Morlek Editor";
 constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
 
 FileQuestion RomQuestion() {
   return {"Open Dale Harrow Jr. Baseball Rom", "SNES File (*.smc)|*.smc"};
 }
 
-std::filesystem::path ToPath(const QString& path) { return QFileInfo(path).filesystemFilePath(); }
+std::optional<std::filesystem::path> ToPath(const std::optional<QString>& path) {
+  if (!path) return std::nullopt;
+  return QFileInfo(*path).filesystemFilePath();
+}
 
 }  // namespace
 
-MainWindow::MainWindow(User& user) : user_(user), editor_(user) {
+MainWindow::MainWindow(Editor& editor, User& user) : editor_(editor), user_(user) {
   setObjectName("Form1");
   setWindowTitle(kProgramTitle);
   setAccessibleName(kProgramTitle);
@@ -107,27 +106,31 @@ void MainWindow::BuildContent() {
   toolbar_->hide();
   connect(toolbar_, &TeamToolbar::TeamPicked, this, &MainWindow::LoadTeam);
 
-  roster_ = new RosterFrame(editor_.grid, content_);
-  roster_->hide();
-  connect(roster_, &RosterFrame::SaveRequested, this, [this] {
-    // A hidden button can still be pressed by an assistive tool.
-    if (roster_->isVisible()) editor_.saver.Save();
-  });
-
-  stances_ = new StancePanel(editor_.grid, content_);
-  connect(roster_, &RosterFrame::RowChanged, stances_, &StancePanel::Follow);
-  connect(roster_, &RosterFrame::CellVisited, this, [this](Column column, int row) {
-    // On a screen with less room than the window needs.
-    scroll_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
-    if (!StancePanel::IsFeature(column)) return;
-    stances_->Choose(column, row);
-    SetContentWidth(kWideWidth);
-  });
-
   identity_->raise();
   help_ = new HelpPane(content_);
   // What the pane covers is not reached by keys either.
   connect(help_, &HelpPane::Covered, toolbar_, &QWidget::setDisabled);
+}
+
+void MainWindow::AddRoster() {
+  roster_ = new RosterFrame(editor_.document(), content_);
+  roster_->stackUnder(identity_);
+  roster_->hide();
+  connect(roster_, &RosterFrame::SaveRequested, this, [this] {
+    // A hidden button can still be pressed by an assistive tool.
+    if (roster_->isVisible()) editor_.Save();
+  });
+
+  stances_ = new StancePanel(editor_.document(), content_);
+  stances_->stackUnder(identity_);
+  stances_->show();
+  connect(roster_, &RosterFrame::CellVisited, this, [this](Cell cell) {
+    // On a screen with less room than the window needs.
+    scroll_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
+    if (!StancePanel::IsFeature(cell.column)) return;
+    stances_->Choose(cell);
+    SetContentWidth(kWideWidth);
+  });
   connect(help_, &HelpPane::Covered, roster_, &QWidget::setDisabled);
 }
 
@@ -162,10 +165,10 @@ void MainWindow::FitToScreen() {
 }
 
 void MainWindow::Run(Command command) {
-  if (!takes_commands_) return;
+  if (roster_ == nullptr) return;
   switch (command) {
     case Command::kOpen:
-      OpenAnotherImage();
+      editor_.OpenAnotherImage(ToPath(user_.AskOpenPath(RomQuestion())), *this);
       break;
     case Command::kQuit:
       Quit();
@@ -174,7 +177,8 @@ void MainWindow::Run(Command command) {
       ShowAbout();
       break;
     case Command::kImport:
-      ImportTeam();
+      editor_.ImportTeam(
+          ToPath(user_.AskOpenPath({"Open Dale Harrow Jr. Baseball Team Data", kTeamDataFilter})));
       break;
     case Command::kExport:
       ExportTeam();
@@ -198,73 +202,15 @@ void MainWindow::Run(Command command) {
 void MainWindow::OpenFirstImage() {
   // Only now is it known how much the system's borders take.
   FitToScreen();
-  const QString path = user_.AskOpenPath(RomQuestion()).value_or(QString());
-  roster_->Fill();
-  takes_commands_ = true;
-  const Editor::Opening opening = editor_.OpenFirstImage(ToPath(path));
-  ShowIdentity();
-  if (opening == Editor::Opening::kAccepted) {
-    toolbar_->show();
-    ShowHint();
-  } else {
-    user_.ShowMessage("You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle,
-                      Message::Icon::kNone);
-  }
-}
-
-void MainWindow::OpenAnotherImage() {
   const std::optional<QString> path = user_.AskOpenPath(RomQuestion());
-  if (!path) {
-    editor_.image.Close();
-    return;
-  }
-  try {
-    const Editor::Opening opening = editor_.OpenAnotherImage(ToPath(*path));
-    ShowIdentity();
-    if (opening == Editor::Opening::kRefused) {
-      editor_.image.Close();
-      user_.ShowMessage("This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle,
-                        Message::Icon::kNone);
-      return;
-    }
-  } catch (const OperationFailed&) {
-    // The image that was current stays so, and nobody is told.
-    return;
-  }
-  toolbar_->show();
-  toolbar_->Restart();
-  HideRoster();
-  SetContentWidth(kNarrowWidth);
-}
-
-void MainWindow::ImportTeam() {
-  const std::optional<QString> path =
-      user_.AskOpenPath({"Open Dale Harrow Jr. Baseball Team Data", kTeamDataFilter});
-  if (!path) {
-    editor_.image.Close();
-    return;
-  }
-  try {
-    ImportTeamData(editor_.channel, ToPath(*path), editor_.grid);
-  } catch (const OperationFailed&) {
-    // An import that fails ends where it is, and nobody is told.
-    return;
-  }
+  AddRoster();
+  editor_.OpenFirstImage(ToPath(path), *this);
 }
 
 void MainWindow::ExportTeam() {
   const std::optional<QString> path =
       user_.AskSavePath({"Save Dale Harrow Jr. Baseball Team Data", kTeamDataFilter});
-  if (!path) {
-    editor_.image.Close();
-    return;
-  }
-  try {
-    ExportTeamData(editor_.channel, ToPath(*path), editor_.grid);
-  } catch (const OperationFailed&) {
-    // An export that fails ends where it is, and nobody is told.
-    return;
-  }
+  if (!editor_.ExportTeam(ToPath(path))) return;
   user_.ShowMessage("Your team data has been saved to " + QDir::toNativeSeparators(*path),
                     kProgramTitle, Message::Icon::kNone);
 }
@@ -294,17 +240,10 @@ void MainWindow::ShowAbout() {
 }
 
 void MainWindow::LoadTeam(std::string_view toolbar_key) {
-  try {
-    editor_.loader.Load(toolbar_key, *this);
-  } catch (const OperationFailed& failure) {
-    user_.ShowMessage(failure.what(), kProgramTitle, Message::Icon::kCritical);
-    editor_.image.Close();
-    HideRoster();
-    return;
-  }
+  editor_.LoadTeam(toolbar_key, *this);
   // New texts have no selection; typing is to replace the value, as after a visit.
   auto* box = qobject_cast<QLineEdit*>(focusWidget());
-  if (box != nullptr && roster_->isAncestorOf(box)) box->selectAll();
+  if (box != nullptr && roster_->isVisible() && roster_->isAncestorOf(box)) box->selectAll();
 }
 
 void MainWindow::HideRoster() {
@@ -321,7 +260,17 @@ void MainWindow::ShowHint() {
                                       : "Pick a team above, or press Ctrl+Page Down");
 }
 
-void MainWindow::ShowIdentity() { identity_->setText(FromCodePage(editor_.identity_text())); }
+void MainWindow::ShowIdentity(std::string_view byte_text) {
+  identity_->setText(FromCodePage(byte_text));
+}
+
+void MainWindow::ShowToolbar() {
+  toolbar_->show();
+  toolbar_->Restart();
+  ShowHint();
+}
+
+void MainWindow::ShowNarrow() { SetContentWidth(kNarrowWidth); }
 
 void MainWindow::ShowTeamName(std::string_view display_name) { roster_->SetTeamName(display_name); }
 

@@ -18,15 +18,16 @@ class StancePanel;
 class TeamToolbar;
 class clsOnTop;
 
-/// The main window: it owns the editor and turns what the person does into its operations.
-class MainWindow : public QMainWindow, private TeamView {
+/// The main window: a view of the editor, which turns what the person does into the editor's steps.
+class MainWindow : public QMainWindow, private EditorView {
   Q_OBJECT
 
  public:
   Q_DISABLE_COPY_MOVE(MainWindow)
 
-  /// The user is asked and told everything that a dialog is for, and outlives the window.
-  explicit MainWindow(User& user);
+  /// The user is asked and told everything that a dialog is for. Editor and user outlive the
+  /// window.
+  MainWindow(Editor& editor, User& user);
   ~MainWindow() override;
 
  protected:
@@ -35,6 +36,11 @@ class MainWindow : public QMainWindow, private TeamView {
  private:
   void BuildMenus();
   void BuildContent();
+
+  /// Adds the grid and the choosers. Their 500 controls take as long as the rest of the window,
+  /// which need not wait for them.
+  void AddRoster();
+
   [[nodiscard]] QLabel* AddLabel(const char* name, const QRect& place);
 
   /// Sets the width of the content in twips; what stands further right is out of view.
@@ -45,30 +51,27 @@ class MainWindow : public QMainWindow, private TeamView {
 
   void Run(Command command);
   void OpenFirstImage();
-  void OpenAnotherImage();
-  void ImportTeam();
   void ExportTeam();
   void SetAlwaysOnTop(bool on_top);
   void Quit();
   void ShowAbout();
   void LoadTeam(std::string_view toolbar_key);
-
-  /// Hides the grid and SAVE with it, until a team is loaded.
-  void HideRoster();
-
-  void ShowIdentity();
   void ShowHint();
+
+  void ShowIdentity(std::string_view byte_text) override;
+  void ShowToolbar() override;
+  void HideRoster() override;
+  void ShowNarrow() override;
   void ShowTeamName(std::string_view display_name) override;
   void PrepareView() override;
 
+  Editor& editor_;
   User& user_;
-  Editor editor_;
-  // From the answer to the first question on, which is asked over the painted window.
-  bool takes_commands_ = false;
 
   QScrollArea* scroll_ = nullptr;
   QWidget* content_ = nullptr;
   TeamToolbar* toolbar_ = nullptr;
+  // There from the answer to the first question on, which is asked over the painted window.
   RosterFrame* roster_ = nullptr;
   StancePanel* stances_ = nullptr;
   HelpPane* help_ = nullptr;

@@ -28,8 +28,6 @@ int TopOfRow(int row) {
                         : kBatterTop + kRowStep * row;
 }
 
-std::size_t Index(Column column) { return static_cast<std::size_t>(column) - 1; }
-
 QPalette WithColor(QPalette palette, QPalette::ColorRole role, const QColor& color) {
   palette.setColor(role, color);
   return palette;
@@ -37,26 +35,28 @@ QPalette WithColor(QPalette palette, QPalette::ColorRole role, const QColor& col
 
 }  // namespace
 
-RosterFrame::RosterFrame(RosterGrid& grid, QWidget* parent) : QFrame(parent), grid_(grid) {
+RosterFrame::RosterFrame(RosterDocument& document, QWidget* parent)
+    : QFrame(parent), document_(document) {
   setObjectName("Frame1");
   setAccessibleName("roster");
   setGeometry(RectFromTwips(60, 720, 6555, 9015));
-}
-
-RosterFrame::~RosterFrame() { grid_.SetListener(nullptr); }
-
-void RosterFrame::Fill() {
   AddHeaders(kBatterColumns, kFirstBatterHeader, kBatterHeaderTop);
   AddHeaders(kPitcherColumns, kFirstPitcherHeader, kPitcherHeaderTop);
   for (int row = 0; row < kSlotCount; ++row) AddRow(row);
   AddTeamNameAndSave();
 
-  grid_.SetListener([this](Column column, int row) {
-    RosterBox* box = boxes_.at(static_cast<std::size_t>(row)).at(Index(column));
-    const QString shown = FromCodePage(grid_.Text(column, row));
-    if (box->text() != shown) box->setText(shown);
-    emit RowChanged(row);
-  });
+  for (const Cell cell : kAllCells) {
+    boxes_.at(IndexOf(cell))->setText(FromCodePage(document_.grid().Text(cell)));
+  }
+  subscription_ = document_.Subscribe([this](const GridChange& change) { Follow(change); });
+}
+
+void RosterFrame::Follow(const GridChange& change) {
+  for (const CellChange& part : change) {
+    RosterBox& box = *boxes_.at(IndexOf(part.cell));
+    const QString shown = FromCodePage(part.after);
+    if (box.text() != shown) box.setText(shown);
+  }
 }
 
 void RosterFrame::SetTeamName(std::string_view display_name) {
@@ -88,20 +88,17 @@ void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int t
 
 void RosterFrame::AddRow(int row) {
   for (const GridColumn& column : ColumnsOfRow(row)) {
+    const Cell cell{column.column, row};
     auto* box = new RosterBox(column, row, this);
     box->setGeometry(RectFromTwips(column.left, TopOfRow(row), column.width, kBoxHeight));
-    boxes_.at(static_cast<std::size_t>(row)).at(Index(column.column)) = box;
-    connect(box, &RosterBox::textChanged, this, [this, box] {
+    boxes_.at(IndexOf(cell)) = box;
+    connect(box, &RosterBox::textChanged, this, [this, box, cell] {
       // Not the signal's text, which the box may have corrected by now.
-      const std::string typed = ToCodePage(box->text());
-      if (grid_.Text(box->column(), box->row()) != typed) {
-        grid_.SetText(box->column(), box->row(), typed);
-      }
+      document_.Type(cell, ToCodePage(box->text()));
     });
-    connect(box, &RosterBox::Visited, this,
-            [this, box] { emit CellVisited(box->column(), box->row()); });
+    connect(box, &RosterBox::Visited, this, [this, cell] { emit CellVisited(cell); });
     connect(box, &RosterBox::RowStepRequested, this,
-            [this, box](int rows) { StepRow(*box, rows); });
+            [this, cell](int rows) { StepRow(cell, rows); });
   }
 }
 
@@ -126,14 +123,14 @@ void RosterFrame::AddTeamNameAndSave() {
           &RosterFrame::SaveRequested);
 }
 
-void RosterFrame::StepRow(const RosterBox& from, int rows) {
-  const int row = from.row() + rows;
+void RosterFrame::StepRow(Cell from, int rows) {
+  const int row = from.row + rows;
   if (row < 0 || row >= kSlotCount) return;
   // The column that stands in the same place, which from block to block may be another array.
-  const BlockColumns& columns = ColumnsOfRow(from.row());
-  const auto place = std::ranges::find(columns, from.column(), &GridColumn::column);
+  const BlockColumns& columns = ColumnsOfRow(from.row);
+  const auto place = std::ranges::find(columns, from.column, &GridColumn::column);
   const Column target = ColumnsOfRow(row)[static_cast<std::size_t>(place - columns.begin())].column;
-  boxes_.at(static_cast<std::size_t>(row)).at(Index(target))->setFocus(Qt::OtherFocusReason);
+  boxes_.at(IndexOf({target, row}))->setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace morlek

@@ -1,5 +1,7 @@
 #include "shell/stance_panel.h"
 
+#include <algorithm>
+
 #include "codecs/hex_text.h"
 #include "shell/code_page_text.h"
 #include "shell/stance_chooser.h"
@@ -25,7 +27,8 @@ constexpr std::array<ChooserKind, 3> kKinds = {{
 
 }  // namespace
 
-StancePanel::StancePanel(RosterGrid& grid, QWidget* parent) : QWidget(parent), grid_(grid) {
+StancePanel::StancePanel(RosterDocument& document, QWidget* parent)
+    : QWidget(parent), document_(document) {
   setObjectName("StancePanel");
   setAccessibleName("batting stance choosers");
   setGeometry(FromTwips(6660), 0, kWidth, kHeight);
@@ -33,22 +36,24 @@ StancePanel::StancePanel(RosterGrid& grid, QWidget* parent) : QWidget(parent), g
   view_ = new StanceView(this);
   view_->setGeometry(kViewArea);
   ShowStanceRow();
+  subscription_ = document_.Subscribe([this](const GridChange& change) {
+    const auto is_in_stance_row = [this](const CellChange& part) {
+      return part.cell.row == stance_row_;
+    };
+    if (std::ranges::any_of(change, is_in_stance_row)) ShowStanceRow();
+  });
 }
 
 bool StancePanel::IsFeature(Column column) {
   return column == kFeatures[0] || column == kFeatures[1] || column == kFeatures[2];
 }
 
-void StancePanel::Choose(Column column, int row) {
-  stance_row_ = row;
+void StancePanel::Choose(Cell cell) {
+  stance_row_ = cell.row;
   for (std::size_t place = 0; place < choosers_.size(); ++place) {
-    choosers_.at(place)->setVisible(kFeatures.at(place) == column);
+    choosers_.at(place)->setVisible(kFeatures.at(place) == cell.column);
   }
   ShowStanceRow();
-}
-
-void StancePanel::Follow(int row) {
-  if (row == stance_row_) ShowStanceRow();
 }
 
 void StancePanel::AddChooser(std::size_t place) {
@@ -56,19 +61,21 @@ void StancePanel::AddChooser(std::size_t place) {
   chooser->setGeometry(0, 0, kWidth, kViewArea.top());
   chooser->hide();
   connect(chooser, &StanceChooser::CodePicked, this, [this, place](const QString& code_text) {
-    grid_.SetText(kFeatures.at(place), stance_row_, ToCodePage(code_text));
+    RosterGrid grid = document_.grid();
+    grid.SetText({kFeatures.at(place), stance_row_}, ToCodePage(code_text));
+    document_.Replace(grid);
   });
   choosers_.at(place) = chooser;
 }
 
 void StancePanel::ShowStanceRow() {
   const auto code_of = [this](Column column) {
-    return HexDigitsToNumber(grid_.Text(column, stance_row_));
+    return HexDigitsToNumber(document_.grid().Text({column, stance_row_}));
   };
   for (std::size_t place = 0; place < choosers_.size(); ++place) {
     choosers_.at(place)->Mark(code_of(kFeatures.at(place)));
   }
-  view_->ShowPlayer(FromCodePage(grid_.Text(Column::kText1, stance_row_)),
+  view_->ShowPlayer(FromCodePage(document_.grid().Text({Column::kText1, stance_row_})),
                     {code_of(kFeatures[0]), code_of(kFeatures[1]), code_of(kFeatures[2])});
 }
 

@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <array>
 
-#include "team/roster_grid.h"
+#include "team/roster_document.h"
 
 namespace morlek {
 
@@ -16,26 +16,25 @@ class StancePanel : public QWidget {
   Q_OBJECT
 
  public:
-  StancePanel(RosterGrid& grid, QWidget* parent);
+  /// The document outlives the panel.
+  StancePanel(RosterDocument& document, QWidget* parent);
 
   /// True for the columns of face, body and legs.
   [[nodiscard]] static bool IsFeature(Column column);
 
-  /// Shows the chooser of a features column, hides the other two, and makes `row` (0 to 24) the
-  /// stance row, into which all three choosers put their codes.
-  void Choose(Column column, int row);
-
-  /// A cell of the grid has changed.
-  void Follow(int row);
+  /// Shows the chooser of a features cell's column, hides the other two, and makes the cell's row
+  /// the stance row, into which all three choosers put their codes.
+  void Choose(Cell cell);
 
  private:
   void AddChooser(std::size_t place);
   void ShowStanceRow();
 
-  RosterGrid& grid_;
+  RosterDocument& document_;
   int stance_row_ = 0;
   std::array<StanceChooser*, 3> choosers_{};
   StanceView* view_ = nullptr;
+  RosterDocument::Subscription subscription_;
 };
 
 }  // namespace morlek

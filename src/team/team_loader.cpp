@@ -1,34 +1,12 @@
 #include "team/team_loader.h"
 
-#include <string>
-
-#include "codecs/average_word.h"
-#include "codecs/hex_text.h"
-#include "codecs/rating_digit_codec.h"
 #include "image/failure.h"
-#include "image/record_layout.h"
 #include "image/team_directory.h"
+#include "team/record_decoder.h"
 
 namespace morlek {
-namespace {
 
-using enum Column;
-
-std::string WhereText(int row, int offset) {
-  const std::string player = IsPitcher(row) ? "pitcher " + std::to_string(row - kBatterCount + 1)
-                                            : "batter " + std::to_string(row + 1);
-  return " at offset " + std::to_string(offset) + " of player slot " + std::to_string(row) + " (" +
-         player + ")";
-}
-
-/// The first character, a point, and the rest: the form of names and earned run averages.
-std::string WithPoint(const std::string& text) {
-  return text.substr(0, 1) + "." + (text.empty() ? "" : text.substr(1));
-}
-
-}  // namespace
-
-void TeamLoader::Load(std::string_view toolbar_key, TeamView& view) {
+RecordBytes TeamLoader::Load(std::string_view toolbar_key, RosterGrid& grid, TeamView& view) {
   if (!image_.Open()) {
     throw OperationFailed(
         "The team could not be loaded, because the image could not be opened for reading and "
@@ -40,139 +18,15 @@ void TeamLoader::Load(std::string_view toolbar_key, TeamView& view) {
   }
   view.PrepareView();
 
-  LoadNames();
-  LoadFieldingPositions();
-  LoadUniformNumbers();
-  LoadHands();
-  LoadPitcherMarks();
-  LoadFirstRatings();
-  LoadSecondRatings();
-  LoadAppearance(kText12, offset::kFace);
-  LoadAppearance(kText13, offset::kBody);
-  LoadAppearance(kText14, offset::kLegs);
-  LoadBattingAverages();
-  LoadEarnedRunAverages();
-  LoadNumbers(kText10, Rows::kBatters, offset::kHomeRuns);
-  LoadNumbers(kText11, Rows::kBatters, offset::kRunsBattedIn);
-  LoadNumbers(kText8, Rows::kPitchers, offset::kWins);
-  LoadNumbers(kText10, Rows::kPitchers, offset::kLosses);
-  LoadNumbers(kText11, Rows::kPitchers, offset::kSaves);
+  RecordBytes read;
+  const auto source = [this, &read](int row, int offset) {
+    const std::uint8_t byte = image_.ReadField(row, offset);
+    read.Put(row, offset, byte);
+    return byte;
+  };
+  DecodeRecord(source, kept_, grid);
   image_.Close();
-}
-
-void TeamLoader::LoadNames() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    std::string letters;
-    for (int letter = 0; letter < kNameBytes; ++letter) {
-      letters += codecs_.name_letter.DecodeNameLetter(Read(row, offset::kName + letter));
-    }
-    grid_.SetText(kText1, row, WithPoint(letters));
-  }
-}
-
-void TeamLoader::LoadFieldingPositions() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const std::uint8_t code = Read(row, offset::kFieldingPosition);
-    grid_.SetText(kText2, row, codecs_.fielding_position.DecodeFieldingPosition(code));
-  }
-}
-
-void TeamLoader::LoadUniformNumbers() { LoadNumbers(kText3, Rows::kAll, offset::kUniformNumber); }
-
-void TeamLoader::LoadHands() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    grid_.SetText(kText4, row,
-                  IsPitcher(row)
-                      ? DecodeThrowingHand(Read(row, offset::kThrowingHand))
-                      : codecs_.batting_side.DecodeBattingSide(Read(row, offset::kBattingSide)));
-  }
-}
-
-void TeamLoader::LoadPitcherMarks() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const std::uint8_t byte = Read(row, offset::kPitcherMarks);
-    const std::string& marks = codecs_.pitcher_marks.DecodePitcherMarks(byte);
-    if (IsPitcher(row)) grid_.SetText(kText4, row, grid_.Text(kText4, row) + marks);
-  }
-}
-
-void TeamLoader::LoadFirstRatings() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    RatingDigitCodec& codec = codecs_.rating_digits;
-    codec.first_bytes.at(static_cast<std::size_t>(row)) = Read(row, offset::kFirstRatings);
-    const std::string digits = codec.FormatRatingBytes(row).first;
-    ShowRating(kText5, row, offset::kFirstRatings, digits.substr(0, 1));
-    ShowRating(kText6, row, offset::kFirstRatings, digits.substr(1));
-  }
-}
-
-void TeamLoader::LoadSecondRatings() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    RatingDigitCodec& codec = codecs_.rating_digits;
-    codec.second_bytes.at(static_cast<std::size_t>(row)) = Read(row, offset::kSecondRatings);
-    const std::string digits = codec.FormatRatingBytes(row).second;
-    if (IsPitcher(row)) {
-      ShowRating(kText7, row, offset::kSecondRatings, digits);
-    } else {
-      ShowRating(kText7, row, offset::kSecondRatings, digits.substr(0, 1));
-      ShowRating(kText8, row, offset::kSecondRatings, digits.substr(1));
-    }
-  }
-}
-
-void TeamLoader::LoadAppearance(Column column, int offset) {
-  for (int row = 0; row < kSlotCount; ++row) {
-    grid_.SetText(column, row, ByteToText(Read(row, offset)));
-  }
-}
-
-void TeamLoader::LoadBattingAverages() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const std::uint8_t low = Read(row, offset::kBattingAverage);
-    const std::uint8_t high = Read(row, offset::kBattingAverage + 1);
-    const std::string& average = codecs_.batting_average.DecodeBattingAverage(PairKey(low, high));
-    if (!IsPitcher(row)) grid_.SetText(kText9, row, average);
-  }
-}
-
-void TeamLoader::LoadEarnedRunAverages() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const std::uint8_t low = Read(row, offset::kEarnedRunAverage);
-    const std::uint8_t high = Read(row, offset::kEarnedRunAverage + 1);
-    const std::string& digits =
-        codecs_.earned_run_average.DecodeEarnedRunAverage(PairKey(low, high));
-    if (!IsPitcher(row)) continue;
-    grid_.SetText(kText9, row, WithPoint(digits));
-  }
-}
-
-void TeamLoader::LoadNumbers(Column column, Rows rows, int offset) {
-  for (int row = 0; row < kSlotCount; ++row) {
-    SmallNumberCodec& codec = codecs_.small_number;
-    codec.number_bytes.at(static_cast<std::size_t>(row)) = Read(row, offset);
-    const std::string& number = codec.DecodeSmallNumber(row);
-    if (rows == Rows::kAll || IsPitcher(row) == (rows == Rows::kPitchers)) {
-      grid_.SetText(column, row, number);
-    }
-  }
-}
-
-void TeamLoader::ShowRating(Column column, int row, int offset, std::string_view digits) {
-  const std::optional<std::string> shown = ShownRating(digits);
-  if (!shown) {
-    throw OperationFailed("The team could not be loaded, because the rating" +
-                          WhereText(row, offset) + " holds a digit that is no number.");
-  }
-  grid_.SetText(column, row, *shown);
-}
-
-std::uint8_t TeamLoader::Read(int row, int offset) {
-  try {
-    return image_.ReadField(row, offset);
-  } catch (const OperationFailed& failure) {
-    throw OperationFailed("The team could not be loaded, because the byte" +
-                          WhereText(row, offset) + " could not be read. " + failure.what());
-  }
+  return read;
 }
 
 }  // namespace morlek

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <string_view>
 
 #include "image/cartridge_image.h"
-#include "team/codecs.h"
+#include "team/kept_state.h"
+#include "team/record_bytes.h"
 #include "team/roster_grid.h"
 
 namespace morlek {
@@ -26,41 +26,21 @@ class TeamView {
   TeamView& operator=(const TeamView&) = default;
 };
 
-/// Fills the roster grid from the image, one field at a time across the whole roster. What a
-/// decoder does not know shows its previous result, so the order of the passes is part of what the
-/// loader does.
+/// Fills a grid from the image, which it only reads.
 class TeamLoader {
  public:
-  TeamLoader(CartridgeImage& image, Codecs& codecs, RosterGrid& grid)
-      : image_(image), codecs_(codecs), grid_(grid) {}
+  /// Image and kept state outlive the loader.
+  TeamLoader(CartridgeImage& image, KeptState& kept) : image_(image), kept_(kept) {}
 
-  /// Loads the team with this toolbar key; an unknown key loads the current team again.
+  /// Loads the team with this toolbar key; an unknown key loads the current team again. Gives the
+  /// bytes that were read.
   /// Throws OperationFailed when the image cannot be opened (nothing has changed then) or read, or
   /// when a rating shows no number; the grid is then filled up to that field and the image is open.
-  void Load(std::string_view toolbar_key, TeamView& view);
+  RecordBytes Load(std::string_view toolbar_key, RosterGrid& grid, TeamView& view);
 
  private:
-  void LoadNames();
-  void LoadFieldingPositions();
-  void LoadUniformNumbers();
-  void LoadHands();
-  void LoadPitcherMarks();
-  void LoadFirstRatings();
-  void LoadSecondRatings();
-  void LoadAppearance(Column column, int offset);
-  void LoadBattingAverages();
-  void LoadEarnedRunAverages();
-
-  /// Which block of the grid shows what a pass has decoded.
-  enum class Rows { kAll, kBatters, kPitchers };
-  void LoadNumbers(Column column, Rows rows, int offset);
-
-  void ShowRating(Column column, int row, int offset, std::string_view digits);
-  [[nodiscard]] std::uint8_t Read(int row, int offset);
-
   CartridgeImage& image_;
-  Codecs& codecs_;
-  RosterGrid& grid_;
+  KeptState& kept_;
 };
 
 }  // namespace morlek

@@ -11,7 +11,7 @@ void ExportTeamData(Channel& channel, const std::filesystem::path& path, const R
   for (int row = 0; row < kSlotCount; ++row) {
     std::string line;
     for (const GridColumn& column : ColumnsOfRow(row)) {
-      line += grid.Text(column.column, row);
+      line += grid.Text({column.column, row});
       line += ',';
     }
     channel.WriteLine(line);

@@ -32,11 +32,7 @@ class LineReader {
 }  // namespace
 
 void ClearRosterGrid(RosterGrid& grid) {
-  for (int row = 0; row < kSlotCount; ++row) {
-    for (int column = 1; column <= kColumnCount; ++column) {
-      grid.SetText(static_cast<Column>(column), row, {});
-    }
-  }
+  for (const Cell cell : kAllCells) grid.SetText(cell, {});
 }
 
 void ImportTeamData(Channel& channel, const std::filesystem::path& path, RosterGrid& grid) {
@@ -54,7 +50,7 @@ void ImportTeamData(Channel& channel, const std::filesystem::path& path, RosterG
         if (field.size() < kLongestField) field += *character;
         continue;
       }
-      if (index < columns.size()) grid.SetText(columns.at(index).column, row, field);
+      if (index < columns.size()) grid.SetText({columns.at(index).column, row}, field);
       ++index;
       field.clear();
     }

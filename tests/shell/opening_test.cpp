@@ -58,7 +58,7 @@ TEST_F(OpeningTest, AsksForAnImageAsTheWindowFirstAppears) {
 
 TEST_F(OpeningTest, NoCommandIsTakenBeforeTheFirstImageHasBeenAskedFor) {
   user.paths = {ImagePath()};
-  window = std::make_unique<MainWindow>(user);
+  MakeWindow();
   Choose("mnuOpen");
   Choose("mnuAboutMorlek");
   EXPECT_TRUE(user.open_questions.empty());

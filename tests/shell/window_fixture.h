@@ -38,10 +38,17 @@ class WindowTest : public ::testing::Test {
   [[nodiscard]] QString ImagePath() const { return PathText(ImageFile()); }
   [[nodiscard]] QString PathOf(std::string_view name) const { return PathText(folder / name); }
 
+  /// A new run of the program, its window not yet shown.
+  void MakeWindow() {
+    window.reset();
+    editor = std::make_unique<Editor>(user);
+    window = std::make_unique<MainWindow>(*editor, user);
+  }
+
   /// Shows the window and answers its first dialog.
   void Start(const std::optional<QString>& first_answer) {
     user.paths.push_back(first_answer);
-    window = std::make_unique<MainWindow>(user);
+    MakeWindow();
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -108,6 +115,7 @@ class WindowTest : public ::testing::Test {
 
   TempDir folder;
   ScriptedUser user;
+  std::unique_ptr<Editor> editor;
   std::unique_ptr<MainWindow> window;
 };
 

@@ -8,11 +8,12 @@
 #include <string>
 #include <vector>
 
-#include "editor/editor.h"
 #include "sample_image.h"
 #include "support/memory_disk.h"
 #include "support/plain_record.h"
 #include "support/recording_messages.h"
+#include "support/recording_view.h"
+#include "team/team_saver.h"
 
 namespace morlek {
 
@@ -35,67 +36,58 @@ struct FieldByte {
   }
 };
 
-/// A text of the grid by roster row and the number of its text box array.
-struct Cell {
+/// A cell by roster row and the number of its text box array, and its text.
+struct CellText {
   int row;
   int column;
   std::string text;
+
+  [[nodiscard]] Cell cell() const { return {static_cast<Column>(column), row}; }
 };
 
-/// A window that notes what the loader asks of it.
-class RecordingView : public TeamView {
- public:
-  void ShowTeamName(std::string_view name) override { calls.emplace_back(name); }
-  void PrepareView() override { calls.emplace_back("prepare"); }
-
-  std::vector<std::string> calls;
-};
-
-/// An editor that has just opened an image in memory, in which the Braves and the Orioles have the
-/// plain record.
-class EditorTest : public ::testing::Test {
+/// Loader and saver over an image in memory, in which the Braves and the Orioles have the plain
+/// record.
+class TeamTest : public ::testing::Test {
  protected:
-  EditorTest() {
+  TeamTest() {
     static const std::vector<std::uint8_t> sample = MakeSampleImage();
     disk.files[kImage] = sample;
     for (const std::int64_t base : {kBraves, kOrioles}) {
-      std::ranges::copy(PlainRecord(), image().begin() + (base - 1));
+      std::ranges::copy(PlainRecord(), file().begin() + (base - 1));
     }
-    EXPECT_EQ(editor.OpenFirstImage(kImage), Editor::Opening::kAccepted);
+    image.SetPath(kImage);
   }
 
-  std::vector<std::uint8_t>& image() { return disk.files.at(kImage); }
+  std::vector<std::uint8_t>& file() { return disk.files.at(kImage); }
 
   void Poke(const std::vector<FieldByte>& bytes, std::int64_t base = kBraves) {
     for (const auto& [row, offset, byte] : bytes) {
       const auto index = static_cast<std::size_t>(base - 1 + std::int64_t{32} * row + offset);
-      image().at(index) = static_cast<std::uint8_t>(byte);
+      file().at(index) = static_cast<std::uint8_t>(byte);
     }
   }
 
   void Load(const char* key) {
     disk.reads.clear();
-    editor.loader.Load(key, view);
+    loader.Load(key, grid, view);
   }
 
   [[nodiscard]] const std::string& Text(int column, int row) const {
-    return editor.grid.Text(static_cast<Column>(column), row);
+    return grid.Text({static_cast<Column>(column), row});
   }
 
-  void Type(const std::vector<Cell>& cells) {
-    for (const auto& [row, column, text] : cells) {
-      editor.grid.SetText(static_cast<Column>(column), row, text);
-    }
+  void Type(const std::vector<CellText>& cells) {
+    for (const CellText& each : cells) grid.SetText(each.cell(), each.text);
   }
 
   /// Saves; messages and writes are then those of this save alone.
   void Save() {
     disk.writes.clear();
     messages.shown.clear();
-    editor.saver.Save();
+    saver.Save(grid);
   }
 
-  void ExpectShown(const std::vector<Cell>& cells) {
+  void ExpectShown(const std::vector<CellText>& cells) {
     for (const auto& [row, column, text] : cells) {
       EXPECT_EQ(Text(column, row), text) << "Text" << column << " row " << row;
     }
@@ -116,7 +108,12 @@ class EditorTest : public ::testing::Test {
   MemoryDisk disk;
   RecordingMessages messages;
   RecordingView view;
-  Editor editor{messages, disk.Opener()};
+  Channel channel{disk.Opener()};
+  CartridgeImage image{channel};
+  KeptState kept;
+  RosterGrid grid;
+  TeamLoader loader{image, kept};
+  TeamSaver saver{image, kept, messages};
 };
 
 }  // namespace morlek

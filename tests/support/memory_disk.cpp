@@ -9,7 +9,12 @@ namespace {
 
 class MemoryFile : public File, private std::streambuf {
  public:
-  MemoryFile(MemoryDisk& disk, std::vector<std::uint8_t>& bytes) : disk_(disk), bytes_(bytes) {}
+  MemoryFile(MemoryDisk& disk, std::vector<std::uint8_t>& bytes) : disk_(disk), bytes_(bytes) {
+    ++disk_.open_files;
+  }
+  ~MemoryFile() override { --disk_.open_files; }
+  MemoryFile(const MemoryFile&) = delete;
+  MemoryFile& operator=(const MemoryFile&) = delete;
 
   std::streambuf& bytes() override { return *this; }
   bool Close() override {

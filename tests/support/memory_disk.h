@@ -25,6 +25,7 @@ class MemoryDisk {
   std::vector<std::filesystem::path> opened;
   std::vector<ByteAccess> reads;
   std::vector<ByteAccess> writes;
+  int open_files = 0;
 
   /// Which open, read, write or close from now on fails, counted from 1; 0 for none. Either that
   /// one alone or every later one too. `failures` counts those that did, and apart the closes.

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "editor/editor.h"
 #include "image/failure.h"
 #include "support/editor_fixture.h"
 #include "textfile/team_export.h"
@@ -13,7 +14,7 @@ constexpr char kText[] = "team.txt";
 
 /// Runs an operation again and again, with its first, second, ... file access failing, until it
 /// gets through; each time that access alone and then all from that one on.
-class AnomalyTest : public EditorTest {
+class AnomalyTest : public TeamTest {
  protected:
   template <typename Prepare, typename Operation, typename Check>
   void FailEachAccess(Prepare prepare, Operation operation, Check check) {
@@ -52,7 +53,7 @@ class AnomalyTest : public EditorTest {
     return true;
   }
 
-  void PutPlainRecord() { std::ranges::copy(PlainRecord(), image().begin() + (kBraves - 1)); }
+  void PutPlainRecord() { std::ranges::copy(PlainRecord(), file().begin() + (kBraves - 1)); }
 
   [[nodiscard]] bool failed() const { return disk.failures > 0; }
 
@@ -65,26 +66,27 @@ class AnomalyTest : public EditorTest {
 };
 
 TEST_F(AnomalyTest, IdentityCheck) {
+  Editor editor(messages, disk.Opener());
   const auto nothing = [] {};
   FailEachAccess(
-      nothing,
-      [this] {
-        succeeded = Succeeds(
-            [this] { EXPECT_EQ(editor.OpenAnotherImage(kImage), Editor::Opening::kAccepted); });
-      },
-      [this] {
-        EXPECT_EQ(succeeded, !read_failed());
-        EXPECT_EQ(editor.identity_text(), "3C");
-        editor.image.Close();
+      nothing, [&] { editor.OpenFirstImage(kImage, view); },
+      [&] {
+        EXPECT_EQ(messages.shown.empty(), !read_failed());
+        EXPECT_EQ(view.identity, read_failed() ? "0" : "3C");
+        // The channel is free again.
+        EXPECT_TRUE(editor.ExportTeam(kText));
+        disk.files.erase(kText);
       });
-  FailEachAccess(
-      nothing, [this] { succeeded = editor.OpenFirstImage(kImage) == Editor::Opening::kAccepted; },
-      [this] {
-        EXPECT_EQ(succeeded, !read_failed());
-        EXPECT_EQ(editor.identity_text(), read_failed() ? "0" : "3C");
-        EXPECT_FALSE(editor.channel.is_open());
-      });
-  EXPECT_TRUE(disk.writes.empty());
+  FailEachAccess([&] { view.calls.clear(); }, [&] { editor.OpenAnotherImage(kImage, view); },
+                 [&] {
+                   EXPECT_EQ(view.calls.empty(), read_failed());
+                   EXPECT_EQ(view.identity, "3C");
+                   EXPECT_TRUE(messages.shown.empty());
+                   EXPECT_EQ(editor.ExportTeam(kText), !read_failed() || access == 1)
+                       << "else held";
+                   editor.OpenAnotherImage(std::nullopt, view);
+                   disk.files.erase(kText);
+                 });
 }
 
 TEST_F(AnomalyTest, Load) {
@@ -98,18 +100,18 @@ TEST_F(AnomalyTest, Load) {
       [this] { succeeded = Succeeds([this] { Load("Braves"); }); },
       [this, &reads] {
         EXPECT_EQ(succeeded, !read_failed());
-        EXPECT_EQ(editor.channel.is_open(), read_failed() && access > 1);
+        EXPECT_EQ(channel.is_open(), read_failed() && access > 1);
         EXPECT_TRUE(disk.writes.empty());
         EXPECT_TRUE(messages.shown.empty());
         // The first access opens the image; a read that fails is told with its place.
-        if (editor.channel.is_open()) {
+        if (channel.is_open()) {
           const std::int64_t place =
               reads.at(static_cast<std::size_t>(access) - 2).position - kBraves;
           const std::string where = "offset " + std::to_string(place % 32) + " of player slot " +
                                     std::to_string(place / 32) + " ";
           EXPECT_NE(told.find(where), std::string::npos) << where << "is not in: " << told;
         }
-        editor.image.Close();
+        image.Close();
         if (disk.failures != 1) return;
         EXPECT_TRUE(Succeeds([this] { Load("Orioles"); }));
         EXPECT_EQ(Text(14, 24), "18");
@@ -121,10 +123,10 @@ TEST_F(AnomalyTest, Save) {
   Save();
   const std::vector<ByteAccess> all = disk.writes;
   FailEachAccess(
-      [this] { PutPlainRecord(); }, [this] { editor.saver.Save(); },
+      [this] { PutPlainRecord(); }, [this] { saver.Save(grid); },
       [this, &all] {
         EXPECT_EQ(messages.shown, std::vector<Message>{{"Your changes have been saved."}});
-        EXPECT_FALSE(editor.channel.is_open());
+        EXPECT_FALSE(channel.is_open());
         // The first access opens the image; without it nothing is written.
         std::vector<ByteAccess> made = all;
         if (access == 1) made.clear();
@@ -142,25 +144,23 @@ TEST_F(AnomalyTest, Save) {
 TEST_F(AnomalyTest, Export) {
   std::string lines;
   for (int row = 0; row < 25; ++row) lines += ",,,,,,,,,,,,,,\r\n";
-  FailEachAccess(
-      [] {},
-      [this] {
-        succeeded = Succeeds([this] { ExportTeamData(editor.channel, kText, editor.grid); });
-      },
-      [this, &lines] {
-        EXPECT_EQ(succeeded, !failed());
-        const std::vector<std::uint8_t>& file = disk.files[kText];
-        const bool is_prefix =
-            file.size() <= lines.size() && std::equal(file.begin(), file.end(), lines.begin());
-        EXPECT_TRUE(is_prefix);
-        EXPECT_EQ(file.size() == lines.size(), !read_failed());
-        EXPECT_EQ(editor.channel.is_open(), read_failed() && access > 1);
-        // Whatever is left open, a save frees it; no team is loaded, so nothing is written.
-        Save();
-        EXPECT_TRUE(disk.writes.empty());
-        EXPECT_TRUE(Succeeds([this] { ExportTeamData(editor.channel, kText, editor.grid); }));
-        disk.files[kText].clear();
-      });
+  FailEachAccess([] {},
+                 [this] { succeeded = Succeeds([this] { ExportTeamData(channel, kText, grid); }); },
+                 [this, &lines] {
+                   EXPECT_EQ(succeeded, !failed());
+                   const std::vector<std::uint8_t>& file = disk.files[kText];
+                   const bool is_prefix = file.size() <= lines.size() &&
+                                          std::equal(file.begin(), file.end(), lines.begin());
+                   EXPECT_TRUE(is_prefix);
+                   EXPECT_EQ(file.size() == lines.size(), !read_failed());
+                   EXPECT_EQ(channel.is_open(), read_failed() && access > 1);
+                   // Whatever is left open, a save frees it; no team is loaded, so nothing is
+                   // written.
+                   Save();
+                   EXPECT_TRUE(disk.writes.empty());
+                   EXPECT_TRUE(Succeeds([this] { ExportTeamData(channel, kText, grid); }));
+                   disk.files[kText].clear();
+                 });
 }
 
 TEST_F(AnomalyTest, Import) {
@@ -169,20 +169,18 @@ TEST_F(AnomalyTest, Import) {
   disk.files[kText].assign(lines.begin(), lines.end());
   FailEachAccess(
       [this] {
-        ClearRosterGrid(editor.grid);
+        ClearRosterGrid(grid);
         Type({{24, 2, "old"}});
       },
-      [this] {
-        succeeded = Succeeds([this] { ImportTeamData(editor.channel, kText, editor.grid); });
-      },
+      [this] { succeeded = Succeeds([this] { ImportTeamData(channel, kText, grid); }); },
       [this] {
         EXPECT_EQ(succeeded, !read_failed());
         EXPECT_TRUE(Text(1, 24) == "A" || !succeeded);
-        EXPECT_EQ(editor.channel.is_open(), read_failed() && access > 1);
+        EXPECT_EQ(channel.is_open(), read_failed() && access > 1);
         // The grid is emptied only when the file has been opened.
-        EXPECT_EQ(Text(2, 24), !succeeded && !editor.channel.is_open() ? "old" : "");
-        editor.image.Close();
-        EXPECT_TRUE(Succeeds([this] { ImportTeamData(editor.channel, kText, editor.grid); }));
+        EXPECT_EQ(Text(2, 24), !succeeded && !channel.is_open() ? "old" : "");
+        image.Close();
+        EXPECT_TRUE(Succeeds([this] { ImportTeamData(channel, kText, grid); }));
         EXPECT_EQ(Text(1, 24), "A");
       });
   EXPECT_TRUE(disk.writes.empty());

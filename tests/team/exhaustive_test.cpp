@@ -12,7 +12,7 @@ using Bytes = std::vector<std::uint8_t>;
 
 /// Loads and saves teams with every value in every field, and compares the whole image with what
 /// the rules, told anew below, make of it.
-class ExhaustiveTest : public EditorTest {
+class ExhaustiveTest : public TeamTest {
  protected:
   // Rows whose neighbour above keeps a value that every decoder knows.
   static constexpr std::array<int, 7> kBatterRows = {1, 3, 5, 7, 9, 11, 13};
@@ -22,14 +22,14 @@ class ExhaustiveTest : public EditorTest {
     return std::size_t{32} * static_cast<std::size_t>(row) + static_cast<std::size_t>(offset);
   }
 
-  void PutRecord(const Bytes& record) { std::ranges::copy(record, image().begin() + kBraves - 1); }
+  void PutRecord(const Bytes& record) { std::ranges::copy(record, file().begin() + kBraves - 1); }
 
   /// True when a load and a save leave `record` in its place and the rest of the image as it was.
   [[nodiscard]] bool LeavesRecord(const Bytes& record) {
     Load("Braves");
     Save();
     std::ranges::copy(record, expected_image_.begin() + kBraves - 1);
-    return image() == expected_image_;
+    return file() == expected_image_;
   }
 
   /// Puts every value into the field, several rows at a time, and asks `expect` for what stands in
@@ -61,7 +61,7 @@ class ExhaustiveTest : public EditorTest {
   const Bytes plain = PlainRecord();
 
  private:
-  Bytes expected_image_ = image();
+  Bytes expected_image_ = file();
 };
 
 bool IsCount(int value) { return value <= 200; }
@@ -119,7 +119,7 @@ TEST_F(ExhaustiveTest, Ratings) {
       PutRecord(after);
       if (value / 16 > 9 || value % 16 > 9) {
         EXPECT_THROW(Load("Braves"), OperationFailed) << value;
-        editor.image.Close();
+        image.Close();
         continue;
       }
       // A second rating of ten spoils the pair: 0x09 becomes 0x99, and larger ones have no byte.

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "editor/editor.h"
 #include "image/team_directory.h"
 #include "support/editor_fixture.h"
 #include "support/temp_dir.h"
@@ -18,22 +19,22 @@ TEST(RoundTrip, LoadingAndSavingEveryTeamLeavesTheFileAsItWas) {
   RecordingMessages messages;
   RecordingView view;
   Editor editor(messages);
-  ASSERT_EQ(editor.OpenFirstImage(path), Editor::Opening::kAccepted);
+  editor.OpenFirstImage(path, view);
   for (const Team& team : kTeamDirectory) {
-    editor.loader.Load(team.key, view);
-    editor.saver.Save();
+    editor.LoadTeam(team.key, view);
+    editor.Save();
     ASSERT_EQ(GetFile(path), before) << team.key;
     ASSERT_EQ(messages.Texts(), std::vector<std::string>{kSaved}) << team.key;
     messages.shown.clear();
   }
 }
 
-class RoundTripTest : public EditorTest {
+class RoundTripTest : public TeamTest {
  protected:
   /// The bytes of the record that differ from `before`. No byte around it may differ.
   std::vector<FieldByte> ChangesSince(const std::vector<std::uint8_t>& before) {
     std::vector<FieldByte> changes;
-    std::vector<std::uint8_t> others = image();
+    std::vector<std::uint8_t> others = file();
     for (int place = 0; place < 800; ++place) {
       const auto index = static_cast<std::size_t>(kBraves - 1 + place);
       if (others.at(index) == before.at(index)) continue;
@@ -46,7 +47,7 @@ class RoundTripTest : public EditorTest {
 };
 
 struct Edit {
-  Cell cell;
+  CellText cell;
   std::vector<FieldByte> changes;
 };
 
@@ -73,7 +74,7 @@ const std::vector<Edit> kEdits = {
 
 TEST_F(RoundTripTest, EditsOfOneCellChangeItsBytesAlone) {
   Load("Braves");
-  const auto before = image();
+  const auto before = file();
   for (const auto& [cell, changes] : kEdits) {
     const std::string text = Text(cell.column, cell.row);
     Type({cell});

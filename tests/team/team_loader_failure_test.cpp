@@ -9,7 +9,7 @@
 namespace morlek {
 namespace {
 
-class TeamLoaderFailureTest : public EditorTest {
+class TeamLoaderFailureTest : public TeamTest {
  protected:
   TeamLoaderFailureTest() { Load("Braves"); }
 
@@ -18,33 +18,33 @@ class TeamLoaderFailureTest : public EditorTest {
     view.calls.clear();
     EXPECT_THROW(Load("Orioles"), OperationFailed);
     EXPECT_TRUE(view.calls.empty());
-    EXPECT_EQ(editor.image.team_base(), kBraves);
+    EXPECT_EQ(image.team_base(), kBraves);
     EXPECT_TRUE(disk.reads.empty());
   }
 };
 
 TEST_F(TeamLoaderFailureTest, AnOpenChannelOrAMissingImageStopsItAtOnce) {
   disk.files["text"] = {'x'};
-  ASSERT_TRUE(editor.channel.OpenTextInput("text"));
+  ASSERT_TRUE(channel.OpenTextInput("text"));
   ExpectOpeningFails();
-  EXPECT_EQ(editor.channel.ReadCharacter(), 'x');
-  editor.channel.Close();
-  ASSERT_TRUE(editor.channel.OpenBinary(kImage));
+  EXPECT_EQ(channel.ReadCharacter(), 'x');
+  channel.Close();
+  ASSERT_TRUE(channel.OpenBinary(kImage));
   ExpectOpeningFails();
-  EXPECT_TRUE(editor.channel.is_open());
-  editor.channel.Close();
+  EXPECT_TRUE(channel.is_open());
+  channel.Close();
   disk.files.clear();
   ExpectOpeningFails();
-  EXPECT_FALSE(editor.channel.is_open());
+  EXPECT_FALSE(channel.is_open());
   EXPECT_TRUE(disk.files.empty());
 }
 
 TEST_F(TeamLoaderFailureTest, AnUnknownKeyNeedsATeamToGoOnWith) {
-  Editor fresh(messages, disk.Opener());
-  ASSERT_EQ(fresh.OpenFirstImage(kImage), Editor::Opening::kAccepted);
-  EXPECT_THROW(fresh.loader.Load("Senators", view), OperationFailed);
-  EXPECT_EQ(fresh.image.team_base(), std::nullopt);
-  EXPECT_TRUE(fresh.channel.is_open());
+  CartridgeImage fresh(channel);
+  fresh.SetPath(kImage);
+  EXPECT_THROW((TeamLoader{fresh, kept}.Load("Senators", grid, view)), OperationFailed);
+  EXPECT_EQ(fresh.team_base(), std::nullopt);
+  EXPECT_TRUE(channel.is_open());
 }
 
 TEST_F(TeamLoaderFailureTest, ARatingThatIsALetterEndsTheLoad) {
@@ -61,8 +61,8 @@ TEST_F(TeamLoaderFailureTest, ARatingThatIsALetterEndsTheLoad) {
       EXPECT_NE(told.find(std::to_string(letter.offset)), std::string::npos) << told;
     }
     EXPECT_EQ(disk.reads.back().position, kBraves + 32 * letter.row + letter.offset);
-    EXPECT_TRUE(editor.channel.is_open());
-    editor.channel.Close();
+    EXPECT_TRUE(channel.is_open());
+    channel.Close();
     Poke({{letter.row, letter.offset, 0x11}});
   }
 }

@@ -10,7 +10,7 @@
 namespace morlek {
 namespace {
 
-using TeamLoaderTest = EditorTest;
+using TeamLoaderTest = TeamTest;
 
 TEST_F(TeamLoaderTest, ShowsEveryFieldOfEveryRow) {
   // clang-format off
@@ -30,8 +30,8 @@ TEST_F(TeamLoaderTest, ShowsEveryFieldOfEveryRow) {
   }
   for (int row = 0; row < 25; ++row) ExpectShown({{row, 3, std::to_string(row + 1)}});
   EXPECT_EQ(view.calls, (std::vector<std::string>{"ATLANTA BRAVES", "prepare"}));
-  EXPECT_EQ(editor.image.team_base(), kBraves);
-  EXPECT_FALSE(editor.channel.is_open());
+  EXPECT_EQ(image.team_base(), kBraves);
+  EXPECT_FALSE(channel.is_open());
   EXPECT_TRUE(disk.writes.empty());
   EXPECT_TRUE(messages.shown.empty());
 }
@@ -43,11 +43,11 @@ TEST_F(TeamLoaderTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {
   Load("orioles");
   ExpectShown({{0, 3, "99"}});
   EXPECT_EQ(view.calls, std::vector<std::string>{"prepare"});
-  EXPECT_EQ(editor.image.team_base(), kOrioles);
+  EXPECT_EQ(image.team_base(), kOrioles);
 }
 
 TEST_F(TeamLoaderTest, BytesPastTheEndOfAShortImageShowAsZero) {
-  image().resize(kBraves - 1 + 32 * 24 + 5);
+  file().resize(kBraves - 1 + 32 * 24 + 5);
   Load("Braves");
   ExpectShown({{23, 3, "24"}, {24, 1, "Y.BY"}, {24, 2, "P"}, {24, 3, "0"}, {24, 4, "R"}});
   ExpectShown({{24, 5, "1"}, {24, 7, "1"}, {24, 9, "2.80"}, {24, 11, "0"}, {24, 12, "0"}});
@@ -58,12 +58,12 @@ struct LoaderCase {
   const char* name;
   std::vector<FieldByte> earlier;
   std::vector<FieldByte> bytes;
-  std::vector<Cell> shown;
+  std::vector<CellText> shown;
 };
 
 void PrintTo(const LoaderCase& loader_case, std::ostream* out) { *out << loader_case.name; }
 
-class TeamLoaderCase : public EditorTest, public ::testing::WithParamInterface<LoaderCase> {};
+class TeamLoaderCase : public TeamTest, public ::testing::WithParamInterface<LoaderCase> {};
 
 TEST_P(TeamLoaderCase, Shows) {
   if (!GetParam().earlier.empty()) {

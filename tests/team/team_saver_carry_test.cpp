@@ -8,11 +8,11 @@
 namespace morlek {
 namespace {
 
-class TeamSaverCarry : public EditorTest {
+class TeamSaverCarry : public TeamTest {
  protected:
   TeamSaverCarry() { Load("Braves"); }
 
-  void ExpectSaved(const std::vector<Cell>& cells, const std::vector<FieldByte>& bytes) {
+  void ExpectSaved(const std::vector<CellText>& cells, const std::vector<FieldByte>& bytes) {
     Type(cells);
     Save();
     ExpectWritten(bytes);
@@ -67,17 +67,16 @@ TEST_F(TeamSaverCarry, CountsStartFromWhatTheLoadLeft) {
               {{0, 26, 0x45}, {2, 26, 33}, {3, 26, 99}});
 }
 
-TEST(TeamSaverFirst, CountsWithoutAnyNumberBeforeAreZero) {
-  MemoryDisk disk;
+TEST_F(TeamSaverCarry, CountsWithoutAnyNumberBeforeAreZero) {
   disk.files["image"] = std::vector<std::uint8_t>(800, 0x77);
-  RecordingMessages messages;
-  Editor editor(messages, disk.Opener());
-  editor.image.SetPath("image");
-  editor.image.SetTeamBase(1);
-  editor.grid.SetText(Column::kText10, 0, "201");
-  editor.grid.SetText(Column::kText11, 0, "201");
-  editor.grid.SetText(Column::kText10, 1, "x");
-  editor.saver.Save();
+  kept = {};
+  grid = {};
+  image.SetPath("image");
+  image.SetTeamBase(1);
+  grid.SetText({Column::kText10, 0}, "201");
+  grid.SetText({Column::kText11, 0}, "201");
+  grid.SetText({Column::kText10, 1}, "x");
+  Save();
   // No number text at all, then the untouched buffer, beside the flags of the ten pitchers.
   std::vector<ByteAccess> expected = {{1 + 26, 0}, {1 + 28, 0}, {33 + 26, 0}};
   for (int row = 15; row < 25; ++row) expected.push_back({1 + 32 * row + 17, 0});

@@ -9,13 +9,13 @@
 namespace morlek {
 namespace {
 
-class TeamSaverFailure : public EditorTest {
+class TeamSaverFailure : public TeamTest {
  protected:
   void ExpectNothingButTheMessage() {
     Save();
     EXPECT_TRUE(disk.writes.empty());
     EXPECT_EQ(messages.Texts(), std::vector<std::string>{kSaved});
-    EXPECT_FALSE(editor.channel.is_open());
+    EXPECT_FALSE(channel.is_open());
   }
 
   void FillAll(const std::string& name, const std::string& text) {
@@ -72,16 +72,16 @@ TEST_F(TeamSaverFailure, WritesInTheOrderOfTheSteps) {
   std::vector<std::int64_t> positions;
   for (const ByteAccess& write : disk.writes) positions.push_back(write.position);
   EXPECT_EQ(positions, expected);
-  EXPECT_FALSE(editor.channel.is_open());
+  EXPECT_FALSE(channel.is_open());
 }
 
 TEST_F(TeamSaverFailure, NothingIsWrittenWithoutATeamOrAnImage) {
   for (int row = 0; row < 25; ++row) Type({{row, 1, "A.B"}, {row, 3, "7"}});
   ExpectNothingButTheMessage();
   Load("Braves");
-  editor.image.SetPath("");
+  image.SetPath("");
   ExpectNothingButTheMessage();
-  editor.image.SetPath(kImage);
+  image.SetPath(kImage);
   disk.files.clear();
   ExpectNothingButTheMessage();
   EXPECT_TRUE(disk.files.empty());
@@ -89,22 +89,22 @@ TEST_F(TeamSaverFailure, NothingIsWrittenWithoutATeamOrAnImage) {
 
 TEST_F(TeamSaverFailure, AStuckChannelIsClosedAndItsFileUntouched) {
   Load("Braves");
-  disk.files["stuck"] = image();
-  ASSERT_TRUE(editor.channel.OpenBinary("stuck"));
-  EXPECT_FALSE(editor.image.WriteField(0, 0, 1));
+  disk.files["stuck"] = file();
+  ASSERT_TRUE(channel.OpenBinary("stuck"));
+  EXPECT_FALSE(image.WriteField(0, 0, 1));
   ExpectNothingButTheMessage();
-  ASSERT_TRUE(editor.channel.OpenTextInput("stuck"));
+  ASSERT_TRUE(channel.OpenTextInput("stuck"));
   ExpectNothingButTheMessage();
-  ASSERT_TRUE(editor.channel.OpenTextOutput("text"));
+  ASSERT_TRUE(channel.OpenTextOutput("text"));
   ExpectNothingButTheMessage();
-  ASSERT_TRUE(editor.channel.OpenBinary(kImage));
+  ASSERT_TRUE(channel.OpenBinary(kImage));
   ExpectNothingButTheMessage();
 }
 
 TEST_F(TeamSaverFailure, TheCodecsRunWhereNothingCanBeWritten) {
   Load("Braves");
   Type({{0, 3, "77"}, {24, 2, "SS"}, {3, 1, "?.X"}});
-  ASSERT_TRUE(editor.channel.OpenTextInput(kImage));
+  ASSERT_TRUE(channel.OpenTextInput(kImage));
   Save();
   EXPECT_EQ(messages.Texts(), (std::vector<std::string>{kUnknownLetter, kSaved}));
   Type({{0, 3, "x"}, {0, 2, "x"}});

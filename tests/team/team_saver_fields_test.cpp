@@ -11,7 +11,7 @@ namespace {
 /// The first save of a run, from the plain record with some cells changed, and what it writes.
 struct SaverCase {
   const char* name;
-  std::vector<Cell> cells;
+  std::vector<CellText> cells;
   std::vector<FieldByte> bytes;
 };
 
@@ -96,7 +96,7 @@ const std::vector<SaverCase> kCounts = {
     {"AllOfARowAreEncoded", {{1, 11, ""}, {1, 8, "9"}, {2, 10, "201"}}, {{2, 26, 9}}}};
 // clang-format on
 
-class TeamSaverField : public EditorTest, public ::testing::WithParamInterface<SaverCase> {};
+class TeamSaverField : public TeamTest, public ::testing::WithParamInterface<SaverCase> {};
 
 TEST_P(TeamSaverField, IsWritten) {
   Load("Braves");

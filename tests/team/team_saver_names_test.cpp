@@ -36,7 +36,7 @@ const std::vector<NameCase> kNameCases = {
     {"FirstPeriodOfTheSaveHasNoneBefore", 0, ".", {}}};
 // clang-format on
 
-class TeamSaverName : public EditorTest, public ::testing::WithParamInterface<NameCase> {};
+class TeamSaverName : public TeamTest, public ::testing::WithParamInterface<NameCase> {};
 
 TEST_P(TeamSaverName, IsWritten) {
   Load("Braves");
@@ -51,7 +51,7 @@ TEST_P(TeamSaverName, IsWritten) {
 constexpr auto kName = [](const auto& info) { return std::string(info.param.name); };
 INSTANTIATE_TEST_SUITE_P(Names, TeamSaverName, ::testing::ValuesIn(kNameCases), kName);
 
-class TeamSaverMessages : public EditorTest {
+class TeamSaverMessages : public TeamTest {
  protected:
   TeamSaverMessages() { Load("Braves"); }
 
@@ -80,7 +80,7 @@ TEST_F(TeamSaverMessages, TellOfANameThatIsTooLongAndEndTheSave) {
   Save();
   EXPECT_EQ(messages.Texts(), (Texts{kUnknownLetter, kNameTooLong}));
   EXPECT_EQ(messages.shown.back(), (Message{kNameTooLong, "MORLEK EDITOR", Message::Icon::kNone}));
-  EXPECT_FALSE(editor.channel.is_open());
+  EXPECT_FALSE(channel.is_open());
   // All initials, and the rows before it in full.
   ExpectWritten({{2, 1, 0x24}, {4, 0, 0x0F}, {4, 16, 0x04}, {5, 0, 0x1B}, {7, 0, 0x1C}});
   ExpectWritten({{9, 0, 0x13}, {24, 0, 0x23}});

@@ -23,13 +23,13 @@ class TeamDataFileTest : public ::testing::Test {
   void Import() { ImportTeamData(channel, kFile, grid); }
 
   [[nodiscard]] const std::string& Text(int column, int row) const {
-    return grid.Text(static_cast<Column>(column), row);
+    return grid.Text({static_cast<Column>(column), row});
   }
 
   void FillGrid() {
     for (int row = 0; row < 25; ++row) {
       for (int column = 1; column <= 14; ++column) {
-        grid.SetText(static_cast<Column>(column), row,
+        grid.SetText({static_cast<Column>(column), row},
                      std::to_string(row) + "." + std::to_string(column));
       }
     }

@@ -1,21 +1,21 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include "codecs/appearance_codec.h"
 #include "codecs/batting_average_codec.h"
 #include "codecs/earned_run_average_codec.h"
 #include "codecs/fielding_position_codec.h"
 #include "codecs/hand_codec.h"
-#include "codecs/message_port.h"
 #include "codecs/name_letter_codec.h"
-#include "codecs/rating_digit_codec.h"
 #include "codecs/small_number_codec.h"
 
 namespace morlek {
 
-/// The codecs with everything that they keep for the whole run, shared by loader and saver.
-struct Codecs {
-  explicit Codecs(MessagePort& messages) : name_letter(messages) {}
-
+/// Everything that loads and saves keep for the whole run, as one value: what a decoder or encoder
+/// does not know gives its last result again. A copy can be tried without a trace in the original.
+struct KeptState {
   NameLetterCodec name_letter;
   FieldingPositionCodec fielding_position;
   SmallNumberCodec small_number;
@@ -23,8 +23,12 @@ struct Codecs {
   EarnedRunAverageCodec earned_run_average;
   BattingSideCodec batting_side;
   PitcherMarksCodec pitcher_marks;
-  RatingDigitCodec rating_digits;
   AppearanceCodec appearance;
+
+  // What the last conversions of these two fields have given; until one has been converted at all,
+  // its write is not made.
+  std::optional<std::int32_t> uniform_number;
+  std::optional<std::int32_t> first_ratings;
 };
 
 }  // namespace morlek

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "image/record_layout.h"
+
+namespace morlek {
+
+/// Bytes of a team record by row (0 to 24) and offset in the row (0 to 31), each of them there or
+/// not.
+class RecordBytes {
+ public:
+  [[nodiscard]] std::optional<std::uint8_t> At(int row, int offset) const {
+    return bytes_.at(Index(row, offset));
+  }
+  void Put(int row, int offset, std::uint8_t byte) { bytes_.at(Index(row, offset)) = byte; }
+
+  /// Puts every byte that is there in `others`.
+  void PutAll(const RecordBytes& others) {
+    for (std::size_t index = 0; index < bytes_.size(); ++index) {
+      if (others.bytes_.at(index)) bytes_.at(index) = others.bytes_.at(index);
+    }
+  }
+
+  friend bool operator==(const RecordBytes&, const RecordBytes&) = default;
+
+ private:
+  static std::size_t Index(int row, int offset) {
+    return static_cast<std::size_t>(kSlotBytes * row + offset);
+  }
+
+  std::array<std::optional<std::uint8_t>, std::size_t{kSlotBytes} * kSlotCount> bytes_;
+};
+
+}  // namespace morlek

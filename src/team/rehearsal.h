@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "team/kept_state.h"
+#include "team/record_bytes.h"
+#include "team/roster_grid.h"
+
+namespace morlek {
+
+/// What would become of the grid if it were saved now and the team loaded again. It runs the real
+/// encoder and decoder on copies, in memory: no file, no message, nothing kept.
+class Rehearsal {
+ public:
+  /// `kept` is what loads and saves keep now, `known` the bytes that the image is known to hold.
+  /// Where `known` lacks a byte that a load would read, there is nothing to tell: every cell then
+  /// comes out as it stands in the grid.
+  Rehearsal(const RosterGrid& grid, KeptState kept, const RecordBytes& known);
+
+  enum class Fate {
+    kStored,      // SAVE writes the cell
+    kSkipped,     // SAVE writes nothing for the cell
+    kEndsSave,    // the cell is a name that is too long, and SAVE ends there
+    kNotReached,  // SAVE has ended before
+  };
+  [[nodiscard]] Fate FateOf(Cell cell) const;
+
+  /// What a load after SAVE would show in the cell.
+  [[nodiscard]] const std::string& TextAfter(Cell cell) const { return after_.Text(cell); }
+
+  /// The whole grid as such a load would show it.
+  [[nodiscard]] const RosterGrid& after() const { return after_; }
+
+  /// The row of the name that ends SAVE, or nothing when none does.
+  [[nodiscard]] std::optional<int> end_row() const { return end_row_; }
+
+ private:
+  RecordBytes written_;
+  std::optional<int> end_row_;
+  RosterGrid after_;
+};
+
+}  // namespace morlek
