@@ -17,6 +17,9 @@ class FieldingPositionCodec {
   /// The byte text of an abbreviation in either case; the previous result for any other text.
   const std::string& EncodeFieldingPosition(std::string_view text);
 
+  /// All abbreviations, parted by commas.
+  [[nodiscard]] static std::string Abbreviations();
+
  private:
   std::string decoded_position_;
   std::string encoded_position_code_;

@@ -45,6 +45,15 @@ void EncodeInto(std::string& result, std::span<const TextCode> table, std::strin
   }
 }
 
+std::string ListOf(std::span<const TextCode> table) {
+  std::string list;
+  for (const TextCode& row : table) {
+    if (!list.empty()) list += &row == &table.back() ? " or " : ", ";
+    list += row.text;
+  }
+  return list;
+}
+
 bool IsHand(char letter) { return letter == 'R' || letter == 'L'; }
 
 }  // namespace
@@ -59,6 +68,10 @@ const std::string& BattingSideCodec::EncodeBattingSide(int slot, std::string_vie
   EncodeInto(encoded, kSideCodes, UpperCase(text));
   return encoded;
 }
+
+std::string BattingSideCodec::Letters() { return ListOf(kSideCodes); }
+
+std::string PitcherMarks() { return ListOf(std::span(kMarkCodes).subspan(1)); }
 
 const std::string& PitcherMarksCodec::DecodePitcherMarks(std::uint8_t byte) {
   DecodeInto(decoded_marks_, kMarks, byte);

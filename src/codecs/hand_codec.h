@@ -19,10 +19,16 @@ class BattingSideCodec {
   /// last, whichever team that was.
   const std::string& EncodeBattingSide(int slot, std::string_view text);
 
+  /// All letters, in words: "R, L or S".
+  [[nodiscard]] static std::string Letters();
+
  private:
   std::string decoded_side_;
   std::array<std::string, kSlotCount> encoded_sides_;
 };
+
+/// The marks that may stand behind a pitcher's throwing hand, in words: "S, S<, ... or >".
+[[nodiscard]] std::string PitcherMarks();
 
 /// The marks behind a pitcher's throwing hand: "S", ">", "<", "S>", "S<" or none.
 class PitcherMarksCodec {

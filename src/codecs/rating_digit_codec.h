@@ -19,6 +19,11 @@ struct RatingTexts {
   std::string second;
 };
 
+/// The largest shown ratings that come back from a save: of a pair, and of one alone.
+inline constexpr int kLargestFirstRating = 10;
+inline constexpr int kLargestSecondRating = 9;
+inline constexpr int kLargestSingleRating = 100;
+
 /// The texts of both bytes; every byte has one.
 [[nodiscard]] RatingTexts FormatRatingBytes(const RatingBytes& bytes);
 

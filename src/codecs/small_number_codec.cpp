@@ -8,8 +8,6 @@
 namespace morlek {
 namespace {
 
-constexpr std::uint8_t kLargestNumber = 200;
-
 /// The number from 0 to 200 that is shown as exactly this text, or nothing.
 std::optional<std::uint8_t> ShownNumber(std::string_view text) {
   std::uint8_t number = 0;
