@@ -62,9 +62,9 @@ std::optional<double> UnsignedDecimal(std::string_view text) {
 }  // namespace
 
 std::optional<double> TextToNumber(std::string_view text) {
-  if (text.starts_with("&H") || text.starts_with("&h")) return HexDigitsToNumber(text.substr(2));
-
   text = WithoutBlanksAround(text);
+  if (text.starts_with("&H") || text.starts_with("&h")) return SignedHexToNumber(text.substr(2));
+
   const bool negative = text.starts_with('-');
   TakeOneOf(text, "+-");
   if (!IsUnsignedDecimal(text)) return std::nullopt;

@@ -7,9 +7,10 @@
 
 namespace morlek {
 
-/// Reads a decimal number: blanks around it, one sign in front, digits with at most one point, an
-/// exponent; or "&H" and hexadecimal digits alone. Nothing for any other text and for a number too
-/// large for a double. Independent of the locale.
+/// Reads a number, with blanks around it or none: one sign in front, decimal digits with at most
+/// one point, an exponent; or "&H" without a sign and hexadecimal digits as SignedHexToNumber reads
+/// them, so that "&HFFFF" is -1. Nothing for any other text and for a number too large for a
+/// double. Independent of the locale.
 [[nodiscard]] std::optional<double> TextToNumber(std::string_view text);
 
 /// The number rounded to the nearest whole (halves to even); nothing outside 0 to 255.
