@@ -1,6 +1,7 @@
 #include "shell/help_pane.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <functional>
 #include <utility>
@@ -32,7 +33,9 @@ class HelpTextBox : public QPlainTextEdit {
   // The grid below is covered, so the tab key does not go there.
   bool focusNextPrevChild(bool /*next*/) override { return true; }
 
-  void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { double_clicked_(); }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton) double_clicked_();
+  }
 
  private:
   std::function<void()> double_clicked_;

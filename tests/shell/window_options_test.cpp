@@ -80,6 +80,8 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   QTest::keyClick(&help, Qt::Key_S, Qt::ControlModifier);
   EXPECT_EQ(LabelText("Label4(0)"), team);
   EXPECT_TRUE(user.messages.empty());
+  QTest::mouseDClick(help.viewport(), Qt::RightButton);
+  EXPECT_TRUE(IsShown("Frame5"));
   DoubleClick(*help.viewport());
   EXPECT_FALSE(IsShown("Frame5"));
   EXPECT_EQ(QApplication::focusWidget(), &Box(13, 3));
