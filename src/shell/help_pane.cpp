@@ -69,8 +69,13 @@ void HelpPane::AddText() {
 
 void HelpPane::Close() {
   emit Covered(false);
-  // Likewise on the way back: the box does not take it for a new visit.
-  if (focused_before_) focused_before_->setFocus(Qt::PopupFocusReason);
+  if (focused_before_ && focused_before_->isVisible()) {
+    // Likewise on the way back: the box does not take it for a new visit.
+    focused_before_->setFocus(Qt::PopupFocusReason);
+  } else {
+    // The grid may be hidden by now, and a hidden box that has the focus takes keys.
+    text_->clearFocus();
+  }
   hide();
 }
 

@@ -89,6 +89,22 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   EXPECT_EQ(window->width(), kNarrow) << "closing the help is no visit to a features box";
 }
 
+TEST_F(WindowOptionsTest, ClosingTheHelpOverAHiddenGridGivesItNoKeys) {
+  StartWithTeam();
+  Box(12, 3).setFocus();
+  const std::vector<QString> texts = GridTexts();
+  Choose("mnuMorlekHELP");
+  user.paths.emplace_back(ImagePath());
+  Choose("mnuOpen");
+  DoubleClick(*Find<QPlainTextEdit>("Text15").viewport());
+  EXPECT_FALSE(IsShown("Frame1") || IsShown("Frame5"));
+  QTest::keyClick(window->windowHandle(), Qt::Key_X);
+  QTest::keyClick(window->windowHandle(), Qt::Key_Down);
+  EXPECT_EQ(window->focusWidget(), nullptr);
+  EXPECT_EQ(GridTexts(), texts);
+  EXPECT_EQ(window->width(), kNarrow);
+}
+
 TEST_F(WindowOptionsTest, OnTopIsTurnedOnAndOffInPlace) {
   StartWithTeam();
   const auto* native = window->windowHandle();
