@@ -122,6 +122,9 @@ void MainWindow::AddRoster() {
   });
 
   stances_ = new StancePanel(editor_.document(), content_);
+  // Who cannot reach the grid cannot pick into it either.
+  stances_->setEnabled(false);
+  connect(roster_, &RosterFrame::ReachChanged, stances_, &QWidget::setEnabled);
   stances_->stackUnder(identity_);
   stances_->show();
   connect(roster_, &RosterFrame::CellVisited, this, [this](Cell cell) {

@@ -1,5 +1,6 @@
 #include "shell/roster_frame.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -61,6 +62,19 @@ void RosterFrame::Follow(const GridChange& change) {
 
 void RosterFrame::SetTeamName(std::string_view display_name) {
   team_name_->setText(FromCodePage(display_name));
+}
+
+bool RosterFrame::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::EnabledChange:
+      emit ReachChanged(!isHidden() && isEnabled());
+      break;
+    default:
+      break;
+  }
+  return QFrame::event(event);
 }
 
 void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int top) {

@@ -28,8 +28,14 @@ class RosterFrame : public QFrame {
  signals:
   void SaveRequested();
 
+  /// The grid can now be reached by mouse and keys, or can no more: it is hidden or disabled.
+  void ReachChanged(bool reachable);
+
   /// The box of this cell received the focus, or was clicked again.
   void CellVisited(Cell cell);
+
+ protected:
+  bool event(QEvent* event) override;
 
  private:
   void AddHeaders(const BlockColumns& columns, int first_index, int top);

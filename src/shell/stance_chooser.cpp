@@ -52,6 +52,7 @@ class StancePicture : public QAbstractButton {
     constexpr int kCodePixels = 9;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled()) painter.setOpacity(0.5);
 
     const bool lit = marked_ || underMouse();
     const qreal line = marked_ ? 2 : 1;

@@ -1,3 +1,6 @@
+#include <QAbstractButton>
+#include <QPlainTextEdit>
+
 #include "shell/window_fixture.h"
 
 namespace morlek {
@@ -46,6 +49,30 @@ TEST_F(StancePanelTest, PickingMovesNothingAndSavesOnlyWithSave) {
   EXPECT_TRUE(ChangedPositions().empty());
   Click("Command1");
   EXPECT_EQ(GetFile(ImageFile()).at(kBraves - 1 + 32 * 17 + 14), 0x03);
+}
+
+TEST_F(StancePanelTest, PicturesCannotBePickedWhileTheGridIsHiddenOrCovered) {
+  StartWithTeam();
+  Box(12, 0).setFocus();
+  const auto pick = [this](int index) {
+    Find<QAbstractButton>(Picture(1, index)).click();
+    return Box(12, 0).text();
+  };
+  ASSERT_EQ(pick(36), "3");
+  Choose("mnuMorlekHELP");
+  EXPECT_EQ(pick(12), "3") << "under the help";
+  DoubleClick(*Find<QPlainTextEdit>("Text15").viewport());
+  EXPECT_EQ(pick(12), "1");
+
+  std::filesystem::remove(ImageFile());
+  Click("Braves");
+  EXPECT_EQ(pick(36), "1") << "after a failed load";
+  PutFile(ImageFile(), Sample());
+  Click("Braves");
+  EXPECT_EQ(pick(36), "3");
+  user.paths.emplace_back(ImagePath());
+  Choose("mnuOpen");
+  EXPECT_EQ(pick(12), "3") << "after another image";
 }
 
 TEST_F(StancePanelTest, ThreeColumnsShareTheStanceRow) {
