@@ -98,7 +98,7 @@ StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent) : QFrame(
   }
 }
 
-void StanceChooser::Mark(std::optional<std::uint32_t> code) {
+void StanceChooser::Mark(std::optional<int> code) {
   for (StancePicture* picture : pictures_) picture->SetMarked(code == picture->code());
 }
 

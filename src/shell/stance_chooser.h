@@ -29,8 +29,8 @@ class StanceChooser : public QFrame {
  public:
   StanceChooser(const ChooserKind& kind, QWidget* parent);
 
-  /// Marks the picture of this code and no other.
-  void Mark(std::optional<std::uint32_t> code);
+  /// Marks the picture of this code and no other; none for no code and for one without a picture.
+  void Mark(std::optional<int> code);
 
  signals:
   /// A picture was clicked; the text is its code in hexadecimal without a leading zero.

@@ -1,7 +1,10 @@
 #include "shell/stance_panel.h"
 
 #include <algorithm>
+#include <limits>
+#include <optional>
 
+#include "codecs/appearance_codec.h"
 #include "codecs/hex_text.h"
 #include "shell/code_page_text.h"
 #include "shell/stance_chooser.h"
@@ -24,6 +27,14 @@ constexpr std::array<ChooserKind, 3> kKinds = {{
     {StancePiece::kBody, "Frame3", "Picture2", "Label2", "Body", ""},
     {StancePiece::kLegs, "Frame4", "Picture3", "Label5", "Legs", ""},
 }};
+
+/// The byte that SAVE makes of a features text, or nothing.
+std::optional<int> StoredCode(const std::string& text) {
+  AppearanceCodec codec;
+  const std::optional<std::int32_t> code = ByteTextToNumber(codec.NormalizeAppearanceCode(text));
+  if (!code || *code < 0 || *code > std::numeric_limits<std::uint8_t>::max()) return std::nullopt;
+  return code;
+}
 
 }  // namespace
 
@@ -70,7 +81,7 @@ void StancePanel::AddChooser(std::size_t place) {
 
 void StancePanel::ShowStanceRow() {
   const auto code_of = [this](Column column) {
-    return HexDigitsToNumber(document_.grid().Text({column, stance_row_}));
+    return StoredCode(document_.grid().Text({column, stance_row_}));
   };
   for (std::size_t place = 0; place < choosers_.size(); ++place) {
     choosers_.at(place)->Mark(code_of(kFeatures.at(place)));

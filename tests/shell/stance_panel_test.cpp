@@ -98,6 +98,13 @@ TEST_F(StancePanelTest, CurrentPictureIsMarkedAndTheStanceFollows) {
   EXPECT_NE(Look(Picture(1, 36)), unmarked);
   EXPECT_NE(Look("StanceView"), stance);
 
+  // A code is what SAVE makes of the text, however long it is.
+  const QImage marked = Look(Picture(1, 36));
+  const QImage with_face = Look("StanceView");
+  TypeInto(12, 2, "FFFF0003");
+  EXPECT_EQ(Look(Picture(1, 36)), marked);
+  EXPECT_EQ(Look("StanceView"), with_face);
+
   // Codes without a picture mark none and leave their piece blank, whatever was there before.
   TypeInto(12, 2, "F0");
   EXPECT_EQ(Look(Picture(1, 36)), unmarked);
