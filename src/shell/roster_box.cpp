@@ -18,8 +18,9 @@ QString ObjectNameOf(Column column, int row) {
   return QString("Text%1(%2)").arg(static_cast<int>(column)).arg(row);
 }
 
-/// Whether the focus comes back from a menu or another window, which is no new visit.
-bool IsReturn(Qt::FocusReason reason) {
+/// Whether the focus goes to a menu or another window, or comes back from there, which is no new
+/// visit.
+bool IsShortAbsence(Qt::FocusReason reason) {
   return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
          reason == Qt::MenuBarFocusReason;
 }
@@ -75,10 +76,9 @@ void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
 void RosterBox::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   raise();
-  if (IsReturn(event->reason())) {
-    if (selection_before_.length > 0) {
-      setSelection(selection_before_.start, selection_before_.length);
-    }
+  // A window gives its focus to the first box when no box has it: that is no return.
+  if (IsShortAbsence(event->reason()) && left_selection_) {
+    if (left_selection_->length > 0) setSelection(left_selection_->start, left_selection_->length);
     return;
   }
   swallowing_press_ = event->reason() == Qt::MouseFocusReason;
@@ -88,9 +88,16 @@ void RosterBox::focusInEvent(QFocusEvent* event) {
 
 void RosterBox::focusOutEvent(QFocusEvent* event) {
   swallowing_press_ = false;
+  left_selection_.reset();
   // The line editor itself drops the selection when the menu bar takes the focus.
-  selection_before_ = {selectionStart(), selectionLength()};
+  if (IsShortAbsence(event->reason())) left_selection_ = {selectionStart(), selectionLength()};
   QLineEdit::focusOutEvent(event);
+}
+
+void RosterBox::hideEvent(QHideEvent* event) {
+  // A window that is minimized comes back as it was left; a grid that is hidden does not.
+  if (!event->spontaneous()) left_selection_.reset();
+  QLineEdit::hideEvent(event);
 }
 
 void RosterBox::keyPressEvent(QKeyEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLineEdit>
+#include <optional>
 
 #include "team/grid_columns.h"
 
@@ -34,6 +35,7 @@ class RosterBox : public QLineEdit {
   void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -58,7 +60,8 @@ class RosterBox : public QLineEdit {
   // True from the mouse press that gave the focus up to its release: it must not drop the
   // selection.
   bool swallowing_press_ = false;
-  Selection selection_before_;
+  // While the focus is away in a menu or another window: what to select when it returns.
+  std::optional<Selection> left_selection_;
 };
 
 }  // namespace morlek

@@ -15,6 +15,15 @@ class RosterBoxTest : public WindowTest {
     QTest::mouseClick(&box, Qt::LeftButton);
     box.paste();
   }
+
+  static void Leave(QLineEdit& box, Qt::FocusReason reason) {
+    QFocusEvent out(QEvent::FocusOut, reason);
+    QApplication::sendEvent(&box, &out);
+  }
+  static void Return(QLineEdit& box, Qt::FocusReason reason) {
+    QFocusEvent in(QEvent::FocusIn, reason);
+    QApplication::sendEvent(&box, &in);
+  }
 };
 
 TEST_F(RosterBoxTest, FocusSelectsTheWholeText) {
@@ -36,6 +45,27 @@ TEST_F(RosterBoxTest, LoadedTextIsReplacedByTyping) {
   EXPECT_EQ(Box(1, 0).text(), "N.NEW");
 }
 
+TEST_F(RosterBoxTest, FocusThatTheWindowGivesByItselfSelectsToo) {
+  StartWithTeam();
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  other.close();
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  EXPECT_EQ(QApplication::focusWidget(), &Box(1, 0));
+  EXPECT_EQ(Box(1, 0).selectedText(), Box(1, 0).text());
+
+  // Nor is it a return when the box was out of sight in the meantime.
+  Box(1, 0).deselect();
+  Leave(Box(1, 0), Qt::ActiveWindowFocusReason);
+  Find("Frame1").hide();
+  Find("Frame1").show();
+  Return(Box(1, 0), Qt::ActiveWindowFocusReason);
+  EXPECT_EQ(Box(1, 0).selectedText(), Box(1, 0).text());
+}
+
 TEST_F(RosterBoxTest, ReturnFromAMenuOrAnotherWindowKeepsTheSelection) {
   StartWithTeam();
   QLineEdit& box = Box(1, 0);
@@ -43,10 +73,8 @@ TEST_F(RosterBoxTest, ReturnFromAMenuOrAnotherWindowKeepsTheSelection) {
        {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason, Qt::MenuBarFocusReason}) {
     box.setFocus();
     box.setSelection(1, 2);
-    QFocusEvent out(QEvent::FocusOut, reason);
-    QFocusEvent in(QEvent::FocusIn, reason);
-    QApplication::sendEvent(&box, &out);
-    QApplication::sendEvent(&box, &in);
+    Leave(box, reason);
+    Return(box, reason);
     EXPECT_EQ(box.selectedText(), box.text().mid(1, 2)) << reason;
   }
 }
