@@ -125,6 +125,7 @@ void MainWindow::AddRoster() {
   // Who cannot reach the grid cannot pick into it either.
   stances_->setEnabled(false);
   connect(roster_, &RosterFrame::ReachChanged, stances_, &QWidget::setEnabled);
+  connect(stances_, &StancePanel::Picked, roster_, &RosterFrame::SelectForTyping);
   stances_->stackUnder(identity_);
   stances_->show();
   connect(roster_, &RosterFrame::CellVisited, this, [this](Cell cell) {

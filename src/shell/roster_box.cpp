@@ -49,6 +49,16 @@ RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
   connect(this, &QLineEdit::textEdited, this, &RosterBox::DropLineBreaks);
 }
 
+void RosterBox::ShowText(const QString& text) {
+  setText(text);
+  SelectForTyping();
+}
+
+void RosterBox::SelectForTyping() {
+  if (left_selection_) left_selection_ = {0, static_cast<int>(text().size())};
+  if (hasFocus()) selectAll();
+}
+
 void RosterBox::PaintPanel(QPainter& painter) const {
   const bool is_odd = (IsPitcher(row_) ? row_ - kBatterCount : row_) % 2 != 0;
   painter.fillRect(rect(), is_odd && !hasFocus() ? theme::kOddRow : theme::kBase);

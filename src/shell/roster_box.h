@@ -19,6 +19,14 @@ class RosterBox : public QLineEdit {
   [[nodiscard]] Column column() const { return column_; }
   [[nodiscard]] int row() const { return row_; }
 
+  /// Shows a text that was not typed here. Typing replaces it, now or when the focus returns, as
+  /// after a visit.
+  void ShowText(const QString& text);
+
+  /// Selects the whole text if the box has the focus, or for the return of the focus from a menu or
+  /// another window; does nothing for a box without the focus.
+  void SelectForTyping();
+
   /// Paints the box as a cell of the sheet: neighbours share their border lines.
   void PaintPanel(QPainter& painter) const;
 

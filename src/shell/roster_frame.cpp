@@ -56,8 +56,12 @@ void RosterFrame::Follow(const GridChange& change) {
   for (const CellChange& part : change) {
     RosterBox& box = *boxes_.at(IndexOf(part.cell));
     const QString shown = FromCodePage(part.after);
-    if (box.text() != shown) box.setText(shown);
+    if (box.text() != shown) box.ShowText(shown);
   }
+}
+
+void RosterFrame::SelectForTyping(Cell cell) {
+  boxes_.at(IndexOf(cell))->SelectForTyping();
 }
 
 void RosterFrame::SetTeamName(std::string_view display_name) {

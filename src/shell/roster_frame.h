@@ -23,6 +23,10 @@ class RosterFrame : public QFrame {
   /// The document outlives the frame.
   RosterFrame(RosterDocument& document, QWidget* parent);
 
+  /// Selects the text of a cell of row 0 to 24 if its box has the focus, so that typing replaces
+  /// it.
+  void SelectForTyping(Cell cell);
+
   void SetTeamName(std::string_view display_name);
 
  signals:

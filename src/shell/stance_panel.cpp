@@ -75,6 +75,7 @@ void StancePanel::AddChooser(std::size_t place) {
     RosterGrid grid = document_.grid();
     grid.SetText({kFeatures.at(place), stance_row_}, ToCodePage(code_text));
     document_.Replace(grid);
+    emit Picked({kFeatures.at(place), stance_row_});
   });
   choosers_.at(place) = chooser;
 }

@@ -26,6 +26,10 @@ class StancePanel : public QWidget {
   /// the stance row, into which all three choosers put their codes.
   void Choose(Cell cell);
 
+ signals:
+  /// A picture was clicked; its code stands in this cell of the stance row now.
+  void Picked(Cell cell);
+
  private:
   void AddChooser(std::size_t place);
   void ShowStanceRow();

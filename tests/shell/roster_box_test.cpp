@@ -45,6 +45,22 @@ TEST_F(RosterBoxTest, LoadedTextIsReplacedByTyping) {
   EXPECT_EQ(Box(1, 0).text(), "N.NEW");
 }
 
+TEST_F(RosterBoxTest, ImportedTextIsReplacedByTypingAlsoBelowTheDialog) {
+  StartWithTeam();
+  std::string lines;
+  for (int row = 0; row < 25; ++row) lines += "I.MPORTED,\r\n";
+  PutFile(folder / "team.txt", lines);
+  QLineEdit& box = Box(1, 0);
+  for (const bool away : {false, true}) {
+    TypeInto(1, 0, "OLD");
+    if (away) Leave(box, Qt::ActiveWindowFocusReason);
+    user.paths.emplace_back(PathOf("team.txt"));
+    Choose("mnuImport");
+    if (away) Return(box, Qt::ActiveWindowFocusReason);
+    EXPECT_EQ(box.selectedText(), "I.MPORTED") << away;
+  }
+}
+
 TEST_F(RosterBoxTest, FocusThatTheWindowGivesByItselfSelectsToo) {
   StartWithTeam();
   QWidget other;

@@ -51,6 +51,24 @@ TEST_F(StancePanelTest, PickingMovesNothingAndSavesOnlyWithSave) {
   EXPECT_EQ(GetFile(ImageFile()).at(kBraves - 1 + 32 * 17 + 14), 0x03);
 }
 
+TEST_F(StancePanelTest, TypingAfterAPickReplacesIt) {
+  StartWithTeam();
+  QLineEdit& box = Box(12, 17);
+  box.setFocus();
+  for (int picks = 0; picks < 2; ++picks) {
+    box.deselect();
+    Click(Picture(1, 36));
+    EXPECT_EQ(box.selectedText(), "3") << "also where the text stays the same";
+  }
+  QTest::keyClicks(&box, "5");
+  EXPECT_EQ(box.text(), "5");
+
+  Box(1, 9).setFocus();
+  Box(1, 9).setSelection(1, 2);
+  Click(Picture(1, 0));
+  EXPECT_EQ(Box(1, 9).selectionLength(), 2) << "another box keeps its selection";
+}
+
 TEST_F(StancePanelTest, PicturesCannotBePickedWhileTheGridIsHiddenOrCovered) {
   StartWithTeam();
   Box(12, 0).setFocus();
