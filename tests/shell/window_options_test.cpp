@@ -68,6 +68,8 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   EXPECT_EQ(Find("Text15").geometry(), QRect(4, 4, 433, 625));
 
   auto& help = Find<QPlainTextEdit>("Text15");
+  EXPECT_TRUE(help.toPlainText().startsWith("::::::::::::::\nMORLEK EDITOR\n"));
+  EXPECT_TRUE(help.toPlainText().endsWith(".\n\n\nDOUBLE CLICK TO CLOSE HELP"));
   QTest::mouseClick(help.viewport(), Qt::LeftButton);
   QTest::keyClick(&help, Qt::Key_Escape);
   QTest::keyClicks(&help, "x");
