@@ -43,28 +43,24 @@ class HelpTextBox : public QPlainTextEdit {
 
 }  // namespace
 
-HelpPane::HelpPane(QWidget* parent) : QFrame(parent) {
+HelpPane::HelpPane(QWidget* parent)
+    : QFrame(parent), text_(new HelpTextBox(this, [this] { Close(); })) {
   setObjectName("Frame5");
   setAccessibleName("help pane");
   setGeometry(RectFromTwips(0, 0, 6615, 9495));
   setAutoFillBackground(true);
+  text_->setGeometry(RectFromTwips(60, 60, 6495, 9375));
   hide();
 }
 
 void HelpPane::Open() {
   if (isVisible()) return;
-  if (text_ == nullptr) AddText();
   focused_before_ = QApplication::focusWidget();
   show();
   raise();
   // As if it were a menu: the box that had the focus keeps its selection.
   text_->setFocus(Qt::PopupFocusReason);
   emit Covered(true);
-}
-
-void HelpPane::AddText() {
-  text_ = new HelpTextBox(this, [this] { Close(); });
-  text_->setGeometry(RectFromTwips(60, 60, 6495, 9375));
 }
 
 void HelpPane::Close() {

@@ -7,14 +7,17 @@ class QPlainTextEdit;
 
 namespace morlek {
 
-/// The help text over the grid; a double-click on it is the only way to close it.
+/// The help text over the grid; a double-click on it with the left button is the only way to close
+/// it. Hidden at first.
 class HelpPane : public QFrame {
   Q_OBJECT
 
  public:
+  /// The pane covers the grid area of its parent.
   explicit HelpPane(QWidget* parent);
 
   /// Shows the pane and gives it the keyboard, so that it can be scrolled; shown already, it stays.
+  /// When it is closed, the focus goes back where it was, if that is still in sight.
   void Open();
 
  signals:
@@ -22,11 +25,9 @@ class HelpPane : public QFrame {
   void Covered(bool covered);
 
  private:
-  void AddText();
   void Close();
 
-  // Null until the pane is first opened: the window need not wait for its text.
-  QPlainTextEdit* text_ = nullptr;
+  QPlainTextEdit* text_;
   QPointer<QWidget> focused_before_;
 };
 

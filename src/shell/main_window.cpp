@@ -107,9 +107,6 @@ void MainWindow::BuildContent() {
   connect(toolbar_, &TeamToolbar::TeamPicked, this, &MainWindow::LoadTeam);
 
   identity_->raise();
-  help_ = new HelpPane(content_);
-  // What the pane covers is not reached by keys either.
-  connect(help_, &HelpPane::Covered, toolbar_, &QWidget::setDisabled);
 }
 
 void MainWindow::AddRoster() {
@@ -135,7 +132,6 @@ void MainWindow::AddRoster() {
     stances_->Choose(cell);
     SetContentWidth(kWideWidth);
   });
-  connect(help_, &HelpPane::Covered, roster_, &QWidget::setDisabled);
 }
 
 QLabel* MainWindow::AddLabel(const char* name, const QRect& place) {
@@ -197,8 +193,7 @@ void MainWindow::Run(Command command) {
       SetAlwaysOnTop(false);
       break;
     case Command::kHelp:
-      scroll_->verticalScrollBar()->setValue(0);
-      help_->Open();
+      OpenHelp();
       break;
   }
 }
@@ -228,6 +223,17 @@ void MainWindow::SetAlwaysOnTop(bool on_top) {
   }
   findChild<QAction*>("mnuAlwaysOnTop")->setVisible(!on_top);
   findChild<QAction*>("mnuNotTop")->setVisible(on_top);
+}
+
+void MainWindow::OpenHelp() {
+  if (help_ == nullptr) {
+    help_ = new HelpPane(content_);
+    // What the pane covers is not reached by keys either.
+    connect(help_, &HelpPane::Covered, toolbar_, &QWidget::setDisabled);
+    connect(help_, &HelpPane::Covered, roster_, &QWidget::setDisabled);
+  }
+  scroll_->verticalScrollBar()->setValue(0);
+  help_->Open();
 }
 
 void MainWindow::Quit() {

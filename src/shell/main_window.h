@@ -53,6 +53,7 @@ class MainWindow : public QMainWindow, private EditorView {
   void OpenFirstImage();
   void ExportTeam();
   void SetAlwaysOnTop(bool on_top);
+  void OpenHelp();
   void Quit();
   void ShowAbout();
   void LoadTeam(std::string_view toolbar_key);
@@ -74,9 +75,10 @@ class MainWindow : public QMainWindow, private EditorView {
   // There from the answer to the first question on, which is asked over the painted window.
   RosterFrame* roster_ = nullptr;
   StancePanel* stances_ = nullptr;
-  HelpPane* help_ = nullptr;
   QLabel* identity_ = nullptr;
   QLabel* hint_ = nullptr;
+  // Made when they are first needed: the start does not wait for them.
+  HelpPane* help_ = nullptr;
   std::unique_ptr<clsOnTop> on_top_;
 };
 

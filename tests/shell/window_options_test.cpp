@@ -60,7 +60,7 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   StartWithTeam();
   QTest::mouseClick(&Box(13, 3), Qt::LeftButton);
   Choose("mnuMini");
-  EXPECT_FALSE(IsShown("Frame5"));
+  EXPECT_EQ(window->findChild<QWidget*>("Frame5"), nullptr) << "the start waits for the help";
   Choose("mnuMorlekHELP");
   Choose("mnuMorlekHELP");
   EXPECT_TRUE(IsShown("Frame5"));
