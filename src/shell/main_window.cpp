@@ -72,6 +72,7 @@ void MainWindow::BuildMenus() {
     menu->setObjectName(table.name);
     for (const MenuItem& item : table.items) {
       QAction* action = menu->addAction(item.caption);
+      items_[item.command] = action;
       action->setObjectName(item.name);
       action->setShortcut(item.key);
       action->setVisible(item.command != Command::kNotOnTop);
@@ -221,8 +222,8 @@ void MainWindow::SetAlwaysOnTop(bool on_top) {
   } else {
     on_top_->MakeNotTopmost(*windowHandle());
   }
-  findChild<QAction*>("mnuAlwaysOnTop")->setVisible(!on_top);
-  findChild<QAction*>("mnuNotTop")->setVisible(on_top);
+  items_.at(Command::kAlwaysOnTop)->setVisible(!on_top);
+  items_.at(Command::kNotOnTop)->setVisible(on_top);
 }
 
 void MainWindow::OpenHelp() {

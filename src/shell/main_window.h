@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <map>
 #include <memory>
 
 #include "editor/editor.h"
@@ -69,6 +70,7 @@ class MainWindow : public QMainWindow, private EditorView {
   Editor& editor_;
   User& user_;
 
+  std::map<Command, QAction*> items_;  // all menu items
   QScrollArea* scroll_ = nullptr;
   QWidget* content_ = nullptr;
   TeamToolbar* toolbar_ = nullptr;
