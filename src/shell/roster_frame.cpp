@@ -21,8 +21,8 @@ constexpr int kPitcherTop = 5760;
 constexpr int kRowStep = 300;
 constexpr int kBoxHeight = 315;  // neighbours share their border line
 
-constexpr int kFirstBatterHeader = 1;
-constexpr int kFirstPitcherHeader = 15;
+constexpr int kFirstBatterHeader = 1;  // 0 is the team name
+constexpr int kFirstPitcherHeader = kFirstBatterHeader + kColumnCount;
 
 int TopOfRow(int row) {
   return IsPitcher(row) ? kPitcherTop + kRowStep * (row - kBatterCount)

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "image/team_directory.h"
 #include "shell/painted_icon.h"
 #include "shell/theme.h"
 
@@ -18,7 +19,7 @@ struct BadgeLook {
   QColor trim;
 };
 
-constexpr std::array<BadgeLook, 28> kBadges = {{
+constexpr std::array<BadgeLook, kTeamDirectory.size()> kBadges = {{
     {"Braves", "ATL", {0x13, 0x27, 0x4f}, {0xce, 0x11, 0x41}},
     {"Orioles", "BAL", {0xdf, 0x46, 0x01}, {0x1a, 0x1a, 0x1a}},
     {"Red Sox", "BOS", {0xbd, 0x30, 0x39}, {0x0c, 0x23, 0x40}},
@@ -48,6 +49,8 @@ constexpr std::array<BadgeLook, 28> kBadges = {{
     {"Rangers", "TEX", {0x00, 0x32, 0x78}, {0xc0, 0x11, 0x1f}},
     {"Blue Jays", "TOR", {0x13, 0x4a, 0x8e}, {0xe8, 0x29, 0x1c}},
 }};
+static_assert(std::ranges::equal(kBadges, kTeamDirectory, {}, &BadgeLook::key, &Team::key),
+              "one badge a team, in the directory's order");
 
 void PaintBadge(QPainter& painter, const QRectF& target, const BadgeLook& look) {
   constexpr qreal kTrimPart = 0.16;

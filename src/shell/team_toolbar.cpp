@@ -12,7 +12,9 @@
 namespace morlek {
 namespace {
 
+constexpr int kTeams = kTeamDirectory.size();
 constexpr int kButtonsInRow = 14;
+constexpr int kRows = (kTeams + kButtonsInRow - 1) / kButtonsInRow;
 constexpr int kButtonWidth = 31;
 constexpr int kButtonHeight = 23;
 
@@ -48,7 +50,7 @@ class TeamButton : public QAbstractButton {
 TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
   setObjectName("Toolbar1");
   setAccessibleName("teams");
-  setFixedSize(kButtonsInRow * kButtonWidth, 2 * kButtonHeight);
+  setFixedSize(kButtonsInRow * kButtonWidth, kRows * kButtonHeight);
 
   const auto* badges = new TeamBadges(this);
   int place = 0;
@@ -67,7 +69,7 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
 }
 
 void TeamToolbar::Pick(int place) {
-  if (place < 0 || place >= static_cast<int>(kTeamDirectory.size())) return;
+  if (place < 0 || place >= kTeams) return;
   picked_ = place;
   emit TeamPicked(kTeamDirectory.at(static_cast<std::size_t>(place)).key);
 }
