@@ -2,11 +2,11 @@
 
 #include <QEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QShortcut>
 #include <algorithm>
 
 #include "shell/code_page_text.h"
+#include "shell/filled_button.h"
 #include "shell/roster_box.h"
 #include "shell/theme.h"
 #include "shell/twips.h"
@@ -29,10 +29,6 @@ int TopOfRow(int row) {
                         : kBatterTop + kRowStep * row;
 }
 
-QPalette WithColor(QPalette palette, QPalette::ColorRole role, const QColor& color) {
-  palette.setColor(role, color);
-  return palette;
-}
 
 }  // namespace
 
@@ -83,6 +79,9 @@ bool RosterFrame::event(QEvent* event) {
 
 void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int top) {
   constexpr int kPixels = 11;
+  QPalette colors = palette();
+  colors.setColor(QPalette::Window, theme::kHeaderBand);
+  colors.setColor(QPalette::WindowText, theme::kHeaderText);
   int index = first_index;
   for (const GridColumn& column : columns) {
     auto* label = new QLabel(FromCodePage(column.caption), this);
@@ -93,8 +92,7 @@ void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int t
         RectFromTwips(column.left, top, column.width, kBatterTop - kBatterHeaderTop));
     label->setFont(theme::Font(kPixels, QFont::DemiBold));
     label->setAutoFillBackground(true);
-    label->setPalette(WithColor(WithColor(palette(), QPalette::Window, theme::kHeaderBand),
-                                QPalette::WindowText, theme::kHeaderText));
+    label->setPalette(colors);
     if (column.column == Column::kText1) {
       label->setIndent(4);
     } else {
@@ -129,13 +127,11 @@ void RosterFrame::AddTeamNameAndSave() {
   team_name_->setGeometry(RectFromTwips(0, 60, 4140, 375));
   team_name_->setFont(theme::Font(kNamePixels, QFont::Bold));
 
-  auto* save = new QPushButton("SAVE", this);
+  auto* save = new FilledButton("SAVE", this);
   save->setObjectName("Command1");
   save->setAccessibleName("SAVE");
   save->setGeometry(RectFromTwips(4200, 60, 2295, 375));
   save->setFont(theme::Font(kSavePixels, QFont::Bold));
-  save->setPalette(WithColor(WithColor(palette(), QPalette::Button, theme::kAccent),
-                             QPalette::ButtonText, theme::kBase));
   connect(save, &QPushButton::clicked, this, &RosterFrame::SaveRequested);
   connect(new QShortcut(Qt::CTRL | Qt::Key_S, this), &QShortcut::activated, this,
           &RosterFrame::SaveRequested);

@@ -4,6 +4,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "shell/filled_button.h"
 #include "shell/painted_icon.h"
 #include "shell/roster_box.h"
 #include "shell/theme.h"
@@ -11,9 +12,9 @@
 namespace morlek {
 namespace {
 
-/// A flat button in its palette's colour: the default button has an outline of the accent colour,
-/// and a button whose own colour is the accent is filled with it.
-void PaintButton(QPainter& painter, const QStyleOption& option) {
+/// A flat button in its palette's colour. The default button has an outline of the accent colour,
+/// and so has a filled one, which answers the mouse in shades of its own colour.
+void PaintButton(QPainter& painter, const QStyleOption& option, bool filled) {
   constexpr qreal kRadius = 4;
   const bool pressed = option.state.testFlag(QStyle::State_Sunken);
   const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
@@ -23,7 +24,6 @@ void PaintButton(QPainter& painter, const QStyleOption& option) {
   const bool focused = option.state.testFlag(QStyle::State_HasFocus);
 
   QColor fill = option.palette.color(QPalette::Button);
-  const bool filled = fill == theme::kAccent;
   if (filled) {
     if (pressed) {
       fill = fill.darker(120);
@@ -73,7 +73,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     }
   }
   if (element == PE_PanelButtonCommand) {
-    PaintButton(*painter, *option);
+    PaintButton(*painter, *option, qobject_cast<const FilledButton*>(widget) != nullptr);
     return;
   }
   // The focus of a button is part of its panel.
