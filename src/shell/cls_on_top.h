@@ -8,7 +8,9 @@ namespace morlek {
 /// Wayland knows no such request.
 class clsOnTop {
  public:
+  /// The window stands on the screen, or is about to, and is not made anew.
   static void MakeTopmost(QWindow& window);
+  /// Back to its place among the others; does no harm to a window that is there already.
   static void MakeNotTopmost(QWindow& window);
 };
 

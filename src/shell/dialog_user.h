@@ -11,12 +11,12 @@ class QFileDialog;
 namespace morlek {
 
 /// The real user, asked by the toolkit's dialogs, all modal. File dialogs open in the folder that
-/// was used last, the first one in the working directory.
+/// was used last, the first one in the working directory; nothing of it is kept between runs.
 class DialogUser : public User {
  public:
   DialogUser();
 
-  /// The window over which dialogs stand.
+  /// The window over which dialogs stand from now on; null, or a window that is gone, is none.
   void SetWindow(QWidget* window) { window_ = window; }
 
   [[nodiscard]] std::optional<QString> AskOpenPath(const FileQuestion& question) override;

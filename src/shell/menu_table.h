@@ -29,6 +29,7 @@ struct MenuItem {
   QKeyCombination key;
 };
 
+/// A menu of the menu bar: its object name, its caption, its items from top to bottom.
 struct MenuTable {
   const char* name;
   const char* caption;

@@ -13,7 +13,7 @@ class RosterBox : public QLineEdit {
   Q_OBJECT
 
  public:
-  /// Row 0 to 24.
+  /// An empty box of this column, whose texts are literals, in row 0 to 24.
   RosterBox(const GridColumn& column, int row, QWidget* parent);
 
   [[nodiscard]] Column column() const { return column_; }
@@ -35,7 +35,7 @@ class RosterBox : public QLineEdit {
   /// or the box was clicked while it had the focus.
   void Visited();
 
-  /// Up (-1) or Down (+1) was pressed.
+  /// Up (-1) or Down (+1) was pressed, also where no row follows.
   void RowStepRequested(int rows);
 
  protected:

@@ -27,9 +27,12 @@ class RosterFrame : public QFrame {
   /// it.
   void SelectForTyping(Cell cell);
 
+  /// Shows a text of the code page as the team's name, in one line that is cut where it is too
+  /// long.
   void SetTeamName(std::string_view display_name);
 
  signals:
+  /// SAVE or its key was pressed; a hidden button can still be pressed by an assistive tool.
   void SaveRequested();
 
   /// The grid can now be reached by mouse and keys, or can no more: it is hidden or disabled.

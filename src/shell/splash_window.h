@@ -13,6 +13,8 @@ class SplashWindow : public QWidget {
   SplashWindow();
 
  signals:
+  /// A key was pressed, other than a bare modifier, or the picture was clicked. The splash stays in
+  /// view until it is hidden, and says so again at the next key or click.
   void Dismissed();
 
  protected:

@@ -12,7 +12,7 @@ namespace morlek {
 
 class StancePicture;
 
-/// What makes one chooser out of the other two.
+/// What makes one chooser out of the other two. The texts are literals, which live on.
 struct ChooserKind {
   StancePiece piece;
   const char* frame_name;
@@ -22,7 +22,8 @@ struct ChooserKind {
   const char* tool_tip;
 };
 
-/// A frame of pictures to choose a face, body or legs from.
+/// A frame of pictures to choose a face, body or legs from, one for every code that has a picture;
+/// none is marked at first.
 class StanceChooser : public QFrame {
   Q_OBJECT
 

@@ -16,7 +16,8 @@ class StancePanel : public QWidget {
   Q_OBJECT
 
  public:
-  /// The document outlives the panel.
+  /// The document, into which picks go and from which the player is shown, outlives the panel. No
+  /// chooser is in view at first, and the stance row is 0.
   StancePanel(RosterDocument& document, QWidget* parent);
 
   /// True for the columns of face, body and legs.

@@ -13,7 +13,8 @@ class TeamBadges : public QObject {
  public:
   explicit TeamBadges(QObject* parent);
 
-  /// The badge of the club with this toolbar key; an empty icon for any other key.
+  /// The badge of the club with this toolbar key; an empty icon for any other key. Icons outlive
+  /// the list.
   [[nodiscard]] QIcon Badge(std::string_view toolbar_key) const;
 };
 

@@ -17,7 +17,8 @@ class TeamToolbar : public QWidget {
   void Restart() { picked_ = kNone; }
 
  signals:
-  /// The button of the team with this toolbar key was clicked.
+  /// The team with this toolbar key, which is one of the directory and lives on, was picked by its
+  /// button or by key.
   void TeamPicked(std::string_view toolbar_key);
 
  private:

@@ -23,10 +23,11 @@ inline constexpr QColor kCritical{0xc6, 0x28, 0x28};
 /// Colours for every part of every window, dialogs and menus included.
 [[nodiscard]] QPalette Palette();
 
-/// Makes the embedded font known to the program; call once, before Font.
+/// Makes the embedded font known to the program; call once, before Font. Should that fail, texts
+/// stand in a font of the system.
 void LoadFonts();
 
-/// The program's font at a size in logical pixels.
+/// The program's font at a size in logical pixels, 1 or more.
 [[nodiscard]] QFont Font(int pixel_size, QFont::Weight weight = QFont::Normal);
 
 }  // namespace morlek::theme
