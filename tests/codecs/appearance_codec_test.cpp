@@ -12,7 +12,8 @@ TEST(AppearanceCodec, PadsASingleDecimalDigitAndNothingElse) {
   for (const char digit : std::string("0123456789")) {
     EXPECT_EQ(codec.NormalizeAppearanceCode(std::string(1, digit)), std::string("0") + digit);
   }
-  for (const char* text : {"", "A", "F", "00", "05", "23", "1F", "1f", "7 ", " 7", "007", "x"}) {
+  for (const char* text :
+       {"", ".", "/", ":", "A", "F", "00", "05", "23", "1F", "1f", "7 ", " 7", "007", "x"}) {
     EXPECT_EQ(codec.NormalizeAppearanceCode(text), text);
   }
 }

@@ -1,11 +1,23 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryFile>
 
 #include "shell/look.h"
 
 int main(int argument_count, char** arguments) {
   ::testing::InitGoogleTest(&argument_count, arguments);
+  // Two screens that nobody sees, the second lower than the window.
+  QTemporaryFile screens;
+  if (!screens.open()) return EXIT_FAILURE;
+  screens.write(R"({"screens": [
+      {"name": "high", "x": 0, "y": 0, "width": 1000, "height": 800,
+       "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
+      {"name": "low", "x": 1000, "y": 0, "width": 1000, "height": 480,
+       "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+  screens.flush();
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toLocal8Bit());
+
   const QApplication application(argument_count, arguments);
   morlek::ApplyLook();
   return RUN_ALL_TESTS();

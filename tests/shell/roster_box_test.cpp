@@ -106,13 +106,31 @@ TEST_F(RosterBoxTest, CharactersThatTheCodePageLacksBecomeQuestionMarks) {
   EXPECT_EQ(Box(1, 1).text(), "?");
 }
 
-TEST_F(RosterBoxTest, AltAndALetterIsNoText) {
+TEST_F(RosterBoxTest, AltAndALetterIsNoTextButAltGrIs) {
   StartWithTeam();
   QLineEdit& box = Box(1, 0);
   const QString before = box.text();
   box.setFocus();
   QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_O, "o", Qt::AltModifier);
   EXPECT_EQ(box.text(), before);
+  QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString::fromUtf8("€"),
+                      Qt::ControlModifier | Qt::AltModifier);
+  EXPECT_EQ(box.text(), QString::fromUtf8("€")) << "with AltGr it is";
+}
+
+TEST_F(RosterBoxTest, ShakyFirstClickKeepsTheSelection) {
+  StartWithTeam();
+  QLineEdit& box = Box(1, 0);
+  QTest::mousePress(&box, Qt::LeftButton, Qt::NoModifier, {30, 10});
+  QTest::mouseMove(&box, {34, 11});
+  QTest::mouseRelease(&box, Qt::LeftButton, Qt::NoModifier, {34, 11});
+  EXPECT_EQ(box.selectedText(), box.text());
+  // A later drag selects a part.
+  QTest::mousePress(&box, Qt::LeftButton, Qt::NoModifier, {6, 10});
+  QTest::mouseMove(&box, {20, 11});
+  QTest::mouseRelease(&box, Qt::LeftButton, Qt::NoModifier, {20, 11});
+  EXPECT_LT(box.selectedText().size(), box.text().size());
+  EXPECT_FALSE(box.selectedText().isEmpty());
 }
 
 TEST_F(RosterBoxTest, DoubleClickSelectsTheWholeValue) {

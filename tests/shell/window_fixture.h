@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QTest>
 #include <algorithm>
 #include <memory>
@@ -49,6 +50,7 @@ class WindowTest : public ::testing::Test {
   void Start(const std::optional<QString>& first_answer) {
     user.paths.push_back(first_answer);
     MakeWindow();
+    if (screen != nullptr) window->move(screen->geometry().topLeft());
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -116,6 +118,7 @@ class WindowTest : public ::testing::Test {
   TempDir folder;
   ScriptedUser user;
   std::unique_ptr<Editor> editor;
+  QScreen* screen = nullptr;  // null for the first
   std::unique_ptr<MainWindow> window;
 };
 

@@ -51,6 +51,8 @@ TEST_F(WindowOptionsTest, ClickWidensAgainAlsoWhereTheFocusHasStayed) {
       Click(narrowing);
     }
     EXPECT_EQ(window->width(), kNarrow);
+    QTest::mouseClick(&Box(12, 0), Qt::RightButton);
+    EXPECT_EQ(window->width(), kNarrow) << "a click of another button is no visit";
     QTest::mouseClick(&Box(12, 0), Qt::LeftButton);
     EXPECT_EQ(window->width(), kWide) << narrowing;
   }
@@ -68,8 +70,9 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   EXPECT_EQ(Find("Text15").geometry(), QRect(4, 4, 433, 625));
 
   auto& help = Find<QPlainTextEdit>("Text15");
-  EXPECT_TRUE(help.toPlainText().startsWith("::::::::::::::\nMORLEK EDITOR\n"));
-  EXPECT_TRUE(help.toPlainText().endsWith(".\n\n\nDOUBLE CLICK TO CLOSE HELP"));
+  const QString text = help.toPlainText();
+  EXPECT_TRUE(text.startsWith("::::::::::::::\nMORLEK EDITOR\n"));
+  EXPECT_TRUE(text.endsWith("\n\n\nDOUBLE CLICK TO CLOSE HELP"));
   QTest::mouseClick(help.viewport(), Qt::LeftButton);
   QTest::keyClick(&help, Qt::Key_Escape);
   QTest::keyClicks(&help, "x");
@@ -77,6 +80,7 @@ TEST_F(WindowOptionsTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   QTest::keyClick(&help, Qt::Key_Backtab);
   EXPECT_EQ(QApplication::focusWidget(), &help) << "the covered grid takes no keys";
   EXPECT_TRUE(IsShown("Frame5"));
+  EXPECT_EQ(help.toPlainText(), text);
   const QString team = LabelText("Label4(0)");
   QTest::keyClick(&help, Qt::Key_PageDown, Qt::ControlModifier);
   QTest::keyClick(&help, Qt::Key_S, Qt::ControlModifier);
