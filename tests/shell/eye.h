@@ -16,50 +16,46 @@ namespace morlek {
 [[nodiscard]] inline QImage Seen(const QWidget& widget) {
   constexpr int kPaintMilliseconds = 20;
   QTest::qWait(kPaintMilliseconds);
-  QWidget& window = *widget.window();
+  const QWidget& window = *widget.window();
   const QImage all = window.screen()->grabWindow(window.winId()).toImage();
   return all.copy(QRect(widget.mapTo(&window, QPoint(0, 0)), widget.size()))
       .convertToFormat(QImage::Format_RGB32);
 }
 
-/// The colour of most pixels.
-[[nodiscard]] inline QRgb GroundOf(const QImage& image) {
-  std::map<QRgb, int> counts;
+/// How many pixels there are of each colour.
+[[nodiscard]] inline std::map<QRgb, int> ColorsOf(const QImage& image) {
+  std::map<QRgb, int> colors;
   for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
+    for (int x = 0; x < image.width(); ++x) ++colors[image.pixel(x, y)];
   }
-  const auto by_count = [](const auto& a, const auto& b) { return a.second < b.second; };
-  return counts.empty() ? 0 : std::ranges::max_element(counts, by_count)->first;
+  return colors;
+}
+
+/// The colour of most pixels.
+[[nodiscard]] inline QColor GroundOf(const QImage& image) {
+  const auto colors = ColorsOf(image);
+  return std::ranges::max_element(colors, {}, [](const auto& color) { return color.second; })
+      ->first;
 }
 
 /// How many pixels are of a colour, or nearly so.
-[[nodiscard]] inline int CountOf(const QImage& image, QColor color, int tolerance = 6) {
+[[nodiscard]] inline int CountOf(const QImage& image, const QColor& wanted, int tolerance = 6) {
   int count = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      const QColor pixel = image.pixelColor(x, y);
-      const int distance =
-          std::max({std::abs(pixel.red() - color.red()), std::abs(pixel.green() - color.green()),
-                    std::abs(pixel.blue() - color.blue())});
-      if (distance <= tolerance) ++count;
-    }
+  for (const auto& [rgb, pixels] : ColorsOf(image)) {
+    const QColor color(rgb);
+    const int distance =
+        std::max({std::abs(color.red() - wanted.red()), std::abs(color.green() - wanted.green()),
+                  std::abs(color.blue() - wanted.blue())});
+    if (distance <= tolerance) count += pixels;
   }
   return count;
 }
 
-/// How many pixels are not of the ground's colour.
-[[nodiscard]] inline int InkOf(const QImage& image) {
-  return image.width() * image.height() - CountOf(image, QColor(GroundOf(image)));
-}
-
-/// How well two colours can be told apart, from 1 to 21; text needs 4.5.
+/// How well two colours can be told apart, from 1 to 21.
 [[nodiscard]] inline double Contrast(const QColor& one, const QColor& other) {
   const auto luminance = [](const QColor& color) {
-    const auto linear = [](double part) {
-      return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
+    return 0.2126 * std::pow(color.redF(), 2.2) + 0.7152 * std::pow(color.greenF(), 2.2) +
+           0.0722 * std::pow(color.blueF(), 2.2);
   };
   const auto [dark, light] = std::minmax(luminance(one), luminance(other));
   return (light + 0.05) / (dark + 0.05);
@@ -67,12 +63,10 @@ namespace morlek {
 
 /// The contrast of an image's ground with what stands out most from it.
 [[nodiscard]] inline double ContrastIn(const QImage& image) {
-  const QColor ground(GroundOf(image));
   double best = 1;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      best = std::max(best, Contrast(ground, image.pixelColor(x, y)));
-    }
+  const QColor ground = GroundOf(image);
+  for (const auto& [color, pixels] : ColorsOf(image)) {
+    best = std::max(best, Contrast(ground, color));
   }
   return best;
 }

@@ -13,31 +13,6 @@ class StancePanelTest : public WindowTest {
   }
 };
 
-TEST_F(StancePanelTest, EveryPicturePutsItsCodeIntoTheStanceRow) {
-  StartWithTeam();
-  const QStringList texts = {"0", "4", "10", "14", "20", "24", "30", "34", "40", "44", "50", "54",
-                             "1", "5", "11", "15", "21", "25", "31", "35", "41", "45", "51", "55",
-                             "2", "6", "12", "16", "22", "26", "32", "36", "42", "46", "52", "56",
-                             "3", "7", "13", "17", "23", "27", "33", "37", "43", "47", "53", "57"};
-  for (int index = 0; index < 48; ++index) {
-    Box(12, 17).setFocus();
-    Click(Picture(1, index));
-    EXPECT_EQ(Box(12, 17).text(), texts[index]) << index;
-    Box(13, 17).setFocus();
-    Click(Picture(2, index));
-    EXPECT_EQ(Box(13, 17).text(), texts[index]) << index;
-  }
-  const std::vector<std::pair<int, QString>> legs = {{0, "0"},  {12, "1"},  {24, "2"},  {36, "3"},
-                                                     {1, "4"},  {13, "10"}, {25, "11"}, {37, "12"},
-                                                     {2, "13"}, {14, "14"}};
-  Box(14, 17).setFocus();
-  for (const auto& [index, text] : legs) {
-    Click(Picture(3, index));
-    EXPECT_EQ(Box(14, 17).text(), text) << index;
-  }
-  EXPECT_EQ(Find("Frame4").findChildren<QWidget*>(QRegularExpression("^Picture3")).size(), 10);
-}
-
 TEST_F(StancePanelTest, PickingMovesNothingAndSavesOnlyWithSave) {
   StartWithTeam();
   Box(12, 17).setFocus();
