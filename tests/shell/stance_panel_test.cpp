@@ -1,6 +1,7 @@
 #include <QAbstractButton>
 #include <QPlainTextEdit>
 
+#include "shell/eye.h"
 #include "shell/window_fixture.h"
 
 namespace morlek {
@@ -83,11 +84,11 @@ TEST_F(StancePanelTest, ThreeColumnsShareTheStanceRow) {
 TEST_F(StancePanelTest, ACodeIsWhatSaveMakesOfTheTextHoweverLongItIs) {
   StartWithTeam();
   TypeInto(12, 2, "3");
-  const QImage marked = Look(Picture(1, 36));
-  const QImage with_face = Look("StanceView");
+  const QImage marked = Seen(Find(Picture(1, 36)));
+  const QImage with_face = Seen(Find("StanceView"));
   TypeInto(12, 2, "FFFF0003");
-  EXPECT_EQ(Look(Picture(1, 36)), marked);
-  EXPECT_EQ(Look("StanceView"), with_face);
+  EXPECT_EQ(Seen(Find(Picture(1, 36))), marked);
+  EXPECT_EQ(Seen(Find("StanceView")), with_face);
 }
 
 }  // namespace
