@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "art/bat_art.h"
 #include "art/shapes.h"
 #include "art/title_art.h"
 
@@ -27,17 +28,11 @@ void PaintGround(QPainter& painter) {
 }
 
 void PaintIconBat(QPainter& painter) {
-  constexpr QPointF kKnob{13.5, 51};
-  constexpr QPointF kTip{47.5, 14.5};
-  const auto along = [&](qreal share, qreal radius) {
-    return Disc{art::Between(kKnob, kTip, share), radius};
-  };
-  QPainterPath bat = art::Taper(along(0, 4.2), along(0.03, 4.2));
-  bat.addPath(art::Taper(along(0, 2.9), along(0.5, 3.4)));
-  bat.addPath(art::Taper(along(0.4, 3), along(0.72, 6.4)));
-  bat.addPath(art::Taper(along(0.72, 6.4), along(1, 6.4)));
-  art::PaintSolid(painter, bat, art::kWood, 3.4);
-  art::PaintTone(painter, art::Taper(along(0.06, 2.8), along(0.3, 2.9)), art::kNavyCloth, 1);
+  constexpr QPointF kKnob{9.6, 54.4};
+  constexpr QPointF kTip{52.4, 9.6};
+  const auto grip = [](qreal share) { return Disc{art::Between(kKnob, kTip, share), 2.7}; };
+  art::PaintSolid(painter, art::BatShape(kKnob, kTip, 6.8), art::kWood, 3.4);
+  art::PaintTone(painter, art::Taper(grip(0.14), grip(0.34)), art::kNavyCloth, 1);
 }
 
 void PaintIconBall(QPainter& painter) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPainterPath>
 #include <QPointF>
 
 class QPainter;
@@ -11,7 +12,9 @@ inline constexpr qreal kBatLength = 54;
 /// The way from knob to tip, one unit long; the angle as in BatHold.
 [[nodiscard]] QPointF BatDirection(qreal angle);
 
-/// Paints a bat. The scale multiplies its length and its width.
-void PaintBat(QPainter& painter, QPointF knob, qreal angle, qreal scale = 1);
+/// The outline of a bat from the end of its knob to its tip; the girth is half its greatest width.
+[[nodiscard]] QPainterPath BatShape(QPointF knob, QPointF tip, qreal girth);
+
+void PaintBat(QPainter& painter, QPointF knob, qreal angle);
 
 }  // namespace morlek::art
