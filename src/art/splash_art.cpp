@@ -18,7 +18,7 @@ constexpr qreal kHorizon = 196;
 void PaintSky(QPainter& painter) {
   QLinearGradient sky(0, 0, 0, kHorizon);
   sky.setColorAt(0, QColor(0x0f, 0x2c, 0x6b));
-  sky.setColorAt(0.6, QColor(0x1f, 0x5f, 0xd0));
+  sky.setColorAt(0.82, QColor(0x1f, 0x5f, 0xd0));
   sky.setColorAt(1, QColor(0x9f, 0xc4, 0xfb));
   painter.fillRect(kScene, sky);
 }
@@ -63,7 +63,7 @@ void PaintStands(QPainter& painter) {
 }
 
 void PaintField(QPainter& painter) {
-  painter.fillRect(QRectF(0, kHorizon + 4, 480, 110), QColor(0x3f, 0x9a, 0x4c));
+  painter.fillRect(QRectF(0, kHorizon + 4, 480, 110), QColor(0x2d, 0x79, 0x3a));
   constexpr QPointF kVanishing{300, 120};
   for (int stripe = -8; stripe < 9; stripe += 2) {
     const qreal left = 269 + stripe * 62;
@@ -71,13 +71,13 @@ void PaintField(QPainter& painter) {
         art::Polygon(std::array<QPointF, 3>{{kVanishing, {left + 62, 300}, {left, 300}}});
     painter.save();
     painter.setClipRect(QRectF(0, kHorizon + 4, 480, 110), Qt::IntersectClip);
-    painter.fillPath(light, QColor(0x4b, 0xab, 0x57));
+    painter.fillPath(light, QColor(0x35, 0x84, 0x42));
     painter.restore();
   }
   painter.fillPath(art::Ellipse({372, 284}, 150, 30), QColor(0xc4, 0x8d, 0x58));
   painter.fillPath(art::Ellipse({372, 281}, 143, 26), QColor(0xd3, 0x9e, 0x68));
   constexpr std::array<QPointF, 5> kPlate = {
-      {{372, 284}, {404, 284}, {410, 289}, {388, 294}, {366, 289}}};
+      {{362, 283}, {396, 283}, {402, 288.5}, {379, 294}, {356, 288.5}}};
   painter.fillPath(art::Polygon(kPlate), art::kWhite);
 }
 
@@ -119,8 +119,10 @@ void PaintSplash(QPainter& painter, const QRectF& target) {
   PaintFloodlight(painter, {455, 190}, 154);
   PaintStands(painter);
   PaintField(painter);
-  painter.fillPath(art::Ellipse({372, 279}, 62, 7), QColor(0x6d, 0x45, 0x25, 0x80));
-  PaintStance(painter, {260, 14, 224, 268}, {.face = 0x03, .body = 0x01, .legs = 0x02});
+  for (const qreal foot : {326.0, 432.0}) {
+    painter.fillPath(art::Ellipse({foot, 272.5}, 25, 4.6), QColor(0x6d, 0x45, 0x25, 0xa0));
+  }
+  PaintStance(painter, {260, 5, 224, 277}, {.face = 0x03, .body = 0x01, .legs = 0x02});
   PaintTitle(painter);
   PaintWords(painter, "for SNES Dale Harrow Baseball", {24, 153}, 16, QFont::Normal, art::kWhite);
   PaintWords(painter, "Press a key or click to begin", {24, 284}, 13, QFont::Normal, art::kWhite);
