@@ -1,7 +1,6 @@
 #include "art/body_art.h"
 
 #include <QPainter>
-#include <algorithm>
 #include <array>
 
 #include "art/arm_art.h"
@@ -11,8 +10,6 @@
 
 namespace morlek::art {
 namespace {
-
-constexpr qreal kSmallestFrame = 92;
 
 /// Half widths of the torso.
 struct Girth {
@@ -66,18 +63,16 @@ void PaintJerseyFront(QPainter& painter, const QPainterPath& torso, const Tone& 
 }  // namespace
 
 QRectF BodyFrame(int code) {
-  const BatHold hold = BodyLookOf(code).hold;
-  QRectF room(-31, -66, 60, 65);
-  const auto add = [&room](QPointF place, qreal margin) {
-    const QPointF reach(margin, margin);
-    room |= QRectF(place - reach, place + reach);
-  };
-  add(hold.knob + BatDirection(hold.angle) * kBatLength, 6);
-  add(hold.front_elbow, 9);
-  add(hold.rear_elbow, 9);
-  constexpr QSizeF kMargin(4, 10);
-  return FrameAround(room, std::max({kSmallestFrame, room.width() + kMargin.width(),
-                                     room.height() + kMargin.height()}));
+  constexpr qreal kSmallestFrame = 92;
+  const auto [outfit, hold] = BodyLookOf(code);
+  const qreal half_width = GirthOf(outfit.build).shoulder + 3;
+  const QPointF tip = hold.knob + BatDirection(hold.angle) * kBatLength;
+  return FrameAround(std::array<QRectF, 5>{{{-half_width, -66, 2 * half_width, 68},
+                                            SquareAround({hold.knob, 7}),
+                                            SquareAround({tip, 6}),
+                                            SquareAround({hold.front_elbow, 11}),
+                                            SquareAround({hold.rear_elbow, 11})}},
+                     kSmallestFrame);
 }
 
 void PaintTorso(QPainter& painter, int code) {

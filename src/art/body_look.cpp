@@ -30,8 +30,8 @@ constexpr std::array<BatHold, kLooksInClass> kHolds = {{
     {{38, -41}, 66, 4, std::nullopt, {29, -26}, {-35, -21}, false},
     // High hands, the tip tilted forward behind the helmet.
     {{-35, -48}, 64, 3, 11, {-2, -37}, {-44, -40}, true},
-    // The tip drooping down the back, elbow high.
-    {{-14, -48}, 208, 3, 11, {8, -35}, {-42, -61}, false},
+    // Stretching, the bat level above the head.
+    {{-18, -107}, 0, 36, 4, {43, -70}, {-42, -68}, false},
     // Low and flat at the hip.
     {{6, -12}, 178, 3, 11, {25, -22}, {-32, -27}, false},
     // Tapping the plate.
@@ -71,7 +71,7 @@ BodyLook BodyLookOf(int code) {
   const auto index = static_cast<std::size_t>(kFaceAndBodyCodes.PlaceOf(code));
   const std::size_t skin_class = index / kLooksInClass;
   // The hold follows the code alone; each class of skin wears the outfits in another order.
-  constexpr std::size_t kOutfitStep = 5;
+  constexpr std::size_t kOutfitStep = 7;
   const std::size_t hold = index % kLooksInClass;
   return {kOutfits.at((hold + kOutfitStep * skin_class) % kLooksInClass), kHolds.at(hold)};
 }

@@ -69,8 +69,8 @@ void PaintMouth(QPainter& painter, Mouth mouth, const QColor& lips) {
       line.moveTo(1.5, 16);
       line.quadTo({8, 19.5}, {14, 15.6});
       PaintLine(painter, line, lips, 2);
-      PaintLine(painter, Segment({11, 17}, {26, 21.5}), kInk, 3.6);
-      PaintLine(painter, Segment({11, 17}, {26, 21.5}), kStraw, 1.8);
+      PaintLine(painter, Segment({11, 17}, {26.5, 13.5}), kInk, 3.6);
+      PaintLine(painter, Segment({11, 17}, {26.5, 13.5}), kStraw, 1.8);
       break;
   }
 }

@@ -140,8 +140,7 @@ void PaintHips(QPainter& painter, QPointF waist) {
 QRectF LegsFrame(int code) {
   const LegsLook look = LegsLookOf(code);
   const QRectF waist(look.waist - QPointF(19, 6), QSizeF(38, 12));
-  const QRectF room = waist | FootRoom(look.rear) | FootRoom(look.front);
-  return FrameAround(room, kFrameSize);
+  return FrameAround(std::array{waist, FootRoom(look.rear), FootRoom(look.front)}, kFrameSize);
 }
 
 void PaintLegs(QPainter& painter, int code) {

@@ -5,7 +5,9 @@
 #include <QPen>
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <numbers>
+#include <numeric>
 
 namespace morlek::art {
 namespace {
@@ -64,33 +66,57 @@ QPainterPath Ellipse(QPointF center, qreal radius_x, qreal radius_y) {
   return path;
 }
 
+QRectF SquareAround(const Disc& disc) {
+  const QPointF reach(disc.radius, disc.radius);
+  return {disc.center - reach, disc.center + reach};
+}
+
 QPainterPath Taper(const Disc& from, const Disc& to) {
   const QLineF axis(from.center, to.center);
   const Disc& larger = from.radius > to.radius ? from : to;
   if (axis.length() <= std::abs(from.radius - to.radius)) {
     return Ellipse(larger.center, larger.radius, larger.radius);
   }
-  const auto square_around = [](const Disc& disc) {
-    const QPointF reach(disc.radius, disc.radius);
-    return QRectF(disc.center - reach, disc.center + reach);
-  };
   const qreal spread =
       std::acos((from.radius - to.radius) / axis.length()) * 180 / std::numbers::pi;
   QPainterPath path;
   path.setFillRule(Qt::WindingFill);
-  path.arcMoveTo(square_around(from), axis.angle() + spread);
-  path.arcTo(square_around(from), axis.angle() + spread, 360 - 2 * spread);
-  path.arcTo(square_around(to), axis.angle() - spread, 2 * spread);
+  path.arcMoveTo(SquareAround(from), axis.angle() + spread);
+  path.arcTo(SquareAround(from), axis.angle() + spread, 360 - 2 * spread);
+  path.arcTo(SquareAround(to), axis.angle() - spread, 2 * spread);
   path.closeSubpath();
   return path;
 }
 
 QPointF Between(QPointF from, QPointF to, qreal share) { return from + (to - from) * share; }
 
-QRectF FrameAround(const QRectF& room, qreal size) {
-  constexpr qreal kShareBefore = 0.22;
-  const QPointF slack(size - room.width(), size - room.height());
-  return {room.topLeft() - slack * kShareBefore, QSizeF(size, size)};
+QRectF FrameAround(std::span<const QRectF> parts, qreal smallest_size) {
+  // Shares of the square: where the code's corner starts, and the least margin.
+  constexpr QPointF kCorner(0.74, 0.755);
+  constexpr qreal kMargin = 0.03;
+  const QRectF room = std::accumulate(parts.begin(), parts.end(), QRectF(), std::bit_or());
+  qreal size = std::max(smallest_size, std::max(room.width(), room.height()) / (1 - 2 * kMargin));
+  for (const QRectF& part : parts) {
+    const QPointF reach = part.bottomRight() - room.topLeft();
+    size = std::max(
+        size, std::min(reach.x() / (kCorner.x() - kMargin), reach.y() / (kCorner.y() - kMargin)));
+  }
+  // What room is left goes to both sides, as far as the corner stays free.
+  QPointF place(kMargin * size, kMargin * size);
+  const auto least_slack = [&](auto along, auto across) {
+    qreal slack = size;
+    for (const QRectF& part : parts) {
+      const QPointF end = part.bottomRight() - room.topLeft() + place;
+      const bool is_at_corner = across(end) > across(kCorner) * size;
+      slack = std::min(slack, (is_at_corner ? along(kCorner) : 1 - kMargin) * size - along(end));
+    }
+    return slack;
+  };
+  const auto x = [](QPointF point) { return point.x(); };
+  const auto y = [](QPointF point) { return point.y(); };
+  place.rx() += least_slack(x, y) / 2;
+  place.ry() += least_slack(y, x) / 2;
+  return {room.topLeft() - place, QSizeF(size, size)};
 }
 
 void PaintTone(QPainter& painter, const QPainterPath& shape, const Tone& tone, qreal depth) {

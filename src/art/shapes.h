@@ -30,6 +30,8 @@ struct Disc {
 
 [[nodiscard]] QPainterPath Ellipse(QPointF center, qreal radius_x, qreal radius_y);
 
+[[nodiscard]] QRectF SquareAround(const Disc& disc);
+
 /// Two discs and all that lies between. Tapers turn the same way and fill by winding, so that
 /// adding one to another joins them into one shape.
 [[nodiscard]] QPainterPath Taper(const Disc& from, const Disc& to);
@@ -37,9 +39,9 @@ struct Disc {
 /// The point at a share, 0 to 1, of the way.
 [[nodiscard]] QPointF Between(QPointF from, QPointF to, qreal share);
 
-/// A square of the given size round a room. The room lies towards its upper left, because the lower
-/// right corner of a tile is for the code.
-[[nodiscard]] QRectF FrameAround(const QRectF& room, qreal size);
+/// A square of the given size, or larger, round all parts of a picture. No part reaches into its
+/// lower right corner, which is for the code.
+[[nodiscard]] QRectF FrameAround(std::span<const QRectF> parts, qreal smallest_size);
 
 /// Fills a shape, its lower right edge in a shade of the given depth.
 void PaintTone(QPainter& painter, const QPainterPath& shape, const Tone& tone, qreal depth = 3);
