@@ -7,8 +7,11 @@
 #include <QImage>
 #include <QPainter>
 #include <QString>
+#include <array>
+#include <cstddef>
 #include <functional>
 #include <iostream>
+#include <optional>
 #include <span>
 
 #include "art/stance_figure.h"
@@ -23,8 +26,8 @@ constexpr int kTileSize = 50;
 constexpr int kTilePitch = 52;
 
 void PaintTile(QPainter& painter, StancePiece piece, int index, int code) {
-  const QRectF square(8 + kTilePitch * (index / morlek::kPictureRows),
-                      28 + kTilePitch * (index % morlek::kPictureRows), kTileSize, kTileSize);
+  const QRectF square(2 + kTilePitch * (index / morlek::kPictureRows),
+                      2 + kTilePitch * (index % morlek::kPictureRows), kTileSize, kTileSize);
   painter.setPen(QColor(0xcb, 0xd2, 0xdc));
   painter.setBrush(Qt::white);
   painter.drawRoundedRect(square.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
@@ -62,6 +65,32 @@ void PaintStances(QPainter& painter) {
   }
 }
 
+/// Batters in the colours of clubs, and batters of whom some pieces are not known or empty.
+void PaintClubs(QPainter& painter) {
+  using morlek::kUnknownCode;
+  constexpr std::array<morlek::ClubColors, 5> kClubs = {{{{0x0c, 0x23, 0x40}, {0xe3, 0x19, 0x37}},
+                                                         {{0xd2, 0x42, 0x00}, {0x1a, 0x1a, 0x1a}},
+                                                         {{0x27, 0x25, 0x1f}, {0xc4, 0xce, 0xd4}},
+                                                         {{0xc6, 0x01, 0x1f}, {0xff, 0xff, 0xff}},
+                                                         {{0x00, 0x38, 0x31}, {0xef, 0xb2, 0x1e}}}};
+  constexpr std::array<morlek::StanceCodes, 8> kBatters = {
+      {{.face = 0x01, .body = 0x06, .legs = 0x01},
+       {.face = 0x42, .body = 0x03, .legs = 0x13},
+       {.face = 0x23, .body = 0x04, .legs = 0x02},
+       {.face = 0x15, .body = 0x12, .legs = 0x14},
+       {.face = 0x51, .body = 0x50, .legs = 0x04},
+       {.face = kUnknownCode, .body = kUnknownCode, .legs = kUnknownCode},
+       {.face = 0x00, .body = 0x9A, .legs = 0x03},
+       {.face = 0xFF, .body = 0x27, .legs = std::nullopt}}};
+  for (int i = 0; i < 16; ++i) {
+    const QRectF place(4 + 132 * (i % 8), 4 + 164 * (i / 8), 128, 160);
+    const auto column = static_cast<std::size_t>(i % 8);
+    const auto batter = static_cast<std::size_t>((i + i / 8) % 8);
+    morlek::PaintStance(painter, place, kBatters.at(batter),
+                        column < kClubs.size() ? std::optional(kClubs.at(column)) : std::nullopt);
+  }
+}
+
 class SheetWriter {
  public:
   explicit SheetWriter(const QDir& directory) : directory_(directory) {}
@@ -94,10 +123,11 @@ bool WriteSheets(const QString& directory) {
   const QColor window(0xf1, 0xf3, 0xf6);
   SheetWriter writer{QDir(directory)};
   for (const int scale : {1, 2}) {
-    writer.Write("faces", {222, 660}, scale, window, ChooserPage(StancePiece::kFace));
-    writer.Write("bodies", {222, 660}, scale, window, ChooserPage(StancePiece::kBody));
-    writer.Write("legs", {222, 192}, scale, window, ChooserPage(StancePiece::kLegs));
+    writer.Write("faces", {210, 626}, scale, window, ChooserPage(StancePiece::kFace));
+    writer.Write("bodies", {210, 626}, scale, window, ChooserPage(StancePiece::kBody));
+    writer.Write("legs", {210, 158}, scale, window, ChooserPage(StancePiece::kLegs));
     writer.Write("stances", {1060, 496}, scale, window, PaintStances);
+    writer.Write("clubs", {1060, 332}, scale, window, PaintClubs);
     writer.Write("splash", {480, 300}, scale, Qt::transparent, [](QPainter& painter) {
       morlek::PaintSplash(painter, {0, 0, 480, 300});
     });

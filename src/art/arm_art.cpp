@@ -32,17 +32,17 @@ bool ShowsShirtOnForearm(Sleeves sleeves) {
 }
 
 /// A blue band along the end of a short sleeve.
-void PaintHem(QPainter& painter, const Arm& arm, const QPainterPath& sleeve) {
+void PaintHem(QPainter& painter, const Arm& arm, const QPainterPath& sleeve, const QColor& color) {
   painter.save();
   painter.setClipPath(sleeve, Qt::IntersectClip);
   painter.setClipPath(sleeve - UpperArmPart(arm, 0.36, 1.2), Qt::IntersectClip);
-  painter.fillPath(sleeve, kAccentCloth.light);
+  painter.fillPath(sleeve, color);
   painter.restore();
 }
 
-void PaintExtras(QPainter& painter, const Arm& arm, Extras extras) {
+void PaintExtras(QPainter& painter, const Arm& arm, Extras extras, const Kit& kit) {
   if (extras == Extras::kWristbands) {
-    PaintSolid(painter, ForearmPart(arm, 0.62, 0.74, 0.8), kRedCloth, 2);
+    PaintSolid(painter, ForearmPart(arm, 0.62, 0.74, 0.8), kit.bright, 2);
   }
   if (extras == Extras::kElbowGuard && arm.is_front) {
     const QPainterPath guard = Taper({Between(arm.elbow, arm.shoulder, 0.22), kElbowRadius + 2},
@@ -54,18 +54,19 @@ void PaintExtras(QPainter& painter, const Arm& arm, Extras extras) {
 
 }  // namespace
 
-Tone UndershirtOf(Sleeves sleeves) {
+Tone UndershirtOf(Sleeves sleeves, const Kit& kit) {
   switch (sleeves) {
     case Sleeves::kLongNavy:
-      return kNavyCloth;
+      return kit.dark;
     case Sleeves::kThreeQuarterRed:
-      return kRedCloth;
+      return kit.bright;
     default:
-      return kAccentCloth;
+      return kit.main;
   }
 }
 
-void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Tone& skin) {
+void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Tone& skin,
+              const Kit& kit) {
   QPainterPath limb = UpperArmPart(arm, 1, -0.6);
   limb.addPath(ForearmPart(arm, 0, 1, 0));
   PaintSolid(painter, limb, skin);
@@ -74,20 +75,20 @@ void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Ton
     const qreal cuff = outfit.sleeves == Sleeves::kThreeQuarterRed ? 0.3 : 0.72;
     QPainterPath shirt = UpperArmPart(arm, 1, -0.2);
     shirt.addPath(ForearmPart(arm, 0, cuff, 0.4));
-    PaintSolid(painter, shirt, UndershirtOf(outfit.sleeves));
+    PaintSolid(painter, shirt, UndershirtOf(outfit.sleeves, kit));
   }
-  PaintExtras(painter, arm, outfit.extras);
+  PaintExtras(painter, arm, outfit.extras, kit);
 
   const bool is_vest = outfit.sleeves == Sleeves::kVest;
   const QPainterPath sleeve = UpperArmPart(arm, is_vest ? 0.2 : 0.5, 0.8);
-  PaintSolid(painter, sleeve, is_vest ? kAccentCloth : kJersey);
-  if (!is_vest) PaintHem(painter, arm, sleeve);
+  PaintSolid(painter, sleeve, is_vest ? kit.main : kJersey);
+  if (!is_vest) PaintHem(painter, arm, sleeve, kit.main.light);
 }
 
 void PaintFist(QPainter& painter, QPointF place, QPointF bat_way, const Outfit& outfit,
-               const Tone& skin) {
+               const Tone& skin, const Kit& kit) {
   const QPainterPath fist = Taper({place - bat_way * 1.6, 4.8}, {place + bat_way * 1.8, 4.8});
-  const Tone& tone = outfit.extras == Extras::kGloves ? kAccentCloth : skin;
+  const Tone& tone = outfit.extras == Extras::kGloves ? kit.main : skin;
   PaintSolid(painter, fist, tone, 2.4);
   const QPointF across(-bat_way.y() * 3.2, bat_way.x() * 3.2);
   for (const qreal along : {-1.4, 1.6}) {

@@ -18,12 +18,13 @@ struct Arm {
 };
 
 /// The shirt that shows below short sleeves and at the collar.
-[[nodiscard]] Tone UndershirtOf(Sleeves sleeves);
+[[nodiscard]] Tone UndershirtOf(Sleeves sleeves, const Kit& kit);
 
-void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Tone& skin);
+void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Tone& skin,
+              const Kit& kit);
 
 /// Paints a hand closed round the bat, whose way is one unit long.
 void PaintFist(QPainter& painter, QPointF place, QPointF bat_way, const Outfit& outfit,
-               const Tone& skin);
+               const Tone& skin, const Kit& kit);
 
 }  // namespace morlek::art

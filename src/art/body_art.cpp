@@ -49,14 +49,15 @@ void PaintNeck(QPainter& painter, const Tone& skin) {
   PaintSolid(painter, Ellipse({2, -61}, 7, 2), {skin.shade, skin.shade});
 }
 
-void PaintJerseyFront(QPainter& painter, const QPainterPath& torso, const Tone& undershirt) {
+void PaintJerseyFront(QPainter& painter, const QPainterPath& torso, const Tone& undershirt,
+                      const QColor& piping) {
   painter.save();
   painter.setClipPath(torso, Qt::IntersectClip);
   constexpr std::array<QPointF, 3> kCollar = {{{-9, -55}, {4, -42}, {13, -55}}};
   painter.fillPath(Polygon(kCollar), undershirt.light);
   constexpr std::array<QPointF, 3> kPlacket = {{{4, -42}, {6, -22}, {5, 6}}};
-  PaintLine(painter, CurveThrough(kCollar), kAccentCloth.light, 2.2);
-  PaintLine(painter, CurveThrough(kPlacket), kAccentCloth.light, 2.2);
+  PaintLine(painter, CurveThrough(kCollar), piping, 2.2);
+  PaintLine(painter, CurveThrough(kPlacket), piping, 2.2);
   painter.restore();
 }
 
@@ -75,16 +76,16 @@ QRectF BodyFrame(int code) {
                      kSmallestFrame);
 }
 
-void PaintTorso(QPainter& painter, int code) {
+void PaintTorso(QPainter& painter, int code, const Kit& kit) {
   const auto [outfit, hold] = BodyLookOf(code);
   if (hold.is_behind) PaintBat(painter, hold.knob, hold.angle);
   PaintNeck(painter, SkinOf(code / 16));
   const QPainterPath torso = TorsoOf(GirthOf(outfit.build));
   PaintSolid(painter, torso, kJersey, 5);
-  PaintJerseyFront(painter, torso, UndershirtOf(outfit.sleeves));
+  PaintJerseyFront(painter, torso, UndershirtOf(outfit.sleeves, kit), kit.main.light);
 }
 
-void PaintArms(QPainter& painter, int code) {
+void PaintArms(QPainter& painter, int code, const Kit& kit) {
   const BodyLook look = BodyLookOf(code);
   const Outfit& outfit = look.outfit;
   const BatHold& hold = look.hold;
@@ -103,11 +104,11 @@ void PaintArms(QPainter& painter, int code) {
                      .hand = hand(hold.front_grip, 1),
                      .is_front = true};
 
-  PaintArm(painter, rear, outfit, skin);
-  PaintArm(painter, front, outfit, skin);
+  PaintArm(painter, rear, outfit, skin, kit);
+  PaintArm(painter, front, outfit, skin, kit);
   if (!hold.is_behind) PaintBat(painter, hold.knob, hold.angle);
-  if (hold.rear_grip) PaintFist(painter, rear.hand, direction, outfit, skin);
-  if (hold.front_grip) PaintFist(painter, front.hand, direction, outfit, skin);
+  if (hold.rear_grip) PaintFist(painter, rear.hand, direction, outfit, skin, kit);
+  if (hold.front_grip) PaintFist(painter, front.hand, direction, outfit, skin, kit);
 }
 
 }  // namespace morlek::art

@@ -3,6 +3,8 @@
 #include <QPointF>
 #include <QRectF>
 
+#include "art/palette.h"
+
 class QPainter;
 
 namespace morlek::art {
@@ -16,9 +18,9 @@ inline constexpr QPointF kHeadPlace{3, -74};
 inline constexpr qreal kHeadScale = 0.84;
 
 /// Paints what lies behind the head: torso, neck and, with some holds, the bat.
-void PaintTorso(QPainter& painter, int code);
+void PaintTorso(QPainter& painter, int code, const Kit& kit);
 
 /// Paints what lies before the head: arms and, with the other holds, the bat.
-void PaintArms(QPainter& painter, int code);
+void PaintArms(QPainter& painter, int code, const Kit& kit);
 
 }  // namespace morlek::art

@@ -53,17 +53,17 @@ void PaintSideburn(QPainter& painter) {
   PaintTone(painter, Polygon(kSideburn), kHair, 1);
 }
 
-void PaintHelmet(QPainter& painter) {
+void PaintHelmet(QPainter& painter, const Kit& kit) {
   QPainterPath dome(QPointF(-24.5, -5));
   dome.cubicTo({-28, -24}, {-17, -32.5}, {0, -32.5});
   dome.cubicTo({16, -32.5}, {25, -24}, {24.5, -9});
   dome.cubicTo({12, -14}, {-4, -13}, {-12, -8});
   dome.cubicTo({-16, -5.5}, {-20, -4.5}, {-24.5, -5});
-  PaintSolid(painter, dome, kAccentCloth, 4);
+  PaintSolid(painter, dome, kit.main, 4);
 
   QPainterPath gloss(QPointF(-19, -16));
   gloss.cubicTo({-17, -24}, {-11, -28}, {-3, -28.5});
-  PaintLine(painter, gloss, kGlint, 2.6);
+  PaintLine(painter, gloss, kit.gloss, 2.6);
 
   constexpr std::array<QPointF, 4> kEmblem = {
       {{10, -28}, {14.5, -22.5}, {10.5, -17.5}, {5.5, -22.5}}};
@@ -73,12 +73,12 @@ void PaintHelmet(QPainter& painter) {
   bill.cubicTo({2, -18}, {14, -18}, {24.5, -13});
   bill.cubicTo({31, -12}, {36.5, -9}, {36.5, -6.5});
   bill.cubicTo({30, -8.5}, {10, -11.5}, {-9, -10.5});
-  PaintSolid(painter, bill, kNavyCloth, 2);
+  PaintSolid(painter, bill, kit.bill, 2);
 }
 
 }  // namespace
 
-void PaintHead(QPainter& painter, int code) {
+void PaintHead(QPainter& painter, int code, const Kit& kit) {
   const FaceLook look = FaceLookOf(code);
   const Tone skin = SkinOf(code / 16);
   const JawLine jaw = JawLineOf(look.jaw);
@@ -98,7 +98,7 @@ void PaintHead(QPainter& painter, int code) {
   constexpr QColor kLipsInBeard{0xd0, 0x7f, 0x74};
   PaintMouth(painter, look.mouth, SurroundMouth(look.whiskers) ? kLipsInBeard : kInk);
   PaintEyewear(painter, look.eyewear);
-  PaintHelmet(painter);
+  PaintHelmet(painter, kit);
 }
 
 }  // namespace morlek::art

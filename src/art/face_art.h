@@ -2,6 +2,8 @@
 
 #include <QRectF>
 
+#include "art/palette.h"
+
 class QPainter;
 
 namespace morlek::art {
@@ -10,6 +12,6 @@ namespace morlek::art {
 inline constexpr QRectF kHeadFrame{-31, -35, 71, 71};
 
 /// Paints the head of a face code that has a picture, looking to the right.
-void PaintHead(QPainter& painter, int code);
+void PaintHead(QPainter& painter, int code, const Kit& kit);
 
 }  // namespace morlek::art

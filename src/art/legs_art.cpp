@@ -40,41 +40,41 @@ QPainterPath ShinPart(const LegPose& leg, qreal from, qreal to) {
 }
 
 /// White bands round the sock.
-void PaintBands(QPainter& painter, const LegPose& leg) {
+void PaintBands(QPainter& painter, const LegPose& leg, const QColor& color) {
   const QPointF shin = leg.ankle - leg.knee;
   const QPointF across = QPointF(-shin.y(), shin.x()) / std::hypot(shin.x(), shin.y()) * 9;
   for (const qreal share : {0.42, 0.6}) {
     const QPointF middle = Between(leg.knee, leg.ankle, share);
-    PaintLine(painter, Segment(middle - across, middle + across), kWhite, 3);
+    PaintLine(painter, Segment(middle - across, middle + across), color, 3);
   }
 }
 
 /// A stirrup over a white sock: its upper end below the knee and the strap at the foot's side.
-void PaintStirrup(QPainter& painter, const LegPose& leg) {
-  PaintTone(painter, ShinPart(leg, 0.1, 0.42), kAccentCloth, 2);
+void PaintStirrup(QPainter& painter, const LegPose& leg, const Tone& tone) {
+  PaintTone(painter, ShinPart(leg, 0.1, 0.42), tone, 2);
   const QPointF side(leg.foot_width > 0 ? 2 : -2, 0);
   const QPointF start = Between(leg.knee, leg.ankle, 0.4);
-  PaintLine(painter, Segment(start + side, leg.ankle + side), kAccentCloth.light, 3.6);
+  PaintLine(painter, Segment(start + side, leg.ankle + side), tone.light, 3.6);
 }
 
-Tone SockToneOf(Hose hose) {
+Tone SockToneOf(Hose hose, const Kit& kit) {
   switch (hose) {
     case Hose::kStirrups:
       return kSock;
     case Hose::kAnkleSocks:
-      return kNavyCloth;
+      return kit.dark;
     default:
-      return kAccentCloth;
+      return kit.main;
   }
 }
 
-void PaintSock(QPainter& painter, const LegPose& leg, Hose hose) {
+void PaintSock(QPainter& painter, const LegPose& leg, Hose hose, const Kit& kit) {
   const QPainterPath sock = ShinPart(leg, 0.1, 1);
-  PaintSolid(painter, sock, SockToneOf(hose));
+  PaintSolid(painter, sock, SockToneOf(hose, kit));
   painter.save();
   painter.setClipPath(sock, Qt::IntersectClip);
-  if (hose == Hose::kStripedSocks) PaintBands(painter, leg);
-  if (hose == Hose::kStirrups) PaintStirrup(painter, leg);
+  if (hose == Hose::kStripedSocks) PaintBands(painter, leg, kit.bands);
+  if (hose == Hose::kStirrups) PaintStirrup(painter, leg, kit.main);
   painter.restore();
 }
 
@@ -92,12 +92,12 @@ void PaintShoe(QPainter& painter, const LegPose& leg) {
 
 /// The piping along the outer seam, down to the cuff.
 void PaintPiping(QPainter& painter, const QPainterPath& trousers, QPointF hip, const LegPose& leg,
-                 QPointF cuff, qreal side) {
+                 QPointF cuff, qreal side, const QColor& color) {
   const std::array<QPointF, 3> seam = {
       {hip + QPointF(side * 8, 0), leg.knee + QPointF(side * 5.5, 0), cuff + QPointF(side * 4, 4)}};
   painter.save();
   painter.setClipPath(trousers, Qt::IntersectClip);
-  PaintLine(painter, CurveThrough(seam), kAccentCloth.light, 2);
+  PaintLine(painter, CurveThrough(seam), color, 2);
   painter.restore();
 }
 
@@ -107,19 +107,21 @@ QRectF FootRoom(const LegPose& leg) {
   return {leg.ankle + QPointF(std::min(toe, -8.0), -8), leg.ankle + QPointF(std::max(toe, 8.0), 9)};
 }
 
-void PaintTrouserLeg(QPainter& painter, QPointF hip, const LegPose& leg, Hose hose, qreal side) {
+void PaintTrouserLeg(QPainter& painter, QPointF hip, const LegPose& leg, Hose hose, qreal side,
+                     const Kit& kit) {
   const QPointF cuff = Between(leg.knee, leg.ankle, TrouserShare(hose));
   QPainterPath trousers = Taper({hip, kHipRadius}, {leg.knee, kKneeRadius});
   trousers.addPath(Taper({leg.knee, kKneeRadius}, {cuff, kCuffRadius}));
   PaintSolid(painter, trousers, kTrousers, 4);
-  PaintPiping(painter, trousers, hip, leg, cuff, side);
+  PaintPiping(painter, trousers, hip, leg, cuff, side, kit.main.light);
 }
 
 /// Paints one leg; its outer side is -1, the left, or 1.
-void PaintLeg(QPainter& painter, QPointF hip, const LegPose& leg, Hose hose, qreal side) {
-  PaintSock(painter, leg, hose);
+void PaintLeg(QPainter& painter, QPointF hip, const LegPose& leg, Hose hose, qreal side,
+              const Kit& kit) {
+  PaintSock(painter, leg, hose, kit);
   PaintShoe(painter, leg);
-  PaintTrouserLeg(painter, hip, leg, hose, side);
+  PaintTrouserLeg(painter, hip, leg, hose, side, kit);
 }
 
 void PaintHips(QPainter& painter, QPointF waist) {
@@ -143,12 +145,12 @@ QRectF LegsFrame(int code) {
   return FrameAround(std::array{waist, FootRoom(look.rear), FootRoom(look.front)}, kFrameSize);
 }
 
-void PaintLegs(QPainter& painter, int code) {
+void PaintLegs(QPainter& painter, int code, const Kit& kit) {
   const LegsLook look = LegsLookOf(code);
   const QPointF rear_hip = look.waist + QPointF(-kHipFromWaist.x(), kHipFromWaist.y());
   const QPointF front_hip = look.waist + kHipFromWaist;
-  PaintLeg(painter, rear_hip, look.rear, look.hose, -1);
-  PaintLeg(painter, front_hip, look.front, look.hose, 1);
+  PaintLeg(painter, rear_hip, look.rear, look.hose, -1, kit);
+  PaintLeg(painter, front_hip, look.front, look.hose, 1, kit);
   PaintHips(painter, look.waist);
 }
 

@@ -2,6 +2,8 @@
 
 #include <QRectF>
 
+#include "art/palette.h"
+
 class QPainter;
 
 namespace morlek::art {
@@ -10,6 +12,6 @@ namespace morlek::art {
 [[nodiscard]] QRectF LegsFrame(int code);
 
 /// Paints the legs of a code that has a picture, from belt to shoes.
-void PaintLegs(QPainter& painter, int code);
+void PaintLegs(QPainter& painter, int code, const Kit& kit);
 
 }  // namespace morlek::art

@@ -28,6 +28,18 @@ inline constexpr Tone kShoe{{0x2a, 0x33, 0x42}, {0x14, 0x1a, 0x24}};
 inline constexpr Tone kWood{{0xe0, 0xab, 0x66}, {0xb4, 0x79, 0x3c}};
 inline constexpr Tone kHair{{0x38, 0x27, 0x20}, {0x24, 0x18, 0x13}};
 
+/// The cloth that is of the club's colours.
+struct Kit {
+  Tone main = kAccentCloth;
+  /// The undershirts and ankle socks that are not of the main colour.
+  Tone dark = kNavyCloth;
+  Tone bright = kRedCloth;
+  Tone bill = kNavyCloth;
+  QColor gloss = kGlint;
+  /// Bands round the stockings.
+  QColor bands = kWhite;
+};
+
 /// Skin by the high digit of a code, 0 to 5: two neighbours are of one class.
 [[nodiscard]] inline Tone SkinOf(int high_digit) {
   constexpr std::array<Tone, 6> kSkins = {{{{0xf9, 0xd3, 0xb3}, {0xe4, 0xac, 0x85}},

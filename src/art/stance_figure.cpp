@@ -7,12 +7,22 @@
 #include "art/face_art.h"
 #include "art/legs_art.h"
 #include "art/legs_look.h"
+#include "art/palette.h"
+#include "art/unknown_art.h"
 
 namespace morlek {
 namespace {
 
+using art::Kit;
+using art::Tone;
+
 /// The room that every batter keeps within, his feet at the bottom.
-constexpr QRectF kFigureFrame{-84, -200, 164, 208};
+constexpr QRectF kFigureFrame{-84, -207, 164, 215};
+
+/// Where a piece without a picture would be: legs from the ground, the rest from the waist.
+constexpr QRectF kUnknownLegs{-21, -86, 42, 86};
+constexpr QRectF kUnknownBody{-24, -47, 48, 40};
+constexpr QRectF kUnknownFace{-17, -104, 40, 40};
 
 /// Maps a frame into the middle of a target, as large as its proportions allow.
 void FitFrame(QPainter& painter, const QRectF& frame, const QRectF& target) {
@@ -22,8 +32,19 @@ void FitFrame(QPainter& painter, const QRectF& frame, const QRectF& target) {
   painter.translate(-frame.center());
 }
 
-std::optional<int> Paintable(StancePiece piece, std::optional<int> code) {
-  return code && PictureCodesOf(piece).Contains(*code) ? code : std::nullopt;
+Kit KitOf(const ClubColors& club) {
+  constexpr int kShadePercent = 140;
+  const auto cloth = [](const QColor& color) { return Tone{color, color.darker(kShadePercent)}; };
+  const auto halfway_to_white = [](int channel) { return (channel + 255) / 2; };
+  const Tone main = cloth(club.main);
+  const Tone trim = cloth(club.trim);
+  return {.main = main,
+          .dark = main,
+          .bright = trim,
+          .bill = trim,
+          .gloss = QColor(halfway_to_white(club.main.red()), halfway_to_white(club.main.green()),
+                          halfway_to_white(club.main.blue())),
+          .bands = club.trim};
 }
 
 }  // namespace
@@ -39,39 +60,53 @@ void PaintPiece(QPainter& painter, const QRectF& target, StancePiece piece, int 
   switch (piece) {
     case StancePiece::kFace:
       FitFrame(painter, art::kHeadFrame, target);
-      art::PaintHead(painter, code);
+      art::PaintHead(painter, code, {});
       break;
     case StancePiece::kBody:
       FitFrame(painter, art::BodyFrame(code), target);
-      art::PaintTorso(painter, code);
-      art::PaintArms(painter, code);
+      art::PaintTorso(painter, code, {});
+      art::PaintArms(painter, code, {});
       break;
     case StancePiece::kLegs:
       FitFrame(painter, art::LegsFrame(code), target);
-      art::PaintLegs(painter, code);
+      art::PaintLegs(painter, code, {});
       break;
   }
   painter.restore();
 }
 
-void PaintStance(QPainter& painter, const QRectF& target, const StanceCodes& codes) {
-  const std::optional<int> face = Paintable(StancePiece::kFace, codes.face);
-  const std::optional<int> body = Paintable(StancePiece::kBody, codes.body);
-  const std::optional<int> legs = Paintable(StancePiece::kLegs, codes.legs);
+void PaintStance(QPainter& painter, const QRectF& target, const StanceCodes& codes,
+                 const std::optional<ClubColors>& club) {
+  const auto has_picture = [](StancePiece piece, std::optional<int> code) {
+    return code && PictureCodesOf(piece).Contains(*code);
+  };
+  const bool has_legs = has_picture(StancePiece::kLegs, codes.legs);
+  const bool has_body = has_picture(StancePiece::kBody, codes.body);
+  const art::Kit kit = club ? KitOf(*club) : art::Kit();
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   FitFrame(painter, kFigureFrame, target);
-  if (legs) art::PaintLegs(painter, *legs);
-  painter.translate(legs ? art::LegsLookOf(*legs).waist : art::kStandingWaist);
-  if (body) art::PaintTorso(painter, *body);
-  if (face) {
+  if (has_legs) {
+    art::PaintLegs(painter, *codes.legs, kit);
+  } else if (codes.legs) {
+    art::PaintUnknown(painter, kUnknownLegs);
+  }
+  painter.translate(has_legs ? art::LegsLookOf(*codes.legs).waist : art::kStandingWaist);
+  if (has_body) {
+    art::PaintTorso(painter, *codes.body, kit);
+  } else if (codes.body) {
+    art::PaintUnknown(painter, kUnknownBody);
+  }
+  if (has_picture(StancePiece::kFace, codes.face)) {
     painter.save();
     painter.translate(art::kHeadPlace);
     painter.scale(art::kHeadScale, art::kHeadScale);
-    art::PaintHead(painter, *face);
+    art::PaintHead(painter, *codes.face, kit);
     painter.restore();
+  } else if (codes.face) {
+    art::PaintUnknown(painter, kUnknownFace);
   }
-  if (body) art::PaintArms(painter, *body);
+  if (has_body) art::PaintArms(painter, *codes.body, kit);
   painter.restore();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QRectF>
 #include <optional>
 
@@ -19,15 +20,28 @@ enum class StancePiece { kFace, kBody, kLegs };
 /// is; a code without a picture paints nothing.
 void PaintPiece(QPainter& painter, const QRectF& target, StancePiece piece, int code);
 
-/// A piece that is empty or has no picture is left blank.
+/// A code that is there without a picture of its own, such as one that cannot be read.
+inline constexpr int kUnknownCode = -1;
+
+/// What a batter is put together from. An empty piece is left blank; a code without a picture, of
+/// any value, becomes a dashed question mark.
 struct StanceCodes {
   std::optional<int> face;
   std::optional<int> body;
   std::optional<int> legs;
 };
 
+/// A club dresses its players in these: cap and stockings in the main colour, the cap's bill in the
+/// trim, undershirts in either.
+struct ClubColors {
+  QColor main;
+  QColor trim;
+};
+
 /// Paints the batter put together as large as the target allows, in the middle; his width is
 /// about 4/5 of his height. Batters of all codes come out at the same scale, on the same ground.
-void PaintStance(QPainter& painter, const QRectF& target, const StanceCodes& codes);
+/// Without a club he wears blue, as the single pieces do.
+void PaintStance(QPainter& painter, const QRectF& target, const StanceCodes& codes,
+                 const std::optional<ClubColors>& club = std::nullopt);
 
 }  // namespace morlek
