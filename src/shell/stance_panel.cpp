@@ -87,8 +87,12 @@ void StancePanel::ShowStanceRow() {
   for (std::size_t place = 0; place < choosers_.size(); ++place) {
     choosers_.at(place)->Mark(code_of(kFeatures.at(place)));
   }
+  const auto piece_of = [&](Column column) -> std::optional<int> {
+    if (document_.grid().Text({column, stance_row_}).empty()) return std::nullopt;
+    return std::optional<int>(code_of(column)).value_or(kUnknownCode);
+  };
   view_->ShowPlayer(FromCodePage(document_.grid().Text({Column::kText1, stance_row_})),
-                    {code_of(kFeatures[0]), code_of(kFeatures[1]), code_of(kFeatures[2])});
+                    {piece_of(kFeatures[0]), piece_of(kFeatures[1]), piece_of(kFeatures[2])});
 }
 
 }  // namespace morlek

@@ -89,6 +89,15 @@ TEST_F(StancePanelTest, ACodeIsWhatSaveMakesOfTheTextHoweverLongItIs) {
   TypeInto(12, 2, "FFFF0003");
   EXPECT_EQ(Seen(Find(Picture(1, 36))), marked);
   EXPECT_EQ(Seen(Find("StanceView")), with_face);
+
+  // A code without a picture, and what is no code, show as unknown; an empty box does not.
+  TypeInto(12, 2, "F0");
+  const QImage unknown_face = Seen(Find("StanceView"));
+  TypeInto(12, 2, "zz");
+  EXPECT_EQ(Seen(Find("StanceView")), unknown_face);
+  QTest::keyClick(&Box(12, 2), Qt::Key_Backspace);
+  QTest::keyClick(&Box(12, 2), Qt::Key_Backspace);
+  EXPECT_NE(Seen(Find("StanceView")), unknown_face);
 }
 
 }  // namespace
