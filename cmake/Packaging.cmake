@@ -1,33 +1,12 @@
 # What an installation holds beside the program, and the Debian package that CPack makes of it.
 # For Windows the program is one file: packaging/windows/build puts it into an archive.
-if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
-  return()
-endif()
-
 include(GNUInstallDirs)
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(app_id org.morlek.Editor)
 
-# add_compressed(<output> <input>): what the system reads compressed, without a time stamp inside.
-find_program(GZIP gzip REQUIRED)
-function(add_compressed output input)
-  add_custom_command(
-    OUTPUT ${output}
-    COMMAND ${GZIP} -9nc ${input} > ${output}
-    DEPENDS ${input}
-    VERBATIM)
-endfunction()
-set(man_page ${PROJECT_BINARY_DIR}/morlek-editor.1.gz)
-set(debian_changelog ${PROJECT_BINARY_DIR}/changelog.Debian.gz)
-add_compressed(${man_page} ${packaging}/linux/morlek-editor.1)
-add_compressed(${debian_changelog} ${packaging}/linux/changelog)
-add_custom_target(compressed_documents DEPENDS ${man_page} ${debian_changelog})
-add_dependencies(morlek-editor compressed_documents) # so whoever has the program can install it
-
 install(TARGETS morlek-editor)
 install(FILES ${packaging}/linux/${app_id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${packaging}/linux/${app_id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES ${packaging}/icons/${app_id}.svg DESTINATION ${icons}/scalable/apps)
 foreach(size IN ITEMS 16 32 48 64 128 256)
@@ -37,13 +16,20 @@ foreach(size IN ITEMS 16 32 48 64 128 256)
     RENAME ${app_id}.png)
 endforeach()
 
-# A Debian package tells the licences in its copyright file; every other installation has the texts.
+# A Debian package tells the licences in its copyright file and holds the man page compressed; every
+# other installation has both as they are.
+set(man_page ${packaging}/linux/morlek-editor.1)
+set(man_folder ${CMAKE_INSTALL_MANDIR}/man1)
+install(
+  FILES ${man_page}
+  DESTINATION ${man_folder}
+  COMPONENT plain)
 install(
   FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/resources/fonts/LICENSE-Roboto.txt
   DESTINATION ${CMAKE_INSTALL_DOCDIR}
-  COMPONENT licences)
+  COMPONENT plain)
 install(
-  FILES ${packaging}/linux/copyright ${debian_changelog}
+  FILES ${packaging}/linux/copyright
   DESTINATION ${CMAKE_INSTALL_DOCDIR}
   COMPONENT debian
   EXCLUDE_FROM_ALL)
@@ -54,12 +40,19 @@ install(
   COMPONENT debian
   EXCLUDE_FROM_ALL)
 
-if(MORLEK_BUILD_TESTS)
-  add_test(NAME Packaging.DesktopEntry COMMAND desktop-file-validate
-                                               ${packaging}/linux/${app_id}.desktop)
-  add_test(NAME Packaging.Metainfo COMMAND appstreamcli validate --no-net
-                                           ${packaging}/linux/${app_id}.metainfo.xml)
-endif()
+# install_compressed(<input> <folder> <name>): for the Debian package, without a time stamp inside.
+function(install_compressed input folder name)
+  install(
+    CODE "
+      set(output \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}/${name}\")
+      file(MAKE_DIRECTORY \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}\")
+      execute_process(
+        COMMAND gzip -9nc \"${input}\" OUTPUT_FILE \"\${output}\" COMMAND_ERROR_IS_FATAL ANY)
+    "
+    COMPONENT debian EXCLUDE_FROM_ALL)
+endfunction()
+install_compressed(${man_page} ${man_folder} morlek-editor.1.gz)
+install_compressed(${packaging}/linux/changelog ${CMAKE_INSTALL_DOCDIR} changelog.Debian.gz)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};${PROJECT_NAME};Unspecified;/"

@@ -25,8 +25,9 @@ const League kNational = {
 void ExpectContiguous(const League& league, int first, int last_byte) {
   int base = first;
   for (const std::string& key : league) {
-    ASSERT_NE(FindTeam(key), nullptr) << key;
-    EXPECT_EQ(FindTeam(key)->base, base) << key;
+    const Team* team = FindTeam(key);
+    ASSERT_NE(team, nullptr) << key;
+    EXPECT_EQ(team->base, base) << key;
     base += 800;
   }
   EXPECT_EQ(base - 1, last_byte);

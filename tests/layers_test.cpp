@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+
+namespace morlek {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kSources = MORLEK_SOURCE_FOLDER;
+
+// What each folder of src/ may include beside itself.
+const std::map<std::string, std::set<std::string>> kBelow = {
+    {"image", {}},
+    {"codecs", {"image"}},
+    {"team", {"image", "codecs"}},
+    {"textfile", {"image", "codecs", "team"}},
+    {"editor", {"image", "codecs", "team", "textfile"}},
+    {"art", {}},
+    {"shell", {"image", "codecs", "team", "textfile", "editor", "art"}}};
+const std::set<std::string> kKnowsQt = {"art", "shell"};
+// Headers that the build writes, or that only one system has.
+const std::map<std::string, std::string> kSpecial = {{"\"version.h\"", "shell"},
+                                                     {"<windows.h>", "shell"}};
+
+/// Whether a file in `layer` may contain `line`; lines that include nothing always may stand.
+bool MayStand(const std::string& layer, const std::string& line) {
+  static const std::regex include(R"(\s*#\s*include\b\s*([<"][^>"]*[>"])?.*)");
+  static const std::regex standard("<[a-z_]+>");
+  static const std::regex toolkit("<Q[A-Za-z]+>");
+  static const std::regex ours(R"re("([a-z]+)/[a-z_]+\.h")re");
+  std::smatch match;
+  if (!std::regex_match(line, match, include)) return true;
+  const std::string header = match[1];
+  const auto special = kSpecial.find(header);
+  if (special != kSpecial.end()) return special->second == layer;
+  if (std::regex_match(header, standard)) return true;
+  if (std::regex_match(header, toolkit)) return kKnowsQt.contains(layer);
+  if (!std::regex_match(header, match, ours)) return false;
+  const std::string folder = match[1];
+  return (folder == layer || kBelow.at(layer).contains(folder)) &&
+         exists(kSources / header.substr(1, header.size() - 2));
+}
+
+TEST(Layers, EveryIncludeFollowsTheArrows) {
+  std::set<std::string> seen;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(kSources)) {
+    const std::string extension = entry.path().extension().string();
+    if (extension != ".h" && extension != ".cpp") continue;
+    const fs::path file = entry.path().lexically_relative(kSources);
+    const std::string layer = file.begin()->string();
+    ASSERT_TRUE(kBelow.contains(layer)) << file << " stands in no layer";
+    seen.insert(layer);
+    std::ifstream text(entry.path());
+    for (std::string line; std::getline(text, line);) {
+      EXPECT_TRUE(MayStand(layer, line)) << file << " may not say " << line;
+    }
+  }
+  EXPECT_EQ(seen.size(), kBelow.size());
+}
+
+TEST(Layers, ArrowsTurnedRoundAndOddIncludesAreRefused) {
+  EXPECT_TRUE(MayStand("team", "#include \"image/channel.h\""));
+  for (const auto& [layer, line] : std::map<std::string, std::string>{
+           {"image", "#include \"codecs/hex_text.h\""},
+           {"codecs", "#include \"../team/roster_grid.h\""},
+           {"team", "  #  include \"editor/editor.h\" // only for a moment"},
+           {"textfile", "#include <QString>"},
+           {"editor", "#include \"image/no_such_header.h\""},
+           {"art", "#include \"image/channel.h\""},
+           {"shell", "#include <sys/stat.h>"}}) {
+    EXPECT_FALSE(MayStand(layer, line)) << layer << " says " << line;
+  }
+  for (const std::string line :
+       {"#include \"channel.h\"", "#include HEADER", "#include <windows.h>",
+        "#include <QtGui/QImage>", "#include \"/usr/include/stdio.h\""}) {
+    EXPECT_FALSE(MayStand("image", line)) << line;
+  }
+}
+
+}  // namespace
+}  // namespace morlek
