@@ -119,13 +119,17 @@ click_until_changed() {
   wait_for "a change after the click at $x, $y" click_and_compare "$@"
 }
 
-# Types over the box at a point.
+# Types over the box at a point, which must not have the focus yet. The window manager may hold a click
+# back while keys go on, and then a text typed too early would reach no box: so the mark of the focus is
+# waited for first.
 type_into() {
-  local before
+  local box=($(($1 - 8)) $(($2 - 8)) 16 16) before
+  before=$(look "${box[@]}")
   click "$1" "$2"
-  before=$(look $(($1 - 8)) $(($2 - 8)) 16 16)
+  wait_for "the focus of the box at $1, $2" differs "$before" "${box[@]}"
+  before=$(look "${box[@]}")
   xdotool type --delay 15 "$3"
-  wait_for "the text $3" differs "$before" $(($1 - 8)) $(($2 - 8)) 16 16
+  wait_for "the text $3" differs "$before" "${box[@]}"
 }
 
 # SAVE, and the message that it ends with.
