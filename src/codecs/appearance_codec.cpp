@@ -1,6 +1,9 @@
 #include "codecs/appearance_codec.h"
 
 #include <array>
+#include <limits>
+
+#include "codecs/hex_text.h"
 
 namespace morlek {
 namespace {
@@ -35,6 +38,12 @@ std::string AppearanceCodec::NormalizeAppearanceCode(std::string_view text) {
     }
   }
   return code;
+}
+
+std::optional<std::uint8_t> AppearanceByte(std::string_view text) {
+  const auto code = ByteTextToNumber(AppearanceCodec().NormalizeAppearanceCode(text));
+  if (!code || *code < 0 || *code > std::numeric_limits<std::uint8_t>::max()) return std::nullopt;
+  return static_cast<std::uint8_t>(*code);
 }
 
 }  // namespace morlek

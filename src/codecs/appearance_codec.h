@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,5 +20,8 @@ class AppearanceCodec {
  private:
   std::string skin_class_;
 };
+
+/// The byte that such a text is saved as; nothing when it has none and is passed over.
+[[nodiscard]] std::optional<std::uint8_t> AppearanceByte(std::string_view text);
 
 }  // namespace morlek

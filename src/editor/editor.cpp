@@ -126,4 +126,9 @@ Rehearsal Editor::Rehearse() const {
   return Rehearsal(document_.grid(), kept_, knowledge_.bytes());
 }
 
+GridMarks Editor::Marks() const {
+  if (!knowledge_.is_known()) return {};
+  return {document_.grid(), Rehearse(), knowledge_};
+}
+
 }  // namespace morlek

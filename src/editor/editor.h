@@ -6,6 +6,7 @@
 
 #include "codecs/message_port.h"
 #include "editor/editor_view.h"
+#include "editor/grid_marks.h"
 #include "editor/image_knowledge.h"
 #include "image/cartridge_image.h"
 #include "image/channel.h"
@@ -52,6 +53,10 @@ class Editor {
 
   /// What SAVE would make of the grid as it stands.
   [[nodiscard]] Rehearsal Rehearse() const;
+
+  /// What a person should know of each cell before pressing SAVE; no cell is marked before a team
+  /// has been loaded.
+  [[nodiscard]] GridMarks Marks() const;
 
   /// What the image is known to hold of the team in the grid.
   [[nodiscard]] const ImageKnowledge& knowledge() const { return knowledge_; }

@@ -7,6 +7,7 @@
 namespace morlek {
 
 void ImageKnowledge::LearnLoad(const RecordBytes& read, const RosterGrid& shown) {
+  is_known_ = true;
   bytes_ = read;
   texts_ = shown;
 }

@@ -21,6 +21,9 @@ class ImageKnowledge {
   /// Nothing is known any more: another image, a load that failed.
   void Forget() { *this = {}; }
 
+  /// Whether anything is known: a team has been loaded since.
+  [[nodiscard]] bool is_known() const { return is_known_; }
+
   /// The bytes, as far as they are known.
   [[nodiscard]] const RecordBytes& bytes() const { return bytes_; }
 
@@ -28,6 +31,7 @@ class ImageKnowledge {
   [[nodiscard]] const RosterGrid& texts() const { return texts_; }
 
  private:
+  bool is_known_ = false;
   RecordBytes bytes_;
   RosterGrid texts_;
 };

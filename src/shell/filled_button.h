@@ -10,6 +10,15 @@ class FilledButton : public QPushButton {
 
  public:
   FilledButton(const QString& caption, QWidget* parent);
+
+  /// A dot behind the caption tells that there is something left to do.
+  void SetDotted(bool dotted);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool is_dotted_ = false;
 };
 
 }  // namespace morlek

@@ -2,10 +2,11 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QDropEvent>
 #include <QFileInfo>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -13,9 +14,12 @@
 
 #include "shell/cls_on_top.h"
 #include "shell/code_page_text.h"
+#include "shell/dropped_file.h"
 #include "shell/help_pane.h"
+#include "shell/mark_text.h"
 #include "shell/roster_frame.h"
 #include "shell/stance_panel.h"
+#include "shell/status_line.h"
 #include "shell/team_toolbar.h"
 #include "shell/theme.h"
 #include "shell/twips.h"
@@ -102,6 +106,8 @@ void MainWindow::BuildContent() {
   hint_->setAccessibleName("what to do next");
   hint_->setAlignment(Qt::AlignCenter);
 
+  status_ = new StatusLine(content_);
+
   toolbar_ = new TeamToolbar(content_);
   toolbar_->move(FromTwips(60), 1);
   toolbar_->hide();
@@ -113,10 +119,13 @@ void MainWindow::BuildContent() {
 void MainWindow::AddRoster() {
   roster_ = new RosterFrame(editor_.document(), content_);
   roster_->stackUnder(identity_);
+  status_->raise();
   roster_->hide();
   connect(roster_, &RosterFrame::SaveRequested, this, [this] {
     // A hidden button can still be pressed by an assistive tool.
-    if (roster_->isVisible()) editor_.Save();
+    if (!roster_->isVisible()) return;
+    editor_.Save();
+    RefreshMarks();
   });
 
   stances_ = new StancePanel(editor_.document(), content_);
@@ -132,7 +141,10 @@ void MainWindow::AddRoster() {
     if (!StancePanel::IsFeature(cell.column)) return;
     stances_->Choose(cell);
     SetContentWidth(kWideWidth);
+    roster_->ShowStanceRow(cell.row);
   });
+  subscription_ = editor_.document().Subscribe([this](const GridChange&) { RefreshMarks(); });
+  setAcceptDrops(true);
 }
 
 QLabel* MainWindow::AddLabel(const char* name, const QRect& place) {
@@ -146,6 +158,7 @@ QLabel* MainWindow::AddLabel(const char* name, const QRect& place) {
 }
 
 void MainWindow::SetContentWidth(int twips) {
+  if (roster_ != nullptr && twips == kNarrowWidth) roster_->ShowStanceRow(std::nullopt);
   content_->setFixedSize(FromTwips(twips), kContentHeight);
   FitToScreen();
 }
@@ -170,6 +183,7 @@ void MainWindow::Run(Command command) {
   switch (command) {
     case Command::kOpen:
       editor_.OpenAnotherImage(ToPath(user_.AskOpenPath(RomQuestion())), *this);
+      RefreshMarks();
       break;
     case Command::kQuit:
       Quit();
@@ -205,6 +219,7 @@ void MainWindow::OpenFirstImage() {
   const std::optional<QString> path = user_.AskOpenPath(RomQuestion());
   AddRoster();
   editor_.OpenFirstImage(ToPath(path), *this);
+  RefreshMarks();
 }
 
 void MainWindow::ExportTeam() {
@@ -253,8 +268,38 @@ void MainWindow::ShowAbout() {
 void MainWindow::LoadTeam(std::string_view toolbar_key) {
   editor_.LoadTeam(toolbar_key, *this);
   // New texts have no selection; typing is to replace the value, as after a visit.
-  auto* box = qobject_cast<QLineEdit*>(focusWidget());
-  if (box != nullptr && roster_->isVisible() && roster_->isAncestorOf(box)) box->selectAll();
+  if (roster_->isVisible()) roster_->BeginVisit();
+  toolbar_->ShowPicked(roster_->isVisible());
+  RefreshMarks();
+}
+
+void MainWindow::RefreshMarks() {
+  const GridMarks marks = editor_.Marks();
+  roster_->ShowMarks(marks);
+  const std::u16string path = editor_.image_path().u16string();
+  status_->ShowImage(QString::fromStdU16String(path),
+                     roster_->isVisible() ? SummaryOf(marks) : QString());
+}
+
+void MainWindow::TakeFile(const QString& path) {
+  if (path.endsWith(".txt", Qt::CaseInsensitive)) {
+    editor_.ImportTeam(ToPath(path));
+  } else {
+    editor_.OpenAnotherImage(ToPath(path), *this);
+    RefreshMarks();
+  }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (DroppedFile(*event->mimeData())) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const std::optional<QString> path = DroppedFile(*event->mimeData());
+  if (!path) return;
+  event->acceptProposedAction();
+  // From the event loop: whoever drops is not to wait for an answer to a message.
+  QTimer::singleShot(0, this, [this, path = *path] { TakeFile(path); });
 }
 
 void MainWindow::HideRoster() {
@@ -262,6 +307,7 @@ void MainWindow::HideRoster() {
   QWidget* focused = focusWidget();
   if (focused != nullptr && roster_->isAncestorOf(focused)) focused->clearFocus();
   roster_->hide();
+  toolbar_->ShowPicked(false);
   ShowHint();
 }
 
@@ -269,10 +315,12 @@ void MainWindow::ShowHint() {
   hint_->show();
   hint_->setText(toolbar_->isHidden() ? "Open a ROM with Ctrl+O"
                                       : "Pick a team above, or press Ctrl+Page Down");
+  hint_->setAccessibleDescription(hint_->text());
 }
 
 void MainWindow::ShowIdentity(std::string_view byte_text) {
   identity_->setText(FromCodePage(byte_text));
+  identity_->setAccessibleDescription(identity_->text());
 }
 
 void MainWindow::ShowToolbar() {

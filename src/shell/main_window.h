@@ -16,6 +16,7 @@ namespace morlek {
 class HelpPane;
 class RosterFrame;
 class StancePanel;
+class StatusLine;
 class TeamToolbar;
 class clsOnTop;
 
@@ -33,6 +34,8 @@ class MainWindow : public QMainWindow, private EditorView {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void BuildMenus();
@@ -60,6 +63,12 @@ class MainWindow : public QMainWindow, private EditorView {
   void LoadTeam(std::string_view toolbar_key);
   void ShowHint();
 
+  /// Shows afresh what is not saved and what SAVE will not keep.
+  void RefreshMarks();
+
+  /// Takes a dropped file as if it had been chosen: a team data file to import, else an image.
+  void TakeFile(const QString& path);
+
   void ShowIdentity(std::string_view byte_text) override;
   void ShowToolbar() override;
   void HideRoster() override;
@@ -79,6 +88,8 @@ class MainWindow : public QMainWindow, private EditorView {
   StancePanel* stances_ = nullptr;
   QLabel* identity_ = nullptr;
   QLabel* hint_ = nullptr;
+  StatusLine* status_ = nullptr;
+  RosterDocument::Subscription subscription_;
   // Made when they are first needed: the start does not wait for them.
   HelpPane* help_ = nullptr;
   std::unique_ptr<clsOnTop> on_top_;

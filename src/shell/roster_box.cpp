@@ -1,15 +1,21 @@
 #include "shell/roster_box.h"
 
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QPainter>
-#include <memory>
+#include <utility>
 
 #include "shell/code_page_text.h"
+#include "shell/dropped_file.h"
+#include "shell/mark_text.h"
 #include "shell/menu_table.h"
 #include "shell/snapped_lines.h"
 #include "shell/theme.h"
+#include "textfile/pasted_block.h"
+#include "textfile/team_import.h"
 
 namespace morlek {
 namespace {
@@ -26,10 +32,7 @@ bool IsShortAbsence(Qt::FocusReason reason) {
 }
 
 QString AccessibleNameOf(const GridColumn& column, int row) {
-  const int number = IsPitcher(row) ? row - kBatterCount + 1 : row + 1;
-  return QString("%1, %2 %3")
-      .arg(FromCodePage(column.meaning), IsPitcher(row) ? "pitcher" : "batter")
-      .arg(number);
+  return QString("%1, %2").arg(FromCodePage(column.meaning), PlayerOf(row));
 }
 
 }  // namespace
@@ -54,14 +57,37 @@ void RosterBox::ShowText(const QString& text) {
   SelectForTyping();
 }
 
+void RosterBox::BeginVisit() {
+  entry_text_ = text();
+  SelectForTyping();
+}
+
+void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
+  if (mark == mark_ && tip == toolTip()) return;
+  if (mark.is_unsaved != mark_.is_unsaved) {
+    QPalette colors;
+    if (mark.is_unsaved) colors.setColor(QPalette::Text, theme::kUnsavedText);
+    setPalette(colors);
+  }
+  mark_ = mark;
+  setToolTip(tip);
+  setAccessibleDescription(tip);
+  update();
+}
+
+void RosterBox::SetTint(Tint tint) {
+  if (tint == tint_) return;
+  tint_ = tint;
+  update();
+}
+
 void RosterBox::SelectForTyping() {
   if (left_selection_) left_selection_ = {0, static_cast<int>(text().size())};
   if (hasFocus()) selectAll();
 }
 
 void RosterBox::PaintPanel(QPainter& painter) const {
-  const bool is_odd = (IsPitcher(row_) ? row_ - kBatterCount : row_) % 2 != 0;
-  painter.fillRect(rect(), is_odd && !hasFocus() ? theme::kOddRow : theme::kBase);
+  painter.fillRect(rect(), Ground());
   if (hasFocus()) {
     FrameSnapped(painter, rect(), 2, theme::kAccent);
   } else {
@@ -69,18 +95,75 @@ void RosterBox::PaintPanel(QPainter& painter) const {
   }
 }
 
-bool RosterBox::event(QEvent* event) { return !LeaveToMenu(*event) && QLineEdit::event(event); }
+QColor RosterBox::Ground() const {
+  if (hasFocus()) return theme::kBase;
+  if (tint_ == Tint::kStanceRow) return theme::kStanceRow;
+  if (tint_ == Tint::kFocusRow) return theme::kFocusRow;
+  const bool is_odd = (IsPitcher(row_) ? row_ - kBatterCount : row_) % 2 != 0;
+  return is_odd ? theme::kOddRow : theme::kBase;
+}
 
-void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
-  const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-  for (QAction* action : menu->actions()) {
-    // A key that belongs to the menu bar must not be promised here.
-    const QString key = action->text().section('\t', 1);
-    if (!key.isEmpty() && IsMenuKey(QKeySequence(key)[0])) {
-      action->setText(action->text().section('\t', 0, 0));
+void RosterBox::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  if (!mark_.is_unkept) return;
+  // Over text and selection alike, with a light edge that parts it from both.
+  constexpr qreal kSize = 7;
+  const QPointF corner(width() - 1, 1);
+  const QPointF left = corner - QPointF(kSize, 0);
+  const QPointF below = corner + QPointF(0, kSize);
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(theme::kUnkeptMark);
+  painter.drawPolygon(QPolygonF({left, corner, below}));
+  painter.setPen(QPen(theme::kBase, 1));
+  painter.drawLine(QLineF(left - QPointF(0.5, -0.5), below - QPointF(0.5, -0.5)));
+}
+
+bool RosterBox::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+      // Both are the whole grid's, not the line editor's own.
+      event->ignore();
+      return false;
     }
   }
-  menu->exec(event->globalPos());
+  return !LeaveToMenu(*event) && QLineEdit::event(event);
+}
+
+void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
+  // A file is for the window, also where it comes with its path as a text.
+  if (DroppedFile(*event->mimeData())) {
+    event->ignore();
+    return;
+  }
+  QLineEdit::dragEnterEvent(event);
+}
+
+void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu menu;
+  // Undo and redo are the grid's.
+  menu.addActions(parentWidget()->actions());
+  menu.addSeparator();
+  const auto add = [&menu](const QString& caption, QKeySequence::StandardKey key, bool enabled) {
+    QAction* action = menu.addAction(caption);
+    action->setShortcut(key);
+    action->setEnabled(enabled);
+    return action;
+  };
+  const auto on = [this](QAction* action, auto slot) {
+    connect(action, &QAction::triggered, this, slot);
+  };
+  on(add("Cu&t", QKeySequence::Cut, hasSelectedText()), &QLineEdit::cut);
+  on(add("&Copy", QKeySequence::Copy, hasSelectedText()), &QLineEdit::copy);
+  on(add("&Paste", QKeySequence::Paste, !QGuiApplication::clipboard()->text().isEmpty()),
+     [this] { PasteFrom(QClipboard::Clipboard); });
+  on(add("Delete", QKeySequence::UnknownKey, hasSelectedText()), [this] { del(); });
+  menu.addSeparator();
+  // Its usual key belongs to the menu bar.
+  on(add("Select All", QKeySequence::UnknownKey, !text().isEmpty()), &QLineEdit::selectAll);
+  menu.exec(event->globalPos());
 }
 
 void RosterBox::focusInEvent(QFocusEvent* event) {
@@ -92,7 +175,8 @@ void RosterBox::focusInEvent(QFocusEvent* event) {
     return;
   }
   swallowing_press_ = event->reason() == Qt::MouseFocusReason;
-  selectAll();
+  BeginVisit();
+  emit Entered();
   emit Visited();
 }
 
@@ -118,10 +202,16 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
     return;
   }
   const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const bool is_return = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (plain && event->key() == Qt::Key_Up) {
     emit RowStepRequested(-1);
-  } else if (plain && event->key() == Qt::Key_Down) {
+  } else if (plain && (event->key() == Qt::Key_Down || is_return)) {
     emit RowStepRequested(+1);
+  } else if (plain && event->key() == Qt::Key_Escape) {
+    if (text() != entry_text_) setText(entry_text_);
+    selectAll();
+  } else if (event->matches(QKeySequence::Paste)) {
+    PasteFrom(QClipboard::Clipboard);
   } else {
     QLineEdit::keyPressEvent(event);
   }
@@ -143,8 +233,23 @@ void RosterBox::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void RosterBox::mouseReleaseEvent(QMouseEvent* event) {
-  if (!swallowing_press_) QLineEdit::mouseReleaseEvent(event);
-  swallowing_press_ = false;
+  const bool is_swallowed = std::exchange(swallowing_press_, false);
+  if (is_swallowed) return;
+  if (event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
+    deselect();
+    PasteFrom(QClipboard::Selection);
+    return;
+  }
+  QLineEdit::mouseReleaseEvent(event);
+}
+
+void RosterBox::PasteFrom(QClipboard::Mode mode) {
+  const std::string pasted = ToCodePage(QGuiApplication::clipboard()->text(mode));
+  if (IsBlock(pasted)) {
+    emit BlockPasted(pasted);
+  } else {
+    insert(FromCodePage(WithoutLastLineBreak(pasted).substr(0, kLongestField)));
+  }
 }
 
 void RosterBox::KeepToCodePage() {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <optional>
+#include <string>
 
-#include "team/grid_columns.h"
+#include "editor/grid_marks.h"
 
 namespace morlek {
 
@@ -23,6 +25,16 @@ class RosterBox : public QLineEdit {
   /// after a visit.
   void ShowText(const QString& text);
 
+  /// What the box holds now is what Escape gives back, as if the box were entered now.
+  void BeginVisit();
+
+  /// Shows the marks of the cell; `tip` says in words what they mean, and is empty without any.
+  void ShowMark(const CellMark& mark, const QString& tip);
+
+  /// A tint of the row in which the box stands.
+  enum class Tint { kNone, kFocusRow, kStanceRow };
+  void SetTint(Tint tint);
+
   /// Selects the whole text if the box has the focus, or for the return of the focus from a menu or
   /// another window; does nothing for a box without the focus.
   void SelectForTyping();
@@ -35,12 +47,19 @@ class RosterBox : public QLineEdit {
   /// or the box was clicked while it had the focus.
   void Visited();
 
-  /// Up (-1) or Down (+1) was pressed, also where no row follows.
+  /// The focus came likewise: what is typed from now on belongs to a new visit.
+  void Entered();
+
+  /// A block of cells, in the code page, was pasted here.
+  void BlockPasted(const std::string& block);
+
+  /// Up (-1), or Down or Return (+1) was pressed, also where no row follows.
   void RowStepRequested(int rows);
 
  protected:
   bool event(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
@@ -49,8 +68,11 @@ class RosterBox : public QLineEdit {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
+  void PasteFrom(QClipboard::Mode mode);
+  [[nodiscard]] QColor Ground() const;
   void KeepToCodePage();
   /// A line break, which only a paste or a drop can bring, would break an exported line in two.
   void DropLineBreaks();
@@ -65,6 +87,9 @@ class RosterBox : public QLineEdit {
 
   Column column_;
   int row_;
+  CellMark mark_;
+  Tint tint_ = Tint::kNone;
+  QString entry_text_;
   // True from the mouse press that gave the focus up to its release: it must not drop the
   // selection.
   bool swallowing_press_ = false;

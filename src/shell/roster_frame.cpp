@@ -1,15 +1,20 @@
 #include "shell/roster_frame.h"
 
+#include <QAction>
 #include <QEvent>
 #include <QLabel>
 #include <QShortcut>
 #include <algorithm>
+#include <utility>
 
 #include "shell/code_page_text.h"
 #include "shell/filled_button.h"
+#include "shell/mark_text.h"
 #include "shell/roster_box.h"
 #include "shell/theme.h"
 #include "shell/twips.h"
+#include "team/accepted_texts.h"
+#include "textfile/pasted_block.h"
 
 namespace morlek {
 namespace {
@@ -29,7 +34,6 @@ int TopOfRow(int row) {
                         : kBatterTop + kRowStep * row;
 }
 
-
 }  // namespace
 
 RosterFrame::RosterFrame(RosterDocument& document, QWidget* parent)
@@ -41,27 +45,58 @@ RosterFrame::RosterFrame(RosterDocument& document, QWidget* parent)
   AddHeaders(kPitcherColumns, kFirstPitcherHeader, kPitcherHeaderTop);
   for (int row = 0; row < kSlotCount; ++row) AddRow(row);
   AddTeamNameAndSave();
+  AddKeys();
 
-  for (const Cell cell : kAllCells) {
-    boxes_.at(IndexOf(cell))->setText(FromCodePage(document_.grid().Text(cell)));
-  }
+  for (const Cell cell : kAllCells) BoxAt(cell).setText(FromCodePage(document_.grid().Text(cell)));
   subscription_ = document_.Subscribe([this](const GridChange& change) { Follow(change); });
 }
 
 void RosterFrame::Follow(const GridChange& change) {
   for (const CellChange& part : change) {
-    RosterBox& box = *boxes_.at(IndexOf(part.cell));
+    RosterBox& box = BoxAt(part.cell);
     const QString shown = FromCodePage(part.after);
     if (box.text() != shown) box.ShowText(shown);
   }
+  undo_->setEnabled(document_.can_undo());
+  redo_->setEnabled(document_.can_redo());
 }
 
-void RosterFrame::SelectForTyping(Cell cell) {
-  boxes_.at(IndexOf(cell))->SelectForTyping();
+void RosterFrame::SelectForTyping(Cell cell) { BoxAt(cell).SelectForTyping(); }
+
+void RosterFrame::BeginVisit() {
+  if (RosterBox* box = FocusedBox()) box->BeginVisit();
+}
+
+void RosterFrame::ShowMarks(const GridMarks& marks) {
+  marks_ = marks;
+  for (const Cell cell : kAllCells) BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
+  save_->SetDotted(marks.unsaved_count() > 0);
+  save_->setAccessibleDescription(SummaryOf(marks));
+}
+
+void RosterFrame::ShowStanceRow(std::optional<int> row) {
+  const std::optional<int> before = std::exchange(stance_row_, row);
+  TintRow(before);
+  TintRow(row);
+}
+
+void RosterFrame::TintRow(std::optional<int> row) {
+  if (!row) return;
+  using enum RosterBox::Tint;
+  const RosterBox::Tint tint = row == stance_row_  ? kStanceRow
+                               : row == focus_row_ ? kFocusRow
+                                                   : kNone;
+  for (const GridColumn& column : ColumnsOfRow(*row)) BoxAt({column.column, *row}).SetTint(tint);
+}
+
+RosterBox* RosterFrame::FocusedBox() const {
+  QWidget* focused = window()->focusWidget();
+  return focused != nullptr && isAncestorOf(focused) ? qobject_cast<RosterBox*>(focused) : nullptr;
 }
 
 void RosterFrame::SetTeamName(std::string_view display_name) {
   team_name_->setText(FromCodePage(display_name));
+  team_name_->setAccessibleDescription(team_name_->text());
 }
 
 bool RosterFrame::event(QEvent* event) {
@@ -87,7 +122,9 @@ void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int t
     auto* label = new QLabel(FromCodePage(column.caption), this);
     label->setObjectName(QString("Label4(%1)").arg(index));
     label->setAccessibleName(FromCodePage(column.meaning));
-    label->setToolTip(FromCodePage(column.meaning));
+    const std::string accepted = AcceptedTexts(column.column, first_index == kFirstPitcherHeader);
+    label->setToolTip(FromCodePage(std::string(column.meaning) + ", " + accepted));
+    label->setAccessibleDescription(FromCodePage(accepted));
     label->setGeometry(
         RectFromTwips(column.left, top, column.width, kBatterTop - kBatterHeaderTop));
     label->setFont(theme::Font(kPixels, QFont::DemiBold));
@@ -112,7 +149,16 @@ void RosterFrame::AddRow(int row) {
       // Not the signal's text, which the box may have corrected by now.
       document_.Type(cell, ToCodePage(box->text()));
     });
+    connect(box, &RosterBox::Entered, this, [this, cell] {
+      document_.EndVisit();
+      const std::optional<int> before = std::exchange(focus_row_, cell.row);
+      TintRow(before);
+      TintRow(cell.row);
+    });
     connect(box, &RosterBox::Visited, this, [this, cell] { emit CellVisited(cell); });
+    connect(box, &RosterBox::BlockPasted, this, [this, cell](const std::string& block) {
+      document_.Replace(WithBlock(document_.grid(), cell, block));
+    });
     connect(box, &RosterBox::RowStepRequested, this,
             [this, cell](int rows) { StepRow(cell, rows); });
   }
@@ -127,14 +173,50 @@ void RosterFrame::AddTeamNameAndSave() {
   team_name_->setGeometry(RectFromTwips(0, 60, 4140, 375));
   team_name_->setFont(theme::Font(kNamePixels, QFont::Bold));
 
-  auto* save = new FilledButton("SAVE", this);
-  save->setObjectName("Command1");
-  save->setAccessibleName("SAVE");
-  save->setGeometry(RectFromTwips(4200, 60, 2295, 375));
-  save->setFont(theme::Font(kSavePixels, QFont::Bold));
-  connect(save, &QPushButton::clicked, this, &RosterFrame::SaveRequested);
+  save_ = new FilledButton("SAVE", this);
+  save_->setObjectName("Command1");
+  save_->setAccessibleName("SAVE");
+  save_->setGeometry(RectFromTwips(4200, 60, 2295, 375));
+  save_->setFont(theme::Font(kSavePixels, QFont::Bold));
+  connect(save_, &QPushButton::clicked, this, &RosterFrame::SaveRequested);
   connect(new QShortcut(Qt::CTRL | Qt::Key_S, this), &QShortcut::activated, this,
           &RosterFrame::SaveRequested);
+}
+
+void RosterFrame::AddKeys() {
+  const auto add = [this](const QString& caption, const QList<QKeySequence>& keys, auto run) {
+    auto* action = new QAction(caption, this);
+    action->setShortcuts(keys);
+    action->setEnabled(false);
+    connect(action, &QAction::triggered, this, run);
+    addAction(action);
+    return action;
+  };
+  undo_ = add("&Undo", {Qt::CTRL | Qt::Key_Z}, [this] { FollowHistory(document_.Undo()); });
+  redo_ = add("&Redo", {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
+              [this] { FollowHistory(document_.Redo()); });
+  connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, this,
+          [this] { GoToUnkept(false); });
+  connect(new QShortcut(Qt::SHIFT | Qt::Key_F8, this), &QShortcut::activated, this,
+          [this] { GoToUnkept(true); });
+}
+
+void RosterFrame::GoTo(Cell cell) {
+  RosterBox& box = BoxAt(cell);
+  box.setFocus(Qt::OtherFocusReason);
+  // It may have had the focus, and be out of view.
+  box.selectAll();
+  emit CellVisited(cell);
+}
+
+void RosterFrame::FollowHistory(std::optional<Cell> changed) {
+  if (changed) GoTo(*changed);
+}
+
+void RosterFrame::GoToUnkept(bool backwards) {
+  const RosterBox* box = FocusedBox();
+  const Cell from = box == nullptr ? Cell{Column::kText1, 0} : Cell{box->column(), box->row()};
+  if (const auto cell = marks_.NextUnkept(from, backwards)) GoTo(*cell);
 }
 
 void RosterFrame::StepRow(Cell from, int rows) {
@@ -144,7 +226,7 @@ void RosterFrame::StepRow(Cell from, int rows) {
   const BlockColumns& columns = ColumnsOfRow(from.row);
   const auto place = std::ranges::find(columns, from.column, &GridColumn::column);
   const Column target = ColumnsOfRow(row)[static_cast<std::size_t>(place - columns.begin())].column;
-  boxes_.at(IndexOf({target, row}))->setFocus(Qt::OtherFocusReason);
+  BoxAt({target, row}).setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace morlek

@@ -2,14 +2,18 @@
 
 #include <QFrame>
 #include <array>
+#include <optional>
 #include <string_view>
 
+#include "editor/grid_marks.h"
 #include "team/roster_document.h"
 
+class QAction;
 class QLabel;
 
 namespace morlek {
 
+class FilledButton;
 class RosterBox;
 
 /// The frame with the roster grid, its headers, the team's name and the SAVE button. Its boxes are
@@ -26,6 +30,15 @@ class RosterFrame : public QFrame {
   /// Selects the text of a cell of row 0 to 24 if its box has the focus, so that typing replaces
   /// it.
   void SelectForTyping(Cell cell);
+
+  /// The team has just been loaded: Escape gives back what the box with the focus holds now.
+  void BeginVisit();
+
+  /// Shows the marks of all cells, and on SAVE whether anything is not saved.
+  void ShowMarks(const GridMarks& marks);
+
+  /// Tints the row of players into which picked pictures go; nothing when none is in view.
+  void ShowStanceRow(std::optional<int> row);
 
   /// Shows a text of the code page as the team's name, in one line that is cut where it is too
   /// long.
@@ -48,14 +61,35 @@ class RosterFrame : public QFrame {
   void AddHeaders(const BlockColumns& columns, int first_index, int top);
   void AddRow(int row);
   void AddTeamNameAndSave();
+  void AddKeys();
   void StepRow(Cell from, int rows);
+
+  /// Gives a cell the focus, as a visit.
+  void GoTo(Cell cell);
+
+  /// Takes a step of the history, if there was one, and goes where it changed the grid.
+  void FollowHistory(std::optional<Cell> changed);
+
+  /// Goes to the next cell that SAVE will not keep, or back to the one before.
+  void GoToUnkept(bool backwards);
+
+  [[nodiscard]] RosterBox& BoxAt(Cell cell) const { return *boxes_.at(IndexOf(cell)); }
+  /// The box with the focus, or null.
+  [[nodiscard]] RosterBox* FocusedBox() const;
+  void TintRow(std::optional<int> row);
 
   /// Shows the texts that a change has brought.
   void Follow(const GridChange& change);
 
   RosterDocument& document_;
   QLabel* team_name_ = nullptr;
+  FilledButton* save_ = nullptr;
+  QAction* undo_ = nullptr;
+  QAction* redo_ = nullptr;
   std::array<RosterBox*, kCellCount> boxes_{};
+  GridMarks marks_;
+  std::optional<int> focus_row_;
+  std::optional<int> stance_row_;
   RosterDocument::Subscription subscription_;
 };
 

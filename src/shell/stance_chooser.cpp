@@ -32,6 +32,7 @@ class StancePicture : public QAbstractButton {
     setAccessibleName(QString("%1 %2").arg(QString(kind.title).toLower(), code_text_));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
+    setCheckable(true);
     setGeometry(QRect(QPoint(kLeft + kColumnStep * (index / kPictureRows),
                              kTop + kRowStep * (index % kPictureRows)),
                       kPictureSize));
@@ -39,12 +40,6 @@ class StancePicture : public QAbstractButton {
 
   [[nodiscard]] std::uint8_t code() const { return code_; }
   [[nodiscard]] const QString& code_text() const { return code_text_; }
-
-  void SetMarked(bool marked) {
-    if (marked_ == marked) return;
-    marked_ = marked;
-    update();
-  }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
@@ -54,26 +49,29 @@ class StancePicture : public QAbstractButton {
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled()) painter.setOpacity(0.5);
 
-    const bool lit = marked_ || underMouse();
-    const qreal line = marked_ ? 2 : 1;
+    const bool marked = isChecked();
+    const bool lit = marked || underMouse();
+    const qreal line = marked ? 2 : 1;
     painter.setPen(QPen(lit ? theme::kAccent : theme::kLine, line));
-    painter.setBrush(marked_ || isDown() ? theme::kHover : theme::kBase);
+    painter.setBrush(marked || isDown() ? theme::kHover : theme::kBase);
     const QRectF tile = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
     painter.drawRoundedRect(tile, kRadius, kRadius);
 
     PaintPiece(painter, QRectF(2, 1, height() - 2, height() - 2), piece_, code_);
 
-    painter.setPen(marked_ ? theme::kAccent : theme::kHeaderText);
-    painter.setFont(theme::Font(kCodePixels, marked_ ? QFont::Bold : QFont::Normal));
+    painter.setPen(marked ? theme::kAccent : theme::kHeaderText);
+    painter.setFont(theme::Font(kCodePixels, marked ? QFont::Bold : QFont::Normal));
     painter.drawText(QRectF(rect()).adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
                      code_text_);
   }
+
+  // The mark shows the code of the stance row; a click alone does not change that.
+  void nextCheckState() override {}
 
  private:
   StancePiece piece_;
   std::uint8_t code_;
   QString code_text_;
-  bool marked_ = false;
 };
 
 StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent) : QFrame(parent) {
@@ -99,7 +97,7 @@ StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent) : QFrame(
 }
 
 void StanceChooser::Mark(std::optional<int> code) {
-  for (StancePicture* picture : pictures_) picture->SetMarked(code == picture->code());
+  for (StancePicture* picture : pictures_) picture->setChecked(code == picture->code());
 }
 
 }  // namespace morlek

@@ -1,11 +1,9 @@
 #include "shell/stance_panel.h"
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 
 #include "codecs/appearance_codec.h"
-#include "codecs/hex_text.h"
 #include "shell/code_page_text.h"
 #include "shell/stance_chooser.h"
 #include "shell/stance_view.h"
@@ -27,14 +25,6 @@ constexpr std::array<ChooserKind, 3> kKinds = {{
     {StancePiece::kBody, "Frame3", "Picture2", "Label2", "Body", ""},
     {StancePiece::kLegs, "Frame4", "Picture3", "Label5", "Legs", ""},
 }};
-
-/// The byte that SAVE makes of a features text, or nothing.
-std::optional<int> StoredCode(const std::string& text) {
-  AppearanceCodec codec;
-  const std::optional<std::int32_t> code = ByteTextToNumber(codec.NormalizeAppearanceCode(text));
-  if (!code || *code < 0 || *code > std::numeric_limits<std::uint8_t>::max()) return std::nullopt;
-  return code;
-}
 
 }  // namespace
 
@@ -82,7 +72,7 @@ void StancePanel::AddChooser(std::size_t place) {
 
 void StancePanel::ShowStanceRow() {
   const auto code_of = [this](Column column) {
-    return StoredCode(document_.grid().Text({column, stance_row_}));
+    return AppearanceByte(document_.grid().Text({column, stance_row_}));
   };
   for (std::size_t place = 0; place < choosers_.size(); ++place) {
     choosers_.at(place)->Mark(code_of(kFeatures.at(place)));

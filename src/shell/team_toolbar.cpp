@@ -29,20 +29,25 @@ class TeamButton : public QAbstractButton {
     setIcon(badge);
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
+    setCheckable(true);
   }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
-    constexpr int kGap = 2;
+    constexpr int kGap = 3;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (underMouse() || isDown()) {
-      painter.setPen(Qt::NoPen);
-      painter.setBrush(isDown() ? theme::kAccent : theme::kHover);
-      painter.drawRoundedRect(rect(), 4, 4);
+    if (isChecked() || underMouse() || isDown()) {
+      const bool is_strong = isChecked() || isDown();
+      painter.setPen(QPen(is_strong ? theme::kAccent : theme::kHoverRing, is_strong ? 2 : 1.5));
+      painter.setBrush(theme::kHover);
+      painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
     }
     icon().paint(&painter, rect().adjusted(kGap, kGap, -kGap, -kGap));
   }
+
+  // The ring shows which team is on the screen; a click alone does not change that.
+  void nextCheckState() override {}
 };
 
 }  // namespace
@@ -59,19 +64,38 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
     button->setGeometry(place % kButtonsInRow * kButtonWidth, place / kButtonsInRow * kButtonHeight,
                         kButtonWidth, kButtonHeight);
     connect(button, &QAbstractButton::clicked, this, [this, place] { Pick(place); });
+    buttons_.push_back(button);
     ++place;
   }
 
   connect(new QShortcut(Qt::CTRL | Qt::Key_PageDown, this), &QShortcut::activated, this,
-          [this] { Pick(picked_ + 1); });
+          [this] { Step(+1); });
   connect(new QShortcut(Qt::CTRL | Qt::Key_PageUp, this), &QShortcut::activated, this,
-          [this] { Pick(picked_ - 1); });
+          [this] { Step(-1); });
+}
+
+void TeamToolbar::Restart() {
+  ShowPicked(false);
+  picked_.reset();
+}
+
+void TeamToolbar::ShowPicked(bool on_screen) {
+  for (int place = 0; place < kTeams; ++place) {
+    buttons_.at(static_cast<std::size_t>(place))->setChecked(on_screen && place == picked_);
+  }
 }
 
 void TeamToolbar::Pick(int place) {
-  if (place < 0 || place >= kTeams) return;
   picked_ = place;
   emit TeamPicked(kTeamDirectory.at(static_cast<std::size_t>(place)).key);
+}
+
+void TeamToolbar::Step(int places) {
+  if (picked_) {
+    Pick((*picked_ + places + kTeams) % kTeams);
+  } else if (places > 0) {
+    Pick(0);
+  }
 }
 
 }  // namespace morlek

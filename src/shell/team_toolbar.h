@@ -1,7 +1,11 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <string_view>
+#include <vector>
+
+class QAbstractButton;
 
 namespace morlek {
 
@@ -14,7 +18,10 @@ class TeamToolbar : public QWidget {
   explicit TeamToolbar(QWidget* parent);
 
   /// Begins anew with the first team, for another image.
-  void Restart() { picked_ = kNone; }
+  void Restart();
+
+  /// Whether the team that was picked last is on the screen: its badge then has a ring.
+  void ShowPicked(bool on_screen);
 
  signals:
   /// The team with this toolbar key, which is one of the directory and lives on, was picked by its
@@ -24,8 +31,11 @@ class TeamToolbar : public QWidget {
  private:
   void Pick(int place);
 
-  static constexpr int kNone = -1;
-  int picked_ = kNone;  // place in the directory
+  /// Picks the next team, or the previous one, going round.
+  void Step(int places);
+
+  std::vector<QAbstractButton*> buttons_;  // in the directory's order
+  std::optional<int> picked_;              // place in the directory
 };
 
 }  // namespace morlek

@@ -18,6 +18,11 @@ inline constexpr QColor kText{0x1b, 0x22, 0x2d};
 inline constexpr QColor kFaintText{0x64, 0x70, 0x82};
 inline constexpr QColor kAccent{0x1f, 0x5f, 0xd0};
 inline constexpr QColor kHover{0xdb, 0xe8, 0xff};
+inline constexpr QColor kHoverRing{0x7d, 0xa4, 0xe6};
+inline constexpr QColor kFocusRow{0xee, 0xf4, 0xff};
+inline constexpr QColor kStanceRow{0xff, 0xf5, 0xdb};
+inline constexpr QColor kUnsavedText = kAccent;
+inline constexpr QColor kUnkeptMark{0xd3, 0x2f, 0x2f};
 inline constexpr QColor kCritical{0xc6, 0x28, 0x28};
 
 /// Colours for every part of every window, dialogs and menus included.

@@ -56,6 +56,9 @@ class RosterDocument {
   std::optional<Cell> Undo();
   std::optional<Cell> Redo();
 
+  [[nodiscard]] bool can_undo() const { return done_ > 0; }
+  [[nodiscard]] bool can_redo() const { return done_ < steps_.size(); }
+
  private:
   /// Puts the texts before or after a change into the grid, and tells.
   void Apply(const GridChange& change);

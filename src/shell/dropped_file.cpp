@@ -1,0 +1,17 @@
+#include "shell/dropped_file.h"
+
+#include <QFileInfo>
+#include <QMimeData>
+#include <QUrl>
+
+namespace morlek {
+
+std::optional<QString> DroppedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  if (urls.size() != 1 || !urls.front().isLocalFile()) return std::nullopt;
+  const QString path = urls.front().toLocalFile();
+  if (!QFileInfo(path).isFile()) return std::nullopt;
+  return path;
+}
+
+}  // namespace morlek

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+class QMimeData;
+
+namespace morlek {
+
+/// The path of the one file that is being dropped; nothing for a folder, several things, an address
+/// elsewhere or a text.
+[[nodiscard]] std::optional<QString> DroppedFile(const QMimeData& data);
+
+}  // namespace morlek

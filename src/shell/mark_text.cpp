@@ -1,0 +1,66 @@
+#include "shell/mark_text.h"
+
+#include <QStringList>
+
+#include "shell/code_page_text.h"
+
+namespace morlek {
+namespace {
+
+/// A text of the grid within a sentence.
+QString Quoted(const std::string& text) {
+  return text.empty() ? QString("an empty box") : FromCodePage(text);
+}
+
+QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
+  const QString after = Quoted(mark.after);
+  switch (mark.fate) {
+    case Rehearsal::Fate::kStored:
+      return QString("SAVE stores %1").arg(after);
+    case Rehearsal::Fate::kSkipped:
+      return QString("SAVE skips this; the image keeps %1").arg(after);
+    case Rehearsal::Fate::kEndsSave:
+      return QString("SAVE ends here, because this name is too long; the image then holds %1")
+          .arg(after);
+    case Rehearsal::Fate::kNotReached:
+      break;
+  }
+  // Initials are saved before all else, so a name may change even so.
+  const bool is_name = cell.column == Column::kText1;
+  return QString("SAVE does not reach this, because the name of %1 is too long; the image %2 %3")
+      .arg(PlayerOf(marks.end_row().value_or(cell.row)), is_name ? "then holds" : "keeps", after);
+}
+
+QString Counted(int count, const QString& one, const QString& many) {
+  return QString("%1 %2").arg(count).arg(count == 1 ? one : many);
+}
+
+}  // namespace
+
+QString TipOf(const GridMarks& marks, Cell cell) {
+  const CellMark& mark = marks.At(cell);
+  QStringList lines;
+  if (mark.is_unkept) lines << WhatSaveDoes(marks, cell, mark);
+  if (mark.is_unsaved)
+    lines << QString("Not saved yet; the image holds %1").arg(Quoted(mark.known));
+  return lines.join('\n');
+}
+
+QString SummaryOf(const GridMarks& marks) {
+  QStringList parts;
+  if (marks.unsaved_count() > 0) {
+    parts << Counted(marks.unsaved_count(), "change not saved", "changes not saved");
+  }
+  if (marks.unkept_count() > 0) {
+    parts << QString("SAVE will not keep %1 (F8)")
+                 .arg(Counted(marks.unkept_count(), "cell", "cells"));
+  }
+  return parts.join(QString::fromUtf8(" \u00b7 "));
+}
+
+QString PlayerOf(int row) {
+  return IsPitcher(row) ? QString("pitcher %1").arg(row - kBatterCount + 1)
+                        : QString("batter %1").arg(row + 1);
+}
+
+}  // namespace morlek

@@ -1,0 +1,36 @@
+#include "shell/status_line.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "shell/theme.h"
+#include "shell/twips.h"
+
+namespace morlek {
+namespace {
+
+constexpr int kPixels = 11;
+constexpr int kSmallestNameWidth = 60;
+
+}  // namespace
+
+StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
+  setObjectName("labelStatus");
+  setAccessibleName("status");
+  setGeometry(8, 635, 388, 16);
+  setFont(theme::Font(kPixels));
+  setTextFormat(Qt::PlainText);
+}
+
+void StatusLine::ShowImage(const QString& path, const QString& summary) {
+  const QString tail = summary.isEmpty() ? QString() : QString::fromUtf8("  \u00b7  ") + summary;
+  const QFontMetrics metrics(font());
+  const int room = std::max(width() - metrics.horizontalAdvance(tail), kSmallestNameWidth);
+  const QString name = QFileInfo(path).fileName();
+  setText(path.isEmpty() ? QString() : metrics.elidedText(name, Qt::ElideMiddle, room) + tail);
+  setToolTip(QDir::toNativeSeparators(path));
+  setAccessibleDescription(path.isEmpty() ? QString() : name + tail);
+}
+
+}  // namespace morlek
