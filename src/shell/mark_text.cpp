@@ -41,8 +41,10 @@ QString TipOf(const GridMarks& marks, Cell cell) {
   const CellMark& mark = marks.At(cell);
   QStringList lines;
   if (mark.is_unkept) lines << WhatSaveDoes(marks, cell, mark);
-  if (mark.is_unsaved)
+  const bool is_told = mark.is_unkept && mark.after == mark.known;
+  if (mark.is_unsaved && !is_told) {
     lines << QString("Not saved yet; the image holds %1").arg(Quoted(mark.known));
+  }
   return lines.join('\n');
 }
 

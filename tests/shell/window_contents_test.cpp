@@ -116,9 +116,11 @@ TEST_F(WindowContentsTest, ColumnHeads) {
     const auto& head = Find<QLabel>(QString("Label4(%1)").arg(index));
     const QWidget* box = Find("Frame1").childAt(head.geometry().center() + QPoint(0, 24));
     ASSERT_NE(box, nullptr) << index;
-    EXPECT_EQ(box->accessibleName().section(", ", 0, 0), head.toolTip());
+    const QString meaning = head.toolTip().section(", ", 0, 0);
+    EXPECT_EQ(box->accessibleName().section(", ", 0, 0), meaning);
+    EXPECT_EQ(head.accessibleDescription(), head.toolTip().section(", ", 1));
     EXPECT_LE(head.fontMetrics().horizontalAdvance(head.text()), head.width()) << index;
-    heads << head.text() + " " + head.toolTip() + " " + box->objectName();
+    heads << head.text() + " " + meaning + " " + box->objectName();
   }
   EXPECT_EQ(heads.join(", ").toStdString(), kHeads);
 }
