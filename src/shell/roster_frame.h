@@ -22,8 +22,6 @@ class RosterFrame : public QFrame {
   Q_OBJECT
 
  public:
-  Q_DISABLE_COPY_MOVE(RosterFrame)
-
   /// The document outlives the frame.
   RosterFrame(RosterDocument& document, QWidget* parent);
 
