@@ -25,8 +25,7 @@ class RosterFrame : public QFrame {
   /// The document outlives the frame.
   RosterFrame(RosterDocument& document, QWidget* parent);
 
-  /// Selects the text of a cell of row 0 to 24 if its box has the focus, so that typing replaces
-  /// it.
+  /// Selects the text of a cell if its box has the focus, so that typing replaces it.
   void SelectForTyping(Cell cell);
 
   /// The team has just been loaded: Escape gives back what the box with the focus holds now.

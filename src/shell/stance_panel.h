@@ -23,8 +23,8 @@ class StancePanel : public QWidget {
   /// True for the columns of face, body and legs.
   [[nodiscard]] static bool IsFeature(Column column);
 
-  /// Shows the chooser of a features cell's column, hides the other two, and makes the cell's row
-  /// the stance row, into which all three choosers put their codes.
+  /// Shows the chooser of a features cell's column (for any other cell none), hides the other two,
+  /// and makes the cell's row the stance row, into which all three choosers put their codes.
   void Choose(Cell cell);
 
  signals:
