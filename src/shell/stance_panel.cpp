@@ -79,7 +79,7 @@ void StancePanel::ShowStanceRow() {
   }
   const auto piece_of = [&](Column column) -> std::optional<int> {
     if (document_.grid().Text({column, stance_row_}).empty()) return std::nullopt;
-    return std::optional<int>(code_of(column)).value_or(kUnknownCode);
+    return code_of(column).value_or(kUnknownCode);
   };
   view_->ShowPlayer(FromCodePage(document_.grid().Text({Column::kText1, stance_row_})),
                     {piece_of(kFeatures[0]), piece_of(kFeatures[1]), piece_of(kFeatures[2])});
