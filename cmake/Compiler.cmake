@@ -13,6 +13,20 @@ target_compile_options(
             -Woverloaded-virtual
             -Wformat=2)
 
+# What is optimised on Linux is hardened like a distribution's package, whoever builds it. The
+# sanitizers check more than this, and in their own way.
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT MORLEK_SANITIZE)
+  set(optimised "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>")
+  target_compile_options(
+    morlek_compiler INTERFACE "$<${optimised}:-fstack-protector-strong>"
+                              "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+  target_compile_definitions(morlek_compiler INTERFACE "$<${optimised}:_GLIBCXX_ASSERTIONS>")
+  target_link_options(morlek_compiler INTERFACE LINKER:-z,relro,-z,now)
+endif()
+
 if(MORLEK_BUILD_FUZZERS)
   target_compile_options(morlek_compiler INTERFACE -fsanitize=fuzzer-no-link)
 endif()
