@@ -5,7 +5,6 @@ set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(app_id org.morlek.Editor)
 
 install(TARGETS morlek-editor)
-install(FILES ${packaging}/linux/${app_id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${packaging}/linux/${app_id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES ${packaging}/icons/${app_id}.svg DESTINATION ${icons}/scalable/apps)
@@ -16,8 +15,33 @@ foreach(size IN ITEMS 16 32 48 64 128 256)
     RENAME ${app_id}.png)
 endforeach()
 
+add_custom_target(
+  uninstall
+  COMMAND ${CMAKE_COMMAND} -P ${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake
+  WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
+  VERBATIM)
+
 # A Debian package tells the licences in its copyright file and holds the man page compressed; every
-# other installation has both as they are.
+# other installation has both as they are. Its desktop entry names the program by its whole path,
+# because a session need not look for programs where a person installs them.
+set(desktop_entry ${packaging}/linux/${app_id}.desktop)
+set(desktop_folder ${CMAKE_INSTALL_DATADIR}/applications)
+install(
+  FILES ${desktop_entry}
+  DESTINATION ${desktop_folder}
+  COMPONENT debian
+  EXCLUDE_FROM_ALL)
+install(
+  CODE "
+    set(installed \"\${CMAKE_INSTALL_PREFIX}/${desktop_folder}/${app_id}.desktop\")
+    file(READ \"${desktop_entry}\" entry)
+    string(REPLACE \"Exec=morlek-editor\"
+      \"Exec=\\\"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/morlek-editor\\\"\" entry \"\${entry}\")
+    message(STATUS \"Installing: \$ENV{DESTDIR}\${installed}\")
+    file(WRITE \"\$ENV{DESTDIR}\${installed}\" \"\${entry}\")
+    list(APPEND CMAKE_INSTALL_MANIFEST_FILES \"\${installed}\")
+  "
+  COMPONENT plain)
 set(man_page ${packaging}/linux/morlek-editor.1)
 set(man_folder ${CMAKE_INSTALL_MANDIR}/man1)
 install(
@@ -67,6 +91,9 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Morlek Editor developers <developers@morlek.example>")
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://morlek.example/editor)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The desktop's own file dialogs, and a window on Wayland without XWayland.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+    "qt6-gtk-platformtheme | qt6-xdgdesktopportal-platformtheme, qt6-wayland")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "team editor for the cartridge image of a SNES baseball game")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
     "Opens the cartridge image of the SNES game Dale Harrow Jr. Baseball and shows
