@@ -2,6 +2,7 @@
 # with `set -euo pipefail`; the caller sets `shots`, the folder for screenshots.
 
 patience=${PATIENCE:-30} # seconds
+export LC_ALL=C.UTF-8 # so that any folder's name can be read, whatever this session speaks
 pids=()
 
 finish() {
