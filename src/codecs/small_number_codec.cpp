@@ -12,7 +12,7 @@ namespace {
 std::optional<std::uint8_t> ShownNumber(std::string_view text) {
   std::uint8_t number = 0;
   const auto parsed = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (parsed.ec != std::errc() || number > kLargestNumber) return std::nullopt;
+  if (parsed.ec != std::errc() || number > kLargestSmallNumber) return std::nullopt;
   if (std::to_string(number) != text) return std::nullopt;
   return number;
 }
@@ -21,13 +21,13 @@ std::optional<std::uint8_t> ShownNumber(std::string_view text) {
 
 const std::string& SmallNumberCodec::DecodeSmallNumber(int slot) {
   const std::uint8_t number = number_bytes.at(static_cast<std::size_t>(slot));
-  if (number <= kLargestNumber) number_text_ = std::to_string(number);
+  if (number <= kLargestSmallNumber) number_text_ = std::to_string(number);
   return number_text_;
 }
 
 const std::string& SmallNumberCodec::EncodeSmallNumber(int slot) {
   const std::uint8_t number = number_bytes.at(static_cast<std::size_t>(slot));
-  if (number <= kLargestNumber) number_text_ = ByteToTwoDigits(number);
+  if (number <= kLargestSmallNumber) number_text_ = ByteToTwoDigits(number);
   return number_text_;
 }
 

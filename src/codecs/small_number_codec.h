@@ -9,7 +9,8 @@
 
 namespace morlek {
 
-inline constexpr std::uint8_t kLargestNumber = 200;
+/// The largest number that a field of this kind shows and takes.
+inline constexpr std::uint8_t kLargestSmallNumber = 200;
 
 /// Whole numbers from 0 to 200 in one byte: uniform numbers and counting statistics. Larger bytes
 /// have no row, and the results below then stay as they were.

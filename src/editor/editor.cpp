@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include "codecs/code_page.h"
 #include "codecs/hex_text.h"
 #include "image/failure.h"
 #include "team/team_saver.h"
+#include "textfile/pasted_block.h"
 #include "textfile/team_export.h"
 #include "textfile/team_import.h"
 
@@ -69,7 +71,7 @@ bool Editor::Judge(const std::filesystem::path& path, std::uint8_t identity, Edi
 }
 
 void Editor::LoadTeam(std::string_view toolbar_key, EditorView& view) {
-  const bool was_held = channel_.is_open();
+  const bool was_held = channel_.is_open_for_text();
   RosterGrid grid = document_.grid();
   try {
     const RecordBytes read = TeamLoader(image_, kept_).Load(toolbar_key, grid, view);
@@ -120,6 +122,18 @@ bool Editor::ExportTeam(const std::optional<std::filesystem::path>& chosen) {
     return false;
   }
   return true;
+}
+
+void Editor::TakeFile(const std::filesystem::path& path, EditorView& view) {
+  if (UpperCase(path.extension().string()) == ".TXT") {
+    ImportTeam(path);
+  } else {
+    OpenAnotherImage(path, view);
+  }
+}
+
+void Editor::PasteBlock(Cell start, std::string_view block) {
+  document_.Replace(WithBlock(document_.grid(), start, block));
 }
 
 Rehearsal Editor::Rehearse() const {

@@ -48,6 +48,14 @@ class Editor {
   /// holds channel 1 when it came while the file was written. Cancelling frees channel 1.
   [[nodiscard]] bool ExportTeam(const std::optional<std::filesystem::path>& chosen);
 
+  /// Takes a file that was given without a question as if it had been chosen: a ".txt" to import,
+  /// anything else as another image.
+  void TakeFile(const std::filesystem::path& path, EditorView& view);
+
+  /// Lays a pasted block of cells into the grid from a cell on, in one step.
+  void PasteBlock(Cell start, std::string_view block);
+
+  /// The roster, in which a window types, picks, undoes and redoes.
   [[nodiscard]] RosterDocument& document() { return document_; }
   [[nodiscard]] const RosterDocument& document() const { return document_; }
 

@@ -1,14 +1,14 @@
 #include "editor/grid_marks.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
+#include <vector>
 
 #include "codecs/code_page.h"
 
 namespace morlek {
 namespace {
-
-bool IsFeature(Column column) { return column >= Column::kText12; }
 
 /// The text without what makes no difference to the image.
 std::string Essence(Cell cell, std::string_view text) {
@@ -52,15 +52,15 @@ GridMarks::GridMarks(const RosterGrid& grid, const Rehearsal& rehearsal,
   }
 }
 
-std::optional<Cell> GridMarks::NextUnkept(Cell cell, bool backwards) const {
-  const auto start =
-      static_cast<std::size_t>(std::ranges::find(kCellsOnScreen, cell) - kCellsOnScreen.begin());
-  for (std::size_t step = 1; step <= kCellCount; ++step) {
-    const std::size_t distance = backwards ? kCellCount - step : step;
-    const Cell next = kCellsOnScreen.at((start + distance) % kCellCount);
-    if (At(next).is_unkept) return next;
-  }
-  return std::nullopt;
+std::optional<Cell> GridMarks::NextUnkept(std::optional<Cell> from, bool backwards) const {
+  const auto is_unkept = [this](Cell cell) { return At(cell).is_unkept; };
+  // Forwards or backwards, the search begins behind the cell and comes round to it last.
+  std::vector<Cell> cells(kCellsOnScreen.begin(), kCellsOnScreen.end());
+  if (backwards) std::ranges::reverse(cells);
+  if (from) std::ranges::rotate(cells, std::next(std::ranges::find(cells, *from)));
+  const auto found = std::ranges::find_if(cells, is_unkept);
+  if (found == cells.end()) return std::nullopt;
+  return *found;
 }
 
 }  // namespace morlek

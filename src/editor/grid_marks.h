@@ -37,15 +37,17 @@ class GridMarks {
 
   [[nodiscard]] const CellMark& At(Cell cell) const { return marks_.at(IndexOf(cell)); }
 
+  /// How many cells are marked so.
   [[nodiscard]] int unsaved_count() const { return unsaved_count_; }
   [[nodiscard]] int unkept_count() const { return unkept_count_; }
 
   /// The row of the name that ends SAVE, or nothing when none does.
   [[nodiscard]] std::optional<int> end_row() const { return end_row_; }
 
-  /// The next cell that SAVE will not keep, as the cells stand on the screen, after `cell` (or
-  /// before it, backwards), going round; nothing when there is none.
-  [[nodiscard]] std::optional<Cell> NextUnkept(Cell cell, bool backwards) const;
+  /// The next cell that SAVE will not keep, as the cells stand on the screen, after `from` (or
+  /// before it, backwards), going round; without `from` the first one (or the last). Nothing when
+  /// there is none.
+  [[nodiscard]] std::optional<Cell> NextUnkept(std::optional<Cell> from, bool backwards) const;
 
  private:
   std::array<CellMark, kCellCount> marks_;

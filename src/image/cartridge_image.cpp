@@ -17,9 +17,9 @@ bool CartridgeImage::Open() {
   return opened_;
 }
 
-void CartridgeImage::Close() {
-  channel_.Close();
+bool CartridgeImage::Close() {
   opened_ = false;
+  return channel_.Close();
 }
 
 std::uint8_t CartridgeImage::ReadField(int slot, int offset) {

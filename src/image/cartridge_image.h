@@ -35,8 +35,8 @@ class CartridgeImage {
   /// Opens the current image for one operation; false when that fails.
   [[nodiscard]] bool Open();
 
-  /// Closes channel 1, whatever is open on it.
-  void Close();
+  /// Closes channel 1, whatever is open on it. False when something written may be lost.
+  bool Close();
 
   /// The byte of a field of the current record, slot 0 to 24, offset 0 to 31; 0 past the end of
   /// the file. Throws OperationFailed when there is no current record or the read fails.

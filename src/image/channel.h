@@ -55,6 +55,9 @@ class Channel {
   bool Close();
 
   [[nodiscard]] bool is_open() const { return file_ != nullptr; }
+  [[nodiscard]] bool is_open_for_text() const {
+    return mode_ == Mode::kTextInput || mode_ == Mode::kTextOutput;
+  }
 
   /// The byte at a 1-based position of a binary file; 0 past the end of the file.
   /// Throws OperationFailed when the channel is not open for bytes or the read fails.

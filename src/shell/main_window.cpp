@@ -128,6 +128,9 @@ void MainWindow::AddRoster() {
     RefreshMarks();
   });
 
+  connect(roster_, &RosterFrame::BlockPasted, this,
+          [this](Cell cell, const std::string& block) { editor_.PasteBlock(cell, block); });
+
   stances_ = new StancePanel(editor_.document(), content_);
   // Who cannot reach the grid cannot pick into it either.
   stances_->setEnabled(false);
@@ -138,7 +141,7 @@ void MainWindow::AddRoster() {
   connect(roster_, &RosterFrame::CellVisited, this, [this](Cell cell) {
     // On a screen with less room than the window needs.
     scroll_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
-    if (!StancePanel::IsFeature(cell.column)) return;
+    if (!IsFeature(cell.column)) return;
     stances_->Choose(cell);
     SetContentWidth(kWideWidth);
     roster_->ShowStanceRow(cell.row);
@@ -281,25 +284,23 @@ void MainWindow::RefreshMarks() {
                      roster_->isVisible() ? SummaryOf(marks) : QString());
 }
 
-void MainWindow::TakeFile(const QString& path) {
-  if (path.endsWith(".txt", Qt::CaseInsensitive)) {
-    editor_.ImportTeam(ToPath(path));
-  } else {
-    editor_.OpenAnotherImage(ToPath(path), *this);
-    RefreshMarks();
-  }
-}
-
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (DroppedFile(*event->mimeData())) event->acceptProposedAction();
+  if (!DroppedFile(*event->mimeData()) || !(event->possibleActions() & Qt::CopyAction)) return;
+  // Never as a move, after which the other program would delete the file.
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
   const std::optional<QString> path = DroppedFile(*event->mimeData());
   if (!path) return;
-  event->acceptProposedAction();
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
   // From the event loop: whoever drops is not to wait for an answer to a message.
-  QTimer::singleShot(0, this, [this, path = *path] { TakeFile(path); });
+  QTimer::singleShot(0, this, [this, path] {
+    editor_.TakeFile(*ToPath(path), *this);
+    RefreshMarks();
+  });
 }
 
 void MainWindow::HideRoster() {

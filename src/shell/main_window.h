@@ -66,9 +66,6 @@ class MainWindow : public QMainWindow, private EditorView {
   /// Shows afresh what is not saved and what SAVE will not keep.
   void RefreshMarks();
 
-  /// Takes a dropped file as if it had been chosen: a team data file to import, else an image.
-  void TakeFile(const QString& path);
-
   void ShowIdentity(std::string_view byte_text) override;
   void ShowToolbar() override;
   void HideRoster() override;

@@ -1,6 +1,7 @@
 #include "shell/mark_text.h"
 
 #include <QStringList>
+#include <QTextDocument>
 
 #include "shell/code_page_text.h"
 
@@ -28,7 +29,8 @@ QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
   // Initials are saved before all else, so a name may change even so.
   const bool is_name = cell.column == Column::kText1;
   return QString("SAVE does not reach this, because the name of %1 is too long; the image %2 %3")
-      .arg(PlayerOf(marks.end_row().value_or(cell.row)), is_name ? "then holds" : "keeps", after);
+      .arg(FromCodePage(PlayerText(marks.end_row().value_or(cell.row))),
+           is_name ? "then holds" : "keeps", after);
 }
 
 QString Counted(int count, const QString& one, const QString& many) {
@@ -60,9 +62,9 @@ QString SummaryOf(const GridMarks& marks) {
   return parts.join(QString::fromUtf8(" \u00b7 "));
 }
 
-QString PlayerOf(int row) {
-  return IsPitcher(row) ? QString("pitcher %1").arg(row - kBatterCount + 1)
-                        : QString("batter %1").arg(row + 1);
+QString PlainTip(const QString& text) {
+  if (!Qt::mightBeRichText(text)) return text;
+  return "<qt>" + text.toHtmlEscaped().replace('\n', "<br>") + "</qt>";
 }
 
 }  // namespace morlek

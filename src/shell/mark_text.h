@@ -13,7 +13,7 @@ namespace morlek {
 /// is well.
 [[nodiscard]] QString SummaryOf(const GridMarks& marks);
 
-/// The player of a row, 0 to 24, in words: "batter 3", "pitcher 10".
-[[nodiscard]] QString PlayerOf(int row);
+/// A text as a tool tip shows it to the letter: Qt would take some texts for marked-up ones.
+[[nodiscard]] QString PlainTip(const QString& text);
 
 }  // namespace morlek

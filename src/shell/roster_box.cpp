@@ -32,7 +32,7 @@ bool IsShortAbsence(Qt::FocusReason reason) {
 }
 
 QString AccessibleNameOf(const GridColumn& column, int row) {
-  return QString("%1, %2").arg(FromCodePage(column.meaning), PlayerOf(row));
+  return QString("%1, %2").arg(FromCodePage(column.meaning), FromCodePage(PlayerText(row)));
 }
 
 }  // namespace
@@ -70,7 +70,7 @@ void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
     setPalette(colors);
   }
   mark_ = mark;
-  setToolTip(tip);
+  setToolTip(PlainTip(tip));
   setAccessibleDescription(tip);
   update();
 }
@@ -184,8 +184,10 @@ void RosterBox::focusOutEvent(QFocusEvent* event) {
   swallowing_press_ = false;
   left_selection_.reset();
   // The line editor itself drops the selection when the menu bar takes the focus.
-  if (IsShortAbsence(event->reason())) left_selection_ = {selectionStart(), selectionLength()};
+  const bool is_short = IsShortAbsence(event->reason());
+  if (is_short) left_selection_ = {selectionStart(), selectionLength()};
   QLineEdit::focusOutEvent(event);
+  if (!is_short) emit Left();
 }
 
 void RosterBox::hideEvent(QHideEvent* event) {
@@ -210,9 +212,14 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
   } else if (plain && event->key() == Qt::Key_Escape) {
     if (text() != entry_text_) setText(entry_text_);
     selectAll();
+  } else if (event->key() == Qt::Key_Insert &&
+             event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
+             QGuiApplication::clipboard()->supportsSelection()) {
+    PasteFrom(QClipboard::Selection);
   } else if (event->matches(QKeySequence::Paste)) {
     PasteFrom(QClipboard::Clipboard);
-  } else {
+  } else if (!event->matches(QKeySequence::Undo) && !event->matches(QKeySequence::Redo)) {
+    // The line editor has a history of its own, which knows nothing of loads and saves.
     QLineEdit::keyPressEvent(event);
   }
 }

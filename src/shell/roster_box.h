@@ -50,6 +50,9 @@ class RosterBox : public QLineEdit {
   /// The focus came likewise: what is typed from now on belongs to a new visit.
   void Entered();
 
+  /// The focus went for good.
+  void Left();
+
   /// A block of cells, in the code page, was pasted here.
   void BlockPasted(const std::string& block);
 
@@ -74,7 +77,8 @@ class RosterBox : public QLineEdit {
   void PasteFrom(QClipboard::Mode mode);
   [[nodiscard]] QColor Ground() const;
   void KeepToCodePage();
-  /// A line break, which only a paste or a drop can bring, would break an exported line in two.
+  /// A line break, which a dropped text or an input method can bring, would break an exported line
+  /// in two.
   void DropLineBreaks();
   /// Converts the text and keeps the cursor behind the same character.
   template <typename Conversion>

@@ -14,7 +14,6 @@
 #include "shell/theme.h"
 #include "shell/twips.h"
 #include "team/accepted_texts.h"
-#include "textfile/pasted_block.h"
 
 namespace morlek {
 namespace {
@@ -57,8 +56,6 @@ void RosterFrame::Follow(const GridChange& change) {
     const QString shown = FromCodePage(part.after);
     if (box.text() != shown) box.ShowText(shown);
   }
-  undo_->setEnabled(document_.can_undo());
-  redo_->setEnabled(document_.can_redo());
 }
 
 void RosterFrame::SelectForTyping(Cell cell) { BoxAt(cell).SelectForTyping(); }
@@ -72,11 +69,12 @@ void RosterFrame::ShowMarks(const GridMarks& marks) {
   for (const Cell cell : kAllCells) BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
   save_->SetDotted(marks.unsaved_count() > 0);
   save_->setAccessibleDescription(SummaryOf(marks));
+  undo_->setEnabled(document_.can_undo());
+  redo_->setEnabled(document_.can_redo());
 }
 
 void RosterFrame::ShowStanceRow(std::optional<int> row) {
-  const std::optional<int> before = std::exchange(stance_row_, row);
-  TintRow(before);
+  TintRow(std::exchange(stance_row_, row));
   TintRow(row);
 }
 
@@ -151,14 +149,13 @@ void RosterFrame::AddRow(int row) {
     });
     connect(box, &RosterBox::Entered, this, [this, cell] {
       document_.EndVisit();
-      const std::optional<int> before = std::exchange(focus_row_, cell.row);
-      TintRow(before);
+      TintRow(std::exchange(focus_row_, cell.row));
       TintRow(cell.row);
     });
+    connect(box, &RosterBox::Left, this, [this] { TintRow(std::exchange(focus_row_, {})); });
     connect(box, &RosterBox::Visited, this, [this, cell] { emit CellVisited(cell); });
-    connect(box, &RosterBox::BlockPasted, this, [this, cell](const std::string& block) {
-      document_.Replace(WithBlock(document_.grid(), cell, block));
-    });
+    connect(box, &RosterBox::BlockPasted, this,
+            [this, cell](const std::string& block) { emit BlockPasted(cell, block); });
     connect(box, &RosterBox::RowStepRequested, this,
             [this, cell](int rows) { StepRow(cell, rows); });
   }
@@ -215,7 +212,8 @@ void RosterFrame::FollowHistory(std::optional<Cell> changed) {
 
 void RosterFrame::GoToUnkept(bool backwards) {
   const RosterBox* box = FocusedBox();
-  const Cell from = box == nullptr ? Cell{Column::kText1, 0} : Cell{box->column(), box->row()};
+  std::optional<Cell> from;
+  if (box != nullptr) from = {box->column(), box->row()};
   if (const auto cell = marks_.NextUnkept(from, backwards)) GoTo(*cell);
 }
 

@@ -31,7 +31,8 @@ class RosterFrame : public QFrame {
   /// The team has just been loaded: Escape gives back what the box with the focus holds now.
   void BeginVisit();
 
-  /// Shows the marks of all cells, and on SAVE whether anything is not saved.
+  /// Shows the marks of all cells, on SAVE whether anything is not saved, and what can be undone.
+  /// To be called after every step.
   void ShowMarks(const GridMarks& marks);
 
   /// Tints the row of players into which picked pictures go; nothing when none is in view.
@@ -47,6 +48,9 @@ class RosterFrame : public QFrame {
 
   /// The grid can now be reached by mouse and keys, or can no more: it is hidden or disabled.
   void ReachChanged(bool reachable);
+
+  /// A block of cells, in the code page, was pasted into the box of this cell.
+  void BlockPasted(Cell cell, const std::string& block);
 
   /// The box of this cell received the focus, or was clicked again.
   void CellVisited(Cell cell);

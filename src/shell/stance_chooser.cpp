@@ -1,11 +1,11 @@
 #include "shell/stance_chooser.h"
 
-#include <QAbstractButton>
 #include <QLabel>
 #include <QPainter>
 
 #include "codecs/hex_text.h"
 #include "shell/code_page_text.h"
+#include "shell/marked_button.h"
 #include "shell/theme.h"
 #include "shell/twips.h"
 
@@ -21,10 +21,10 @@ constexpr QSize kPictureSize(50, 41);
 }  // namespace
 
 /// One picture with its code in a corner.
-class StancePicture : public QAbstractButton {
+class StancePicture : public MarkedButton {
  public:
   StancePicture(const ChooserKind& kind, int index, std::uint8_t code, QWidget* parent)
-      : QAbstractButton(parent),
+      : MarkedButton(parent),
         piece_(kind.piece),
         code_(code),
         code_text_(FromCodePage(ByteToText(code))) {
@@ -32,7 +32,6 @@ class StancePicture : public QAbstractButton {
     setAccessibleName(QString("%1 %2").arg(QString(kind.title).toLower(), code_text_));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
-    setCheckable(true);
     setGeometry(QRect(QPoint(kLeft + kColumnStep * (index / kPictureRows),
                              kTop + kRowStep * (index % kPictureRows)),
                       kPictureSize));
@@ -49,7 +48,7 @@ class StancePicture : public QAbstractButton {
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled()) painter.setOpacity(0.5);
 
-    const bool marked = isChecked();
+    const bool marked = is_marked();
     const bool lit = marked || underMouse();
     const qreal line = marked ? 2 : 1;
     painter.setPen(QPen(lit ? theme::kAccent : theme::kLine, line));
@@ -64,9 +63,6 @@ class StancePicture : public QAbstractButton {
     painter.drawText(QRectF(rect()).adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
                      code_text_);
   }
-
-  // The mark shows the code of the stance row; a click alone does not change that.
-  void nextCheckState() override {}
 
  private:
   StancePiece piece_;
@@ -97,7 +93,7 @@ StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent) : QFrame(
 }
 
 void StanceChooser::Mark(std::optional<int> code) {
-  for (StancePicture* picture : pictures_) picture->setChecked(code == picture->code());
+  for (StancePicture* picture : pictures_) picture->SetMarked(code == picture->code());
 }
 
 }  // namespace morlek

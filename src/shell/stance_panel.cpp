@@ -45,10 +45,6 @@ StancePanel::StancePanel(RosterDocument& document, QWidget* parent)
   });
 }
 
-bool StancePanel::IsFeature(Column column) {
-  return column == kFeatures[0] || column == kFeatures[1] || column == kFeatures[2];
-}
-
 void StancePanel::Choose(Cell cell) {
   stance_row_ = cell.row;
   for (std::size_t place = 0; place < choosers_.size(); ++place) {
@@ -62,9 +58,7 @@ void StancePanel::AddChooser(std::size_t place) {
   chooser->setGeometry(0, 0, kWidth, kViewArea.top());
   chooser->hide();
   connect(chooser, &StanceChooser::CodePicked, this, [this, place](const QString& code_text) {
-    RosterGrid grid = document_.grid();
-    grid.SetText({kFeatures.at(place), stance_row_}, ToCodePage(code_text));
-    document_.Replace(grid);
+    document_.Put({kFeatures.at(place), stance_row_}, ToCodePage(code_text));
     emit Picked({kFeatures.at(place), stance_row_});
   });
   choosers_.at(place) = chooser;

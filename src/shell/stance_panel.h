@@ -20,9 +20,6 @@ class StancePanel : public QWidget {
   /// chooser is in view at first, and the stance row is 0.
   StancePanel(RosterDocument& document, QWidget* parent);
 
-  /// True for the columns of face, body and legs.
-  [[nodiscard]] static bool IsFeature(Column column);
-
   /// Shows the chooser of a features cell's column (for any other cell none), hides the other two,
   /// and makes the cell's row the stance row, into which all three choosers put their codes.
   void Choose(Cell cell);

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "shell/mark_text.h"
 #include "shell/theme.h"
 #include "shell/twips.h"
 
@@ -29,7 +30,7 @@ void StatusLine::ShowImage(const QString& path, const QString& summary) {
   const int room = std::max(width() - metrics.horizontalAdvance(tail), kSmallestNameWidth);
   const QString name = QFileInfo(path).fileName();
   setText(path.isEmpty() ? QString() : metrics.elidedText(name, Qt::ElideMiddle, room) + tail);
-  setToolTip(QDir::toNativeSeparators(path));
+  setToolTip(PlainTip(QDir::toNativeSeparators(path)));
   setAccessibleDescription(path.isEmpty() ? QString() : name + tail);
 }
 

@@ -1,11 +1,11 @@
 #include "shell/team_toolbar.h"
 
-#include <QAbstractButton>
 #include <QPainter>
 #include <QShortcut>
 
 #include "image/team_directory.h"
 #include "shell/code_page_text.h"
+#include "shell/marked_button.h"
 #include "shell/team_badges.h"
 #include "shell/theme.h"
 
@@ -19,9 +19,9 @@ constexpr int kButtonWidth = 31;
 constexpr int kButtonHeight = 23;
 
 /// A button that is all picture.
-class TeamButton : public QAbstractButton {
+class TeamButton : public MarkedButton {
  public:
-  TeamButton(const Team& team, const QIcon& badge, QWidget* parent) : QAbstractButton(parent) {
+  TeamButton(const Team& team, const QIcon& badge, QWidget* parent) : MarkedButton(parent) {
     const QString key = FromCodePage(team.key);
     setObjectName(key);
     setToolTip(key);
@@ -29,7 +29,6 @@ class TeamButton : public QAbstractButton {
     setIcon(badge);
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
-    setCheckable(true);
   }
 
  protected:
@@ -37,17 +36,14 @@ class TeamButton : public QAbstractButton {
     constexpr int kGap = 3;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (isChecked() || underMouse() || isDown()) {
-      const bool is_strong = isChecked() || isDown();
+    if (is_marked() || underMouse() || isDown()) {
+      const bool is_strong = is_marked() || isDown();
       painter.setPen(QPen(is_strong ? theme::kAccent : theme::kHoverRing, is_strong ? 2 : 1.5));
       painter.setBrush(theme::kHover);
       painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
     }
     icon().paint(&painter, rect().adjusted(kGap, kGap, -kGap, -kGap));
   }
-
-  // The ring shows which team is on the screen; a click alone does not change that.
-  void nextCheckState() override {}
 };
 
 }  // namespace
@@ -81,7 +77,7 @@ void TeamToolbar::Restart() {
 
 void TeamToolbar::ShowPicked(bool on_screen) {
   for (int place = 0; place < kTeams; ++place) {
-    buttons_.at(static_cast<std::size_t>(place))->setChecked(on_screen && place == picked_);
+    buttons_.at(static_cast<std::size_t>(place))->SetMarked(on_screen && place == picked_);
   }
 }
 

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-class QAbstractButton;
-
 namespace morlek {
+
+class MarkedButton;
 
 /// The team buttons, two rows of fourteen in the team directory's order. They take no keyboard
 /// focus; Ctrl+Page Down and Ctrl+Page Up pick the next and the previous team instead.
@@ -34,8 +34,8 @@ class TeamToolbar : public QWidget {
   /// Picks the next team, or the previous one, going round.
   void Step(int places);
 
-  std::vector<QAbstractButton*> buttons_;  // in the directory's order
-  std::optional<int> picked_;              // place in the directory
+  std::vector<MarkedButton*> buttons_;  // in the directory's order
+  std::optional<int> picked_;           // place in the directory
 };
 
 }  // namespace morlek

@@ -46,13 +46,13 @@ std::string AcceptedTexts(Column column, bool is_pitcher) {
     case kText7:
       return Numbers(1, is_pitcher ? kLargestSingleRating : kLargestFirstRating);
     case kText8:
-      return is_pitcher ? Numbers(0, kLargestNumber) : Numbers(1, kLargestSecondRating);
+      return is_pitcher ? Numbers(0, kLargestSmallNumber) : Numbers(1, kLargestSecondRating);
     case kText9:
       return Averages(is_pitcher ? 1 : 0);
     case kText3:
     case kText10:
     case kText11:
-      return Numbers(0, kLargestNumber);
+      return Numbers(0, kLargestSmallNumber);
     case kText12:
     case kText13:
     case kText14:

@@ -27,6 +27,11 @@ enum class Column {
 };
 inline constexpr int kColumnCount = 14;
 
+/// True for the columns of face, body and legs.
+[[nodiscard]] constexpr bool IsFeature(Column column) {
+  return column == Column::kText12 || column == Column::kText13 || column == Column::kText14;
+}
+
 /// One column of a block as it stands on the screen: its left edge and width in twips, the caption
 /// over it, and what it means in words.
 struct GridColumn {

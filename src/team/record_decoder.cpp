@@ -14,10 +14,8 @@ namespace {
 using enum Column;
 
 std::string WhereText(int row, int offset) {
-  const std::string player = IsPitcher(row) ? "pitcher " + std::to_string(row - kBatterCount + 1)
-                                            : "batter " + std::to_string(row + 1);
   return " at offset " + std::to_string(offset) + " of player slot " + std::to_string(row) + " (" +
-         player + ")";
+         PlayerText(row) + ")";
 }
 
 /// The first character, a point, and the rest: the form of names and earned run averages.

@@ -14,15 +14,15 @@ namespace morlek {
 class Rehearsal {
  public:
   /// `kept` is what loads and saves keep now, `known` the bytes that the image is known to hold.
-  /// Where `known` lacks a byte that a load would read, there is nothing to tell: every cell then
-  /// comes out as it stands in the grid.
+  /// When such a load would fail, as it does where `known` lacks a byte, there is nothing to tell:
+  /// every cell then comes out as it stands in the grid.
   Rehearsal(const RosterGrid& grid, KeptState kept, const RecordBytes& known);
 
   enum class Fate {
     kStored,      // SAVE writes the cell
     kSkipped,     // SAVE writes nothing for the cell
     kEndsSave,    // the cell is a name that is too long, and SAVE ends there
-    kNotReached,  // SAVE has ended before
+    kNotReached,  // SAVE has ended before; of a name the initial is stored even so
   };
   [[nodiscard]] Fate FateOf(Cell cell) const;
 

@@ -37,11 +37,13 @@ void RosterDocument::Type(Cell cell, std::string text) {
   const GridChange change = {{cell, before, std::move(text)}};
   if (visited_ == cell && done_ == steps_.size() && done_ > 0) {
     CellChange& typed = steps_.back().front();
+    history_bytes_ += change.front().after.size();
+    history_bytes_ -= typed.after.size();
     typed.after = change.front().after;
     if (typed.after == typed.before) {
       // Typed and taken back by hand: nothing is left to undo.
-      steps_.pop_back();
-      --done_;
+      DropLastStep();
+      done_ = steps_.size();
       visited_.reset();
     }
   } else {
@@ -49,6 +51,12 @@ void RosterDocument::Type(Cell cell, std::string text) {
     visited_ = cell;
   }
   Apply(change);
+}
+
+void RosterDocument::Put(Cell cell, std::string text) {
+  EndVisit();
+  Type(cell, std::move(text));
+  EndVisit();
 }
 
 void RosterDocument::Replace(const RosterGrid& grid) {
@@ -68,6 +76,7 @@ void RosterDocument::ForgetHistory() {
   EndVisit();
   steps_.clear();
   done_ = 0;
+  history_bytes_ = 0;
 }
 
 std::optional<Cell> RosterDocument::Undo() {
@@ -99,15 +108,19 @@ void RosterDocument::Apply(const GridChange& change) {
 }
 
 void RosterDocument::AddStep(GridChange change) {
-  steps_.resize(done_);
+  while (steps_.size() > done_) DropLastStep();
+  history_bytes_ += BytesOf(change);
   steps_.push_back(std::move(change));
-  std::size_t bytes = 0;
-  for (const GridChange& step : steps_) bytes += BytesOf(step);
-  while (bytes > kMostHistoryBytes && steps_.size() > 1) {
-    bytes -= BytesOf(steps_.front());
-    steps_.erase(steps_.begin());
+  while (history_bytes_ > kMostHistoryBytes && steps_.size() > 1) {
+    history_bytes_ -= BytesOf(steps_.front());
+    steps_.pop_front();
   }
   done_ = steps_.size();
+}
+
+void RosterDocument::DropLastStep() {
+  history_bytes_ -= BytesOf(steps_.back());
+  steps_.pop_back();
 }
 
 GridChange RosterDocument::ChangeTo(const RosterGrid& grid) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -42,7 +43,10 @@ class RosterDocument {
   /// Ends a visit: what is typed from now on is another step.
   void EndVisit() { visited_.reset(); }
 
-  /// Replaces the grid in one step: a pick, a paste, an import.
+  /// Puts a text that was picked into a cell, in one step.
+  void Put(Cell cell, std::string text);
+
+  /// Replaces the grid in one step: a paste, an import.
   void Replace(const RosterGrid& grid);
 
   /// Replaces the grid by a load, which begins a new history.
@@ -63,13 +67,15 @@ class RosterDocument {
   /// Puts the texts before or after a change into the grid, and tells.
   void Apply(const GridChange& change);
   void AddStep(GridChange change);
+  void DropLastStep();
   [[nodiscard]] GridChange ChangeTo(const RosterGrid& grid) const;
 
   RosterGrid grid_;
   std::vector<std::weak_ptr<const Observer>> observers_;
   // Steps before `done_` have been made, later ones were taken back.
-  std::vector<GridChange> steps_;
+  std::deque<GridChange> steps_;
   std::size_t done_ = 0;
+  std::size_t history_bytes_ = 0;
   // The cell whose typing made the last step and goes on.
   std::optional<Cell> visited_;
 };

@@ -22,4 +22,7 @@ class RosterGrid {
   std::array<std::string, kCellCount> texts_;
 };
 
+/// The player of a row, 0 to 24, in words: "batter 3", "pitcher 10".
+[[nodiscard]] std::string PlayerText(int row);
+
 }  // namespace morlek

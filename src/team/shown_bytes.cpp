@@ -1,5 +1,7 @@
 #include "team/shown_bytes.h"
 
+#include <array>
+
 namespace morlek {
 namespace {
 

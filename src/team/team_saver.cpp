@@ -11,14 +11,20 @@ SavedBytes TeamSaver::Save(const RosterGrid& grid) {
     (taken ? saved.taken : saved.refused).Put(cell.row, offset, byte);
     return taken;
   };
+  const auto close = [this, &saved] {
+    if (image_.Close()) return;
+    // Any of it may be lost.
+    saved.refused.PutAll(saved.taken);
+    saved.taken = {};
+  };
   // When the image cannot be opened every write fails, and the save runs on all the same.
   static_cast<void>(image_.Open());
   if (EncodeRecord(grid, kept_, sink, messages_)) {
     messages_.Show({"You are only allowed 10 player letters per name counting the period."});
-    image_.Close();
+    close();
     return saved;
   }
-  image_.Close();
+  close();
   messages_.Show({"Your changes have been saved."});
   return saved;
 }

@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "codecs/code_page.h"
 #include "editor/editor.h"
 #include "image/team_directory.h"
 #include "support/editor_fixture.h"
@@ -80,6 +81,19 @@ TEST_F(RehearsalTest, WhatAnUntouchedSaveChangesIsTold) {
   ExpectOutcomes({{{3, 5, "1"}, Fate::kStored, "10"}, {{5, 1, "F.Bc"}, Fate::kStored, "F.BC"}});
 }
 
+TEST_F(RehearsalTest, ACloseThatFailsLeavesTheMarks) {
+  TypeInto({0, 3, "77"});
+  EXPECT_EQ(editor.Marks().unsaved_count(), 1);
+  disk.failing_access = 1000000;
+  editor.Save();
+  const int accesses = 1000000 - disk.failing_access;
+  TypeInto({0, 3, "78"});
+  disk.failing_access = accesses;  // the close
+  editor.Save();
+  EXPECT_EQ(disk.failed_closes, 1);
+  EXPECT_EQ(editor.Marks().unsaved_count(), 1);
+}
+
 TEST_F(RehearsalTest, WhatTheDiskRefusesIsNotKnownToBeThere) {
   const Cell number{kText3, 0};
   const auto known = [&] { return editor.knowledge().texts().Text(number); };
@@ -122,6 +136,8 @@ TEST_F(RehearsalTest, AgreesWithARealSaveAndLoadInRandomSessions) {
         editor.document().Type(kAllCells.at(random() % kCellCount), AnyText(random));
       }
       const Rehearsal rehearsal = editor.Rehearse();
+      const GridMarks marks = editor.Marks();
+      const RosterGrid saved = editor.document().grid();
       editor.Save();
       if (random() % 2 == 0) continue;
       editor.LoadTeam(team.key, view);
@@ -129,6 +145,13 @@ TEST_F(RehearsalTest, AgreesWithARealSaveAndLoadInRandomSessions) {
         ASSERT_EQ(editor.document().grid().Text(cell), rehearsal.TextAfter(cell))
             << "session " << session << " row " << cell.row << " column "
             << static_cast<int>(cell.column);
+        const CellMark& mark = marks.At(cell);
+        if (mark.is_unkept) {
+          ASSERT_EQ(mark.after, rehearsal.TextAfter(cell));
+          ASSERT_NE(mark.after, saved.Text(cell));
+        } else if (cell.column < kText12) {
+          ASSERT_EQ(UpperCase(rehearsal.TextAfter(cell)), UpperCase(saved.Text(cell)));
+        }
       }
     }
   }
