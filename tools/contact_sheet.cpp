@@ -22,21 +22,24 @@ namespace {
 using morlek::StancePiece;
 using PagePainter = std::function<void(QPainter& painter)>;
 
-constexpr int kTileSize = 50;
-constexpr int kTilePitch = 52;
+// The tiles are those of the choosers, and so is the place of the picture in its tile.
+constexpr QSizeF kTileSize(50, 41);
+constexpr QSizeF kTilePitch(52, 43);
 
 void PaintTile(QPainter& painter, StancePiece piece, int index, int code) {
-  const QRectF square(2 + kTilePitch * (index / morlek::kPictureRows),
-                      2 + kTilePitch * (index % morlek::kPictureRows), kTileSize, kTileSize);
+  const QRectF tile({2 + kTilePitch.width() * (index / morlek::kPictureRows),
+                     2 + kTilePitch.height() * (index % morlek::kPictureRows)},
+                    kTileSize);
   painter.setPen(QColor(0xcb, 0xd2, 0xdc));
   painter.setBrush(Qt::white);
-  painter.drawRoundedRect(square.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-  morlek::PaintPiece(painter, square.adjusted(2, 2, -2, -2), piece, code);
+  painter.drawRoundedRect(tile.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+  const qreal side = kTileSize.height() - 2;
+  morlek::PaintPiece(painter, {tile.topLeft() + QPointF(2, 1), QSizeF(side, side)}, piece, code);
   QFont font("Roboto");
   font.setPixelSize(9);
   painter.setFont(font);
   painter.setPen(QColor(0x47, 0x55, 0x69));
-  painter.drawText(square.adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
+  painter.drawText(tile.adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
                    QString::number(code, 16).toUpper());
 }
 
@@ -123,9 +126,9 @@ bool WriteSheets(const QString& directory) {
   const QColor window(0xf1, 0xf3, 0xf6);
   SheetWriter writer{QDir(directory)};
   for (const int scale : {1, 2}) {
-    writer.Write("faces", {210, 626}, scale, window, ChooserPage(StancePiece::kFace));
-    writer.Write("bodies", {210, 626}, scale, window, ChooserPage(StancePiece::kBody));
-    writer.Write("legs", {210, 158}, scale, window, ChooserPage(StancePiece::kLegs));
+    writer.Write("faces", {210, 518}, scale, window, ChooserPage(StancePiece::kFace));
+    writer.Write("bodies", {210, 518}, scale, window, ChooserPage(StancePiece::kBody));
+    writer.Write("legs", {210, 131}, scale, window, ChooserPage(StancePiece::kLegs));
     writer.Write("stances", {1060, 496}, scale, window, PaintStances);
     writer.Write("clubs", {1060, 332}, scale, window, PaintClubs);
     writer.Write("splash", {480, 300}, scale, Qt::transparent, [](QPainter& painter) {

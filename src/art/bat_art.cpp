@@ -40,7 +40,7 @@ QPainterPath BatShape(QPointF knob, QPointF tip, qreal girth) {
 
 void PaintBat(QPainter& painter, QPointF knob, qreal angle) {
   const QPointF direction = BatDirection(angle);
-  PaintSolid(painter, BatShape(knob - direction * 3.4, knob + direction * kBatLength, 4.5), kWood,
+  PaintSolid(painter, BatShape(knob - direction * 3.4, knob + direction * kBatLength, 5), kWood,
              2.4);
   PaintTone(painter, Taper({knob + direction * 3, 2.2}, {knob + direction * 15, 2.2}), kNavyCloth,
             1);

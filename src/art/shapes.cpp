@@ -92,7 +92,7 @@ QPointF Between(QPointF from, QPointF to, qreal share) { return from + (to - fro
 
 QRectF FrameAround(std::span<const QRectF> parts, qreal smallest_size) {
   // Shares of the square: where the code's corner starts, and the least margin.
-  constexpr QPointF kCorner(0.74, 0.755);
+  constexpr QPointF kCorner(0.85, 0.755);
   constexpr qreal kMargin = 0.03;
   const QRectF room = std::accumulate(parts.begin(), parts.end(), QRectF(), std::bit_or());
   qreal size = std::max(smallest_size, std::max(room.width(), room.height()) / (1 - 2 * kMargin));
