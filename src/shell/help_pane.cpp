@@ -65,9 +65,9 @@ void HelpPane::Open() {
 
 void HelpPane::Close() {
   emit Covered(false);
-  if (focused_before_ && focused_before_->isVisible()) {
+  if (QWidget* const before = focused_before_; before != nullptr && before->isVisible()) {
     // Likewise on the way back: the box does not take it for a new visit.
-    focused_before_->setFocus(Qt::PopupFocusReason);
+    before->setFocus(Qt::PopupFocusReason);
   } else {
     // The grid may be hidden by now, and a hidden box that has the focus takes keys.
     text_->clearFocus();
