@@ -17,7 +17,9 @@ QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
   const QString after = Quoted(mark.after);
   switch (mark.fate) {
     case Rehearsal::Fate::kStored:
-      return QString("SAVE stores %1").arg(after);
+      return QString(mark.after == mark.known ? "SAVE stores %1; the image holds that already"
+                                              : "SAVE stores %1")
+          .arg(after);
     case Rehearsal::Fate::kSkipped:
       return QString("SAVE skips this; the image keeps %1").arg(after);
     case Rehearsal::Fate::kEndsSave:

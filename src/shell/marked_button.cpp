@@ -21,10 +21,17 @@ class MarkedButtonInterface : public QAccessibleWidget {
   [[nodiscard]] QStringList actionNames() const override { return {pressAction()}; }
 
   void doAction(const QString& name) override {
-    if (name == pressAction() && button_.isEnabled()) button_.click();
+    if (name == pressAction() && IsInReach()) button_.click();
   }
 
  private:
+  /// What a mouse cannot reach is not pressed either: hidden, or right of the narrow window.
+  [[nodiscard]] bool IsInReach() const {
+    const QWidget& window = *button_.window();
+    return button_.isEnabled() && button_.isVisible() &&
+           button_.mapTo(&window, QPoint(0, 0)).x() < window.width();
+  }
+
   MarkedButton& button_;
 };
 

@@ -168,7 +168,13 @@ void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
 
 void RosterBox::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
-  raise();
+  if (!neighbor_above_) {
+    // The ring is not to be cut by a neighbour's line; whoever reads the grid in its order is to
+    // find the box in its place afterwards.
+    const QObjectList& siblings = parentWidget()->children();
+    neighbor_above_ = qobject_cast<QWidget*>(siblings.value(siblings.indexOf(this) + 1));
+    raise();
+  }
   // A window gives its focus to the first box when no box has it: that is no return.
   if (IsShortAbsence(event->reason()) && left_selection_) {
     if (left_selection_->length > 0) setSelection(left_selection_->start, left_selection_->length);
@@ -181,6 +187,8 @@ void RosterBox::focusInEvent(QFocusEvent* event) {
 }
 
 void RosterBox::focusOutEvent(QFocusEvent* event) {
+  if (neighbor_above_) stackUnder(neighbor_above_);
+  neighbor_above_.clear();
   swallowing_press_ = false;
   left_selection_.reset();
   // The line editor itself drops the selection when the menu bar takes the focus.

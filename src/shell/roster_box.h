@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QLineEdit>
+#include <QPointer>
 #include <optional>
 #include <string>
 
@@ -94,6 +95,8 @@ class RosterBox : public QLineEdit {
   CellMark mark_;
   Tint tint_ = Tint::kNone;
   QString entry_text_;
+  // While the box has the focus: who stands above it at other times.
+  QPointer<QWidget> neighbor_above_;
   // True from the mouse press that gave the focus up to its release: it must not drop the
   // selection.
   bool swallowing_press_ = false;

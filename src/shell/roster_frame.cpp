@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QShortcut>
+#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
@@ -214,7 +215,12 @@ void RosterFrame::GoToUnkept(bool backwards) {
   const RosterBox* box = FocusedBox();
   std::optional<Cell> from;
   if (box != nullptr) from = {box->column(), box->row()};
-  if (const auto cell = marks_.NextUnkept(from, backwards)) GoTo(*cell);
+  const std::optional<Cell> cell = marks_.NextUnkept(from, backwards);
+  if (!cell) return;
+  GoTo(*cell);
+  // Who comes by keys has no pointer to rest on the box.
+  RosterBox& unkept = BoxAt(*cell);
+  QToolTip::showText(unkept.mapToGlobal(unkept.rect().bottomLeft()), unkept.toolTip(), &unkept);
 }
 
 void RosterFrame::StepRow(Cell from, int rows) {
