@@ -36,6 +36,17 @@ struct FieldByte {
   }
 };
 
+/// The nine bytes of a name, which blanks fill up.
+inline std::vector<FieldByte> Name(int row, std::vector<int> codes) {
+  codes.resize(9);
+  std::vector<FieldByte> bytes;
+  for (const int code : codes) bytes.push_back({row, static_cast<int>(bytes.size()), code});
+  return bytes;
+}
+
+/// What a case of a table is called among the tests.
+inline constexpr auto kCaseName = [](const auto& info) { return std::string(info.param.name); };
+
 /// A cell by roster row and the number of its text box array, and its text.
 struct CellText {
   int row;

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <iterator>
 
 #include "editor/editor.h"
@@ -46,16 +45,12 @@ class AnomalyTest : public TeamTest {
   bool Succeeds(Operation operation) {
     try {
       operation();
+      return true;
     } catch (const OperationFailed& failure) {
       told = failure.what();
       return false;
     }
-    return true;
   }
-
-  void PutPlainRecord() { std::ranges::copy(PlainRecord(), file().begin() + (kBraves - 1)); }
-
-  [[nodiscard]] bool failed() const { return disk.failures > 0; }
 
   /// What has been read is there, even if the close fails then.
   [[nodiscard]] bool read_failed() const { return disk.failures > disk.failed_closes; }
@@ -67,16 +62,14 @@ class AnomalyTest : public TeamTest {
 
 TEST_F(AnomalyTest, IdentityCheck) {
   Editor editor(messages, disk.Opener());
-  const auto nothing = [] {};
-  FailEachAccess(
-      nothing, [&] { editor.OpenFirstImage(kImage, view); },
-      [&] {
-        EXPECT_EQ(messages.shown.empty(), !read_failed());
-        EXPECT_EQ(view.identity, read_failed() ? "0" : "3C");
-        // The channel is free again.
-        EXPECT_TRUE(editor.ExportTeam(kText));
-        disk.files.erase(kText);
-      });
+  FailEachAccess([] {}, [&] { editor.OpenFirstImage(kImage, view); },
+                 [&] {
+                   EXPECT_EQ(messages.shown.empty(), !read_failed());
+                   EXPECT_EQ(view.identity, read_failed() ? "0" : "3C");
+                   // The channel is free again.
+                   EXPECT_TRUE(editor.ExportTeam(kText));
+                   disk.files.erase(kText);
+                 });
   FailEachAccess([&] { view.calls.clear(); }, [&] { editor.OpenAnotherImage(kImage, view); },
                  [&] {
                    EXPECT_EQ(view.calls.empty(), read_failed());
@@ -93,16 +86,11 @@ TEST_F(AnomalyTest, Load) {
   Load("Braves");
   const std::vector<ByteAccess> reads = disk.reads;
   FailEachAccess(
-      [this] {
-        disk.reads.clear();
-        told.clear();
-      },
-      [this] { succeeded = Succeeds([this] { Load("Braves"); }); },
+      [] {}, [this] { succeeded = Succeeds([this] { Load("Braves"); }); },
       [this, &reads] {
         EXPECT_EQ(succeeded, !read_failed());
         EXPECT_EQ(channel.is_open(), read_failed() && access > 1);
         EXPECT_TRUE(disk.writes.empty());
-        EXPECT_TRUE(messages.shown.empty());
         // The first access opens the image; a read that fails is told with its place.
         if (channel.is_open()) {
           const std::int64_t place =
@@ -123,7 +111,7 @@ TEST_F(AnomalyTest, Save) {
   Save();
   const std::vector<ByteAccess> all = disk.writes;
   FailEachAccess(
-      [this] { PutPlainRecord(); }, [this] { saver.Save(grid); },
+      [] {}, [this] { saver.Save(grid); },
       [this, &all] {
         EXPECT_EQ(messages.shown, std::vector<Message>{{"Your changes have been saved."}});
         EXPECT_FALSE(channel.is_open());
@@ -147,11 +135,9 @@ TEST_F(AnomalyTest, Export) {
   FailEachAccess([] {},
                  [this] { succeeded = Succeeds([this] { ExportTeamData(channel, kText, grid); }); },
                  [this, &lines] {
-                   EXPECT_EQ(succeeded, !failed());
+                   EXPECT_EQ(succeeded, disk.failures == 0);
                    const std::vector<std::uint8_t>& file = disk.files[kText];
-                   const bool is_prefix = file.size() <= lines.size() &&
-                                          std::equal(file.begin(), file.end(), lines.begin());
-                   EXPECT_TRUE(is_prefix);
+                   EXPECT_TRUE(lines.starts_with(std::string(file.begin(), file.end())));
                    EXPECT_EQ(file.size() == lines.size(), !read_failed());
                    EXPECT_EQ(channel.is_open(), read_failed() && access > 1);
                    // Whatever is left open, a save frees it; no team is loaded, so nothing is

@@ -1,6 +1,7 @@
 #include <array>
-#include <charconv>
 #include <map>
+#include <span>
+#include <sstream>
 
 #include "image/failure.h"
 #include "support/editor_fixture.h"
@@ -133,38 +134,24 @@ TEST_F(ExhaustiveTest, Ratings) {
   try_field(17, 12, false);
 }
 
-/// What a load and a save make of the nine bytes of a name. `initial_above` is the code that the
-/// row above has just written, `kept` the letter that it has decoded last.
-std::array<int, 9> NameAfter(const std::array<int, 9>& codes, std::string kept, int initial_above) {
-  std::string letters;
-  for (const int code : codes) {
-    if (code == 0x00 || code == 0x0A) kept.clear();
-    if (code >= 0x0B && code <= 0x24) kept = std::string(1, static_cast<char>('A' + code - 0x0B));
-    if (code == 0x36) kept = "C";
-    letters += kept;
-  }
-  std::array<int, 9> after{};
-  if (letters.empty()) after[0] = initial_above;
-  for (std::size_t place = 0; place < letters.size(); ++place) {
-    after.at(place) = letters[place] - 'A' + 0x0B;
-  }
-  return after;
-}
-
 TEST_F(ExhaustiveTest, NameLetters) {
+  // The plain names end in blanks, so nothing is kept from the row above but the code that it has
+  // written for its initial.
+  const auto expect = [](Bytes& after, int row, int /*value*/) {
+    const auto name = std::span(after).subspan(At(row, 0), 9);
+    std::string last;
+    std::string letters;
+    for (const int code : name) {
+      if (code == 0x00 || code == 0x0A) last.clear();
+      if (code >= 0x0B && code <= 0x24) last = std::string(1, static_cast<char>('A' + code - 0x0B));
+      if (code == 0x36) last = "C";
+      letters += last;
+    }
+    std::ranges::fill(name, 0);
+    if (letters.empty()) name[0] = after[At(row - 1, 0)];
+    std::ranges::transform(letters, name.begin(), [](char letter) { return letter - 'A' + 0x0B; });
+  };
   for (int place = 0; place < 9; ++place) {
-    const auto expect = [place](Bytes& after, int row, int value) {
-      std::array<int, 9> codes{};
-      for (int each = 0; each < 9; ++each) {
-        codes.at(static_cast<std::size_t>(each)) = after[At(row, each)];
-      }
-      codes.at(static_cast<std::size_t>(place)) = value;
-      // The plain names end in blanks, so nothing is kept from the row above.
-      const std::array<int, 9> name = NameAfter(codes, "", after[At(row - 1, 0)]);
-      for (int each = 0; each < 9; ++each) {
-        after[At(row, each)] = static_cast<std::uint8_t>(name.at(static_cast<std::size_t>(each)));
-      }
-    };
     TryEveryValue(kBatterRows, place, expect);
     TryEveryValue(kPitcherRows, place, expect);
   }
@@ -192,10 +179,9 @@ class AverageModel {
  private:
   /// Both bytes in hexadecimal without leading zeros, one behind the other.
   static std::string Key(int low, int high) {
-    std::array<char, 4> text{};
-    char* end = text.data() + text.size();
-    const auto low_text = std::to_chars(text.data(), end, low, 16);
-    return {text.data(), std::to_chars(low_text.ptr, end, high, 16).ptr};
+    std::ostringstream key;
+    key << std::hex << low << high;
+    return key.str();
   }
 
   int marker_;

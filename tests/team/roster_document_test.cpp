@@ -90,18 +90,15 @@ TEST(RosterDocument, UndoAndRedoInAnyOrderComeBack) {
   for (int session = 0; session < 50; ++session) {
     RosterDocument document;
     document.Restart(With({}, kName, "L.OADED"));
-    const RosterGrid loaded = document.grid();
-    std::vector<RosterGrid> states = {loaded};
+    std::vector<RosterGrid> states = {document.grid()};
     std::size_t now = 0;
     for (int step = 0; step < 60; ++step) {
       if (below(3) == 0) {
-        const bool undone = document.Undo().has_value();
-        EXPECT_EQ(undone, now > 0);
-        now -= undone ? 1 : 0;
+        EXPECT_EQ(document.Undo().has_value(), now > 0);
+        if (now > 0) --now;
       } else if (below(3) == 0) {
-        const bool redone = document.Redo().has_value();
-        EXPECT_EQ(redone, now + 1 < states.size());
-        now += redone ? 1 : 0;
+        EXPECT_EQ(document.Redo().has_value(), now + 1 < states.size());
+        if (now + 1 < states.size()) ++now;
       } else {
         const RosterGrid before = document.grid();
         const std::string text(static_cast<std::size_t>(below(4)), 'x');
@@ -119,7 +116,7 @@ TEST(RosterDocument, UndoAndRedoInAnyOrderComeBack) {
     }
     while (document.Undo()) {
     }
-    EXPECT_EQ(document.grid(), loaded);
+    EXPECT_EQ(document.grid(), states.front());
   }
 }
 

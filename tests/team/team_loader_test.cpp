@@ -1,10 +1,6 @@
 #include "team/team_loader.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
+#include "image/failure.h"
 #include "support/editor_fixture.h"
 
 namespace morlek {
@@ -53,6 +49,48 @@ TEST_F(TeamLoaderTest, BytesPastTheEndOfAShortImageShowAsZero) {
   ExpectShown({{24, 5, "1"}, {24, 7, "1"}, {24, 9, "2.80"}, {24, 11, "0"}, {24, 12, "0"}});
 }
 
+TEST_F(TeamLoaderTest, AnOpenChannelOrAMissingImageStopsItBeforeAnythingChanges) {
+  Load("Braves");
+  const auto expect_nothing_done = [this] {
+    view.calls.clear();
+    EXPECT_THROW(Load("Orioles"), OperationFailed);
+    EXPECT_TRUE(view.calls.empty());
+    EXPECT_EQ(image.team_base(), kBraves);
+    EXPECT_TRUE(disk.reads.empty());
+  };
+  ASSERT_TRUE(channel.OpenTextInput(kImage));
+  expect_nothing_done();
+  EXPECT_TRUE(channel.is_open());
+  channel.Close();
+  disk.files.clear();
+  expect_nothing_done();
+  EXPECT_FALSE(channel.is_open());
+  EXPECT_TRUE(disk.files.empty());
+}
+
+TEST_F(TeamLoaderTest, AnUnknownKeyNeedsATeamToGoOnWith) {
+  EXPECT_THROW(Load("Senators"), OperationFailed);
+  EXPECT_EQ(image.team_base(), std::nullopt);
+  EXPECT_TRUE(channel.is_open());
+}
+
+TEST_F(TeamLoaderTest, ARatingThatIsALetterEndsTheLoadAndIsToldWithItsPlace) {
+  for (const auto& [letter, place] : std::vector<std::pair<FieldByte, std::string>>{
+           {{3, 11, 0x2A}, "slot 3 (batter 4)"}, {{20, 12, 0xE1}, "slot 20 (pitcher 6)"}}) {
+    Poke({letter});
+    try {
+      Load("Braves");
+      ADD_FAILURE() << letter;
+    } catch (const OperationFailed& failure) {
+      EXPECT_NE(std::string(failure.what()).find(place), std::string::npos) << failure.what();
+    }
+    EXPECT_EQ(disk.reads.back().position, kBraves + 32 * letter.row + letter.offset);
+    EXPECT_TRUE(channel.is_open());
+    channel.Close();
+    Poke({{letter.row, letter.offset, 0x11}});
+  }
+}
+
 /// Bytes of the Braves' record, and of the Orioles' where that team is loaded first.
 struct LoaderCase {
   const char* name;
@@ -73,13 +111,6 @@ TEST_P(TeamLoaderCase, Shows) {
   Poke(GetParam().bytes);
   Load("Braves");
   ExpectShown(GetParam().shown);
-}
-
-std::vector<FieldByte> Name(int row, std::vector<int> codes) {
-  codes.resize(9);
-  std::vector<FieldByte> bytes;
-  for (const int code : codes) bytes.push_back({row, static_cast<int>(bytes.size()), code});
-  return bytes;
 }
 
 /// A number that no row has in rows 0 to 15 of a field, and another byte.
@@ -140,10 +171,9 @@ const std::vector<LoaderCase> kNumberCases = {
     {"PitchersFollowTheBattersOfThePass", {}, {{14, 30, 78}, {15, 30, 201}}, {{15, 11, "78"}}}};
 // clang-format on
 
-constexpr auto kName = [](const auto& info) { return std::string(info.param.name); };
-INSTANTIATE_TEST_SUITE_P(Names, TeamLoaderCase, ::testing::ValuesIn(kNameCases), kName);
-INSTANTIATE_TEST_SUITE_P(Fields, TeamLoaderCase, ::testing::ValuesIn(kFieldCases), kName);
-INSTANTIATE_TEST_SUITE_P(Numbers, TeamLoaderCase, ::testing::ValuesIn(kNumberCases), kName);
+INSTANTIATE_TEST_SUITE_P(Names, TeamLoaderCase, ::testing::ValuesIn(kNameCases), kCaseName);
+INSTANTIATE_TEST_SUITE_P(Fields, TeamLoaderCase, ::testing::ValuesIn(kFieldCases), kCaseName);
+INSTANTIATE_TEST_SUITE_P(Numbers, TeamLoaderCase, ::testing::ValuesIn(kNumberCases), kCaseName);
 
 }  // namespace
 }  // namespace morlek

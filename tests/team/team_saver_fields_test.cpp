@@ -1,8 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 #include "support/editor_fixture.h"
 
 namespace morlek {
@@ -17,8 +12,26 @@ struct SaverCase {
 
 void PrintTo(const SaverCase& saver_case, std::ostream* out) { *out << saver_case.name; }
 
-// A text that gives no byte repeats what its field had in the row before, or 0 in the first row.
 // clang-format off
+const std::vector<SaverCase> kNames = {
+    {"SmallLetters", {{0, 1, "j.smith"}}, Name(0, {0x14, 0x1D, 0x17, 0x13, 0x1E, 0x12})},
+    {"AnythingForThePeriod", {{3, 1, "A1SM"}}, Name(3, {0x0B, 0x1D, 0x17})},
+    {"InitialAlone", {{24, 1, "K"}}, Name(24, {0x15})},
+    {"TenCharacters", {{24, 1, "W.ABCDEFGZ"}},
+     Name(24, {0x21, 0x0B, 0x0C, 0x0D, 0x0E, 0x0F, 0x10, 0x11, 0x24})},
+    {"BlankInside", {{3, 1, " .A B"}}, Name(3, {0x00, 0x0B, 0x00, 0x0C})},
+    {"SmallCIsACapital", {{3, 1, "c.cc"}}, Name(3, {0x0D, 0x0D, 0x0D})},
+    {"UnknownRepeatsTheLetterBefore", {{3, 1, "J.SM1TH"}},
+     Name(3, {0x14, 0x1D, 0x17, 0x17, 0x1E, 0x12})},
+    {"UnknownAfterAPeriodToo", {{3, 1, "J.S.1T"}}, Name(3, {0x14, 0x1D, 0x1D, 0x1D, 0x1E})},
+    // The initials of all rows, up to Y of row 24, come before any surname.
+    {"UnknownInitialRepeatsTheInitialBefore", {{3, 1, "?.X"}}, Name(3, {0x0D, 0x22})},
+    {"PeriodAloneRepeatsTheInitialBefore", {{3, 1, "."}}, Name(3, {0x0D})},
+    {"FirstSurnameFollowsTheLastInitial", {{0, 1, "A..B"}}, Name(0, {0x0B, 0x23, 0x0C})},
+    {"FirstInitialOfTheRunHasNoneBefore", {{0, 1, "1.A"}}, Name(0, {0x00, 0x0B})},
+    {"FirstPeriodOfTheSaveHasNoneBefore", {{0, 1, "."}}, Name(0, {})}};
+
+// A text that gives no byte repeats what its field had in the row before, or 0 in the first row.
 const std::vector<SaverCase> kRepeats = {
     {"Position", {{0, 2, "x"}, {3, 2, "C"}, {4, 2, "SP"}, {5, 2, ""}, {6, 2, "LF "}},
      {{0, 9, 0}, {4, 9, 2}, {5, 9, kNotWritten}, {6, 9, 2}}},
@@ -105,10 +118,10 @@ TEST_P(TeamSaverField, IsWritten) {
   ExpectWritten(GetParam().bytes);
 }
 
-constexpr auto kName = [](const auto& info) { return std::string(info.param.name); };
-INSTANTIATE_TEST_SUITE_P(Repeats, TeamSaverField, ::testing::ValuesIn(kRepeats), kName);
-INSTANTIATE_TEST_SUITE_P(Hands, TeamSaverField, ::testing::ValuesIn(kHands), kName);
-INSTANTIATE_TEST_SUITE_P(Counts, TeamSaverField, ::testing::ValuesIn(kCounts), kName);
+INSTANTIATE_TEST_SUITE_P(Repeats, TeamSaverField, ::testing::ValuesIn(kRepeats), kCaseName);
+INSTANTIATE_TEST_SUITE_P(Hands, TeamSaverField, ::testing::ValuesIn(kHands), kCaseName);
+INSTANTIATE_TEST_SUITE_P(Counts, TeamSaverField, ::testing::ValuesIn(kCounts), kCaseName);
+INSTANTIATE_TEST_SUITE_P(Names, TeamSaverField, ::testing::ValuesIn(kNames), kCaseName);
 
 }  // namespace
 }  // namespace morlek

@@ -1,9 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <string>
+#include <stdexcept>
 
 #include "image/failure.h"
-#include "support/memory_disk.h"
+#include "support/editor_fixture.h"
+#include "textfile/comma_field.h"
 #include "textfile/team_export.h"
 #include "textfile/team_import.h"
 
@@ -12,44 +11,32 @@ namespace {
 
 constexpr char kFile[] = "team.txt";
 
-class TeamDataFileTest : public ::testing::Test {
+class TeamDataFileTest : public TeamTest {
  protected:
-  void Put(const std::string& text) { disk.files[kFile].assign(text.begin(), text.end()); }
-  [[nodiscard]] std::string Content() const {
-    return {disk.files.at(kFile).begin(), disk.files.at(kFile).end()};
-  }
-
-  void Export() { ExportTeamData(channel, kFile, grid); }
-  void Import() { ImportTeamData(channel, kFile, grid); }
-
-  [[nodiscard]] const std::string& Text(int column, int row) const {
-    return grid.Text({static_cast<Column>(column), row});
+  void Import(const std::string& text) {
+    disk.files[kFile].assign(text.begin(), text.end());
+    ImportTeamData(channel, kFile, grid);
   }
 
   void FillGrid() {
     for (int row = 0; row < 25; ++row) {
       for (int column = 1; column <= 14; ++column) {
-        grid.SetText({static_cast<Column>(column), row},
-                     std::to_string(row) + "." + std::to_string(column));
+        Type({{row, column, std::to_string(row) + "." + std::to_string(column)}});
       }
     }
   }
-
-  static std::string Lines(int count, const std::string& line) {
-    std::string text;
-    for (int row = 0; row < count; ++row) text += line;
-    return text;
-  }
-
-  MemoryDisk disk;
-  Channel channel{disk.Opener()};
-  RosterGrid grid;
 };
+
+std::string Lines(int count, const std::string& line) {
+  std::string text;
+  for (int row = 0; row < count; ++row) text += line;
+  return text;
+}
 
 TEST_F(TeamDataFileTest, PitcherLinesHaveTheirAverageFifth) {
   FillGrid();
-  Export();
-  const std::string content = Content();
+  ExportTeamData(channel, kFile, grid);
+  const std::string content(disk.files[kFile].begin(), disk.files[kFile].end());
   EXPECT_TRUE(
       content.starts_with("0.1,0.2,0.3,0.4,0.5,0.6,0.7,0.8,0.9,0.10,0.11,0.12,0.13,0.14,\r\n1.1,"));
   EXPECT_TRUE(content.ends_with(
@@ -58,73 +45,67 @@ TEST_F(TeamDataFileTest, PitcherLinesHaveTheirAverageFifth) {
   EXPECT_NE(content.find("\r\n15.1,15.2,15.3,15.4,15.9,15.5,"), std::string::npos);
 }
 
-TEST_F(TeamDataFileTest, TooFewAndTooManyFieldsStayInTheirLine) {
-  FillGrid();
-  Put("A,B,\r\n" + std::string("1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,\r\n") + "\r\n" +
-      Lines(22, "Z,\r\n"));
-  Import();
-  EXPECT_EQ(Text(1, 0), "A");
-  EXPECT_EQ(Text(2, 0), "B");
-  EXPECT_EQ(Text(3, 0), "");
-  EXPECT_EQ(Text(1, 1), "1");
-  EXPECT_EQ(Text(14, 1), "14");
-  EXPECT_EQ(Text(1, 2), "") << "an empty line leaves its row empty";
-  EXPECT_EQ(Text(1, 3), "Z");
-  EXPECT_EQ(Text(1, 24), "Z");
+TEST_F(TeamDataFileTest, TheFieldsOfEveryLineGoIntoItsRow) {
+  const std::string longest(kLongestField, 'x');
+  struct Case {
+    std::string file;
+    std::vector<CellText> cells;
+  };
+  // clang-format off
+  const std::vector<Case> cases = {
+      // Too few and too many fields stay in their line; an empty line leaves its row empty.
+      {"A,B,\r\n1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,\r\n\r\n" + Lines(22, "Z,\r\n"),
+       {{0, 1, "A"}, {0, 2, "B"}, {0, 3, ""}, {1, 1, "1"}, {1, 14, "14"}, {2, 1, ""}, {3, 1, "Z"},
+        {24, 1, "Z"}}},
+      // Characters behind the last comma go to the next line, also past empty ones.
+      {"A,left\r\nB,C,\r\n\r\nD\r\n\r\nE,F,\r" + Lines(18, "Z,\r") + "Y,dropped",
+       {{0, 1, "A"}, {0, 2, ""}, {1, 1, "leftB"}, {1, 2, "C"}, {5, 1, "DE"}, {24, 1, "Y"},
+        {24, 2, ""}}},
+      // Only a carriage return ends a line.
+      {"A\n,B\x1A,C" + std::string(1, '\0') + ",\n,\r" + Lines(24, ",\r\n"),
+       {{0, 1, "A\n"}, {0, 2, "B\x1A"}, {0, 3, std::string("C\0", 2)}, {0, 4, "\n"}}},
+      // The last line needs no end, and lines behind it are not read.
+      {Lines(24, "A,\r\n") + "LAST,", {{24, 1, "LAST"}}},
+      {Lines(25, "A,\r\n") + "MORE,MORE,", {{24, 1, "A"}, {24, 2, ""}}},
+      // A field that is longer than a box is cut, and the next one is whole.
+      {longest + "yz,NEXT," + longest + ",\r\n" + Lines(24, ",\r\n"),
+       {{0, 1, longest}, {0, 2, "NEXT"}, {0, 3, longest}}}};
+  // clang-format on
+  for (const auto& [file, cells] : cases) {
+    FillGrid();
+    Import(file);
+    ExpectShown(cells);
+  }
 }
 
-TEST_F(TeamDataFileTest, CharactersBehindTheLastCommaGoToTheNextLine) {
-  Put("A,left\r\nB,C,\r\n\r\nD\r\n\r\nE,F,\r" + Lines(18, "Z,\r") + "Y,dropped");
-  Import();
-  EXPECT_EQ(Text(1, 0), "A");
-  EXPECT_EQ(Text(2, 0), "");
-  EXPECT_EQ(Text(1, 1), "leftB");
-  EXPECT_EQ(Text(2, 1), "C");
-  EXPECT_EQ(Text(1, 5), "DE") << "empty lines in between keep it";
-  EXPECT_EQ(Text(1, 24), "Y");
-  EXPECT_EQ(Text(2, 24), "");
-}
-
-TEST_F(TeamDataFileTest, OnlyACarriageReturnEndsALine) {
-  Put("A\n,B\x1A,C" + std::string(1, '\0') + ",\n,\r" + Lines(24, ",\r\n"));
-  Import();
-  EXPECT_EQ(Text(1, 0), "A\n");
-  EXPECT_EQ(Text(2, 0), "B\x1A");
-  EXPECT_EQ(Text(3, 0), std::string("C\0", 2));
-  EXPECT_EQ(Text(4, 0), "\n");
-}
-
-TEST_F(TeamDataFileTest, LastLineNeedsNoEndAndLinesBehindItAreNotRead) {
-  Put(Lines(24, "A,\r\n") + "LAST,");
-  Import();
-  EXPECT_EQ(Text(1, 24), "LAST");
-  Put(Lines(25, "A,\r\n") + "MORE,MORE,");
-  Import();
-  EXPECT_EQ(Text(1, 24), "A");
-  EXPECT_EQ(Text(2, 24), "");
-}
-
-TEST_F(TeamDataFileTest, ShortFileFillsWhatItHasAndLeavesTheChannelOpen) {
+TEST_F(TeamDataFileTest, AShortFileFillsWhatItHasAndLeavesTheChannelOpen) {
   for (const std::string end : {"", "\r", "\r\n"}) {
     FillGrid();
-    Put("A,\r\nB," + end);
-    EXPECT_THROW(Import(), OperationFailed);
-    EXPECT_EQ(Text(1, 1), "B");
-    EXPECT_EQ(Text(2, 1), "");
-    EXPECT_EQ(Text(1, 2), "");
-    EXPECT_EQ(Text(14, 24), "");
+    EXPECT_THROW(Import("A,\r\nB," + end), OperationFailed);
+    ExpectShown({{1, 1, "B"}, {1, 2, ""}, {2, 1, ""}, {24, 14, ""}});
     EXPECT_TRUE(channel.is_open());
     channel.Close();
   }
 }
 
-TEST_F(TeamDataFileTest, FieldLongerThanABoxIsCutAndTheNextOneIsWhole) {
-  const std::string longest(32767, 'x');
-  Put(longest + "yz,NEXT," + longest + ",\r\n" + Lines(24, ",\r\n"));
-  Import();
-  EXPECT_EQ(Text(1, 0), longest);
-  EXPECT_EQ(Text(2, 0), "NEXT");
-  EXPECT_EQ(Text(3, 0), longest);
+TEST(CommaFieldTest, GivesTheFieldOfALine) {
+  struct Case {
+    std::int16_t number;
+    const char *line, *field;
+  };
+  // clang-format off
+  const Case cases[] = {
+      {0, "A,B,C,", "A"}, {1, "A,B,C,", "B"}, {2, "A,B,C,", "C"}, {3, "A,B,C,", "NOT FOUND"},
+      {4, "A,B,C,", "NOT FOUND"}, {32767, "A,B,C,", "NOT FOUND"}, {2, "A,B,C", "C"},
+      {3, "A,B,C", "NOT FOUND"}, {0, ",B", ""}, {1, "A,,C", ""}, {2, "A,,C", "C"},
+      {1, "whole", "whole"}, {2, "whole", "NOT FOUND"}, {1, "", "NOT FOUND"}, {-1, "A,B,C,", "B"},
+      {-32768, "A,B,C,", "B"}};
+  // clang-format on
+  for (const auto& [number, line, field] : cases) {
+    EXPECT_EQ(CommaField(number, line), field) << number << " of '" << line << "'";
+  }
+  for (const char* line : {"whole", ""})
+    EXPECT_THROW((void)CommaField(0, line), std::invalid_argument);
 }
 
 }  // namespace
