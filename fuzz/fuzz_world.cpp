@@ -20,11 +20,6 @@ bool IsSaved(int row, int offset) {
   return both.contains(offset) || (row < 15 ? batter : pitcher).contains(offset);
 }
 
-const std::vector<std::uint8_t>& Sample() {
-  static const std::vector<std::uint8_t> sample = MakeSampleImage();
-  return sample;
-}
-
 }  // namespace
 
 void Require(bool holds, const char* promise) {
@@ -34,7 +29,8 @@ void Require(bool holds, const char* promise) {
 }
 
 World::World() : editor_(messages_, disk_.Opener()) {
-  disk_.files[kImage] = Sample();
+  static const std::vector<std::uint8_t> sample = MakeSampleImage();
+  disk_.files[kImage] = sample;
   editor_.OpenFirstImage(kImage, *this);
   Require(editor_.image_path() == kImage, "the sample is accepted");
 }

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
 #include <span>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include "editor/editor.h"
 #include "image/team_directory.h"
@@ -53,11 +48,6 @@ class World : private EditorView {
 
   /// All files of the world.
   [[nodiscard]] const auto& files() const { return disk_.files; }
-
-  /// What a file of the world holds.
-  [[nodiscard]] const std::vector<std::uint8_t>& File(const char* name) const {
-    return disk_.files.at(name);
-  }
 
   /// All 350 texts.
   [[nodiscard]] std::string GridTexts() const;

@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string imported = world.GridTexts();
   Require(world.Export(), "an export into a writable file succeeds");
   world.editor().document().Type({morlek::Column::kText1, 0}, "other");
-  const std::vector<std::uint8_t> exported = world.File(morlek::fuzz::kText);
+  const std::vector<std::uint8_t> exported = world.files().at(morlek::fuzz::kText);
   Require(world.Import(exported), "an exported file can be imported");
   Require(world.GridTexts() == imported, "an export and an import restore every text");
   return 0;

@@ -16,8 +16,7 @@ int main(int argument_count, char** arguments) {
   for (const char* folder : folders.subspan(1)) {
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
       std::ifstream file(entry.path(), std::ios::binary);
-      const std::vector<char> content{std::istreambuf_iterator<char>(file), {}};
-      const std::vector<std::uint8_t> bytes(content.begin(), content.end());
+      const std::vector<std::uint8_t> bytes{std::istreambuf_iterator<char>(file), {}};
       LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
       ++files;
     }

@@ -1,11 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <functional>
-#include <optional>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "editor/editor.h"
 #include "support/memory_disk.h"
@@ -18,12 +13,9 @@ namespace {
 class EditorOpeningTest : public ::testing::Test {
  protected:
   EditorOpeningTest() {
-    const std::vector<std::pair<const char*, std::uint8_t>> identities = {
-        {"good", 0x3C}, {"good too", 0x3C}, {"3", 0x03}, {"C3", 0xC3}};
-    for (const auto& [path, identity] : identities) {
-      disk.files[path].assign(988297, 0x3C);
-      disk.files[path].back() = identity;
-    }
+    for (const char* path : {"good", "good too", "3", "C3"}) disk.files[path].assign(988297, 0x3C);
+    disk.files["3"].back() = 0x03;
+    disk.files["C3"].back() = 0xC3;
     disk.files["short"].assign(988296, 0x3C);
     disk.files["empty"] = {};
   }
@@ -53,10 +45,8 @@ TEST_F(EditorOpeningTest, TheFirstFileIsTakenOnlyWhenItsIdentityByteIsRight) {
   editor.OpenFirstImage("3", view);
   ExpectImage("", "3");
   ExpectTold(kMustOpen);
-  const std::vector<std::optional<std::filesystem::path>> unreadable = {"short", "empty", "missing",
-                                                                        std::nullopt};
-  for (const auto& chosen : unreadable) {
-    editor.OpenFirstImage(chosen, view);
+  for (const char* chosen : {"short", "empty", "missing", ""}) {
+    editor.OpenFirstImage(*chosen == 0 ? std::optional<std::filesystem::path>() : chosen, view);
     ExpectImage("", "0");
     ExpectTold(kMustOpen);
   }

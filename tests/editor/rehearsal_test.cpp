@@ -1,7 +1,5 @@
 #include "team/rehearsal.h"
 
-#include <gtest/gtest.h>
-
 #include <random>
 
 #include "codecs/code_page.h"
@@ -67,11 +65,15 @@ TEST_F(RehearsalTest, ANameThatIsTooLongEndsIt) {
   EXPECT_EQ(editor.Rehearse().end_row(), 4);
 }
 
-TEST_F(RehearsalTest, EveryTeamOfTheSampleIsKeptAsShown) {
+TEST_F(RehearsalTest, EveryTeamOfTheSampleIsKeptAsShownAndSavedAsItWas) {
+  const std::vector<std::uint8_t> before = file() = MakeSampleImage();
   for (const Team& team : kTeamDirectory) {
-    std::ranges::copy(MakeSampleImage(), file().begin());
     editor.LoadTeam(team.key, view);
     EXPECT_EQ(editor.Rehearse().after(), editor.document().grid()) << team.key;
+    editor.Save();
+    ASSERT_TRUE(file() == before) << team.key;
+    EXPECT_EQ(messages.Texts(), std::vector<std::string>{kSaved}) << team.key;
+    messages.shown.clear();
   }
 }
 
@@ -143,8 +145,7 @@ TEST_F(RehearsalTest, AgreesWithARealSaveAndLoadInRandomSessions) {
       editor.LoadTeam(team.key, view);
       for (const Cell cell : kAllCells) {
         ASSERT_EQ(editor.document().grid().Text(cell), rehearsal.TextAfter(cell))
-            << "session " << session << " row " << cell.row << " column "
-            << static_cast<int>(cell.column);
+            << "session " << session << " row " << cell.row;
         const CellMark& mark = marks.At(cell);
         if (mark.is_unkept) {
           ASSERT_EQ(mark.after, rehearsal.TextAfter(cell));

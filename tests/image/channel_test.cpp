@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
-#include <string>
-
 #include "image/failure.h"
 #include "support/temp_dir.h"
 
@@ -23,13 +20,10 @@ class ChannelTest : public ::testing::Test {
 TEST_F(ChannelTest, ReadsAndWritesBytesFromPositionOneAtOnce) {
   ASSERT_TRUE(channel.OpenBinary(path));
   EXPECT_EQ(channel.ReadByte(1), 'a');
-  EXPECT_EQ(channel.ReadByte(3), 'c');
   EXPECT_TRUE(channel.WriteByte(2, 0xFF));
   EXPECT_TRUE(channel.WriteByte(1, 0x0A));
   EXPECT_EQ(channel.ReadByte(2), 0xFF);
-  EXPECT_EQ(GetFile(path),
-            "\n\xFF"
-            "c");
+  EXPECT_EQ(GetFile(path), std::string("\n\xFF") + "c");
 }
 
 TEST_F(ChannelTest, ThereIsNoPositionBelowOneAndOnlyZerosPastTheEnd) {
