@@ -64,9 +64,7 @@ TEST_F(PaintedWindowTest, TextStandsOutFromItsGround) {
   EXPECT_GE(ContrastOf("labelHint"), kReadable);
   const QImage bar = Seen(*window->menuBar());
   EXPECT_GE(ContrastIn(bar.copy(0, 0, bar.width() / 4, bar.height())), kReadable);
-  user.paths.emplace_back(ImagePath());
-  Choose("mnuOpen");
-  EXPECT_GE(ContrastOf("labelHint"), kReadable);
+  ChooseWith("mnuOpen", ImagePath());
   Click("Braves");
   for (const char* name : {"Label4(0)", "Label4(1)", "Label4(28)", "Command1", "Text1(0)",
                            "Text1(1)", "Text3(14)", "Text14(24)"}) {
@@ -75,8 +73,7 @@ TEST_F(PaintedWindowTest, TextStandsOutFromItsGround) {
   Box(1, 0).setFocus();
   EXPECT_GE(ContrastIn(Seen(Box(1, 0)).copy(6, 6, 30, 9)), kReadable) << "selected text";
   Box(12, 0).setFocus();
-  EXPECT_GE(ContrastOf("Label1", 0), kReadable);
-  EXPECT_GE(ContrastOf("Label3", 0), kReadable);
+  for (const char* name : {"Label1", "Label3"}) EXPECT_GE(ContrastOf(name, 0), kReadable) << name;
   EXPECT_GE(ContrastIn(Seen(Find("StanceView")).copy(104, 30, 90, 40)), kReadable);
   EXPECT_GE(ContrastIn(Seen(Find("Picture1(47)")).copy(37, 29, 11, 10)), kPlain);
   Choose("mnuMorlekHELP");
@@ -84,14 +81,23 @@ TEST_F(PaintedWindowTest, TextStandsOutFromItsGround) {
   const QPalette palette = QApplication::palette();
   EXPECT_GE(Contrast(palette.color(QPalette::ToolTipText), palette.color(QPalette::ToolTipBase)),
             kReadable);
+}
 
+TEST(SplashTest, ReadsWellAndStaysUntilAKeyOrAClickOnThePicture) {
   SplashWindow splash;
+  int dismissed = 0;
+  QObject::connect(&splash, &SplashWindow::Dismissed, [&] { ++dismissed; });
   splash.show();
   EXPECT_TRUE(QTest::qWaitForWindowExposed(&splash));
   EXPECT_GE(ContrastIn(Seen(splash)), kReadable);
+  EXPECT_EQ(splash.windowTitle(), "Form2");
+  QTest::keyClick(&splash, Qt::Key_Space);
+  EXPECT_EQ(dismissed, 1);
+  QTest::mouseClick(splash.findChild<QAbstractButton*>(), Qt::LeftButton);
+  EXPECT_EQ(dismissed, 2);
 }
 
-TEST_F(PaintedWindowTest, NoTwoPicturesAreAlikeAndOnlyABodyHoldsABat) {
+TEST_F(PaintedWindowTest, NoTwoPicturesAreAlikeAndAPickPutsItsCodeAndMarksItsTileAlone) {
   StartWithTeam();
   std::vector<QImage> pictures;
   for (const auto* button : Find("Toolbar1").findChildren<QAbstractButton*>()) {
@@ -99,28 +105,15 @@ TEST_F(PaintedWindowTest, NoTwoPicturesAreAlikeAndOnlyABodyHoldsABat) {
     EXPECT_GE(ContrastIn(pictures.back()), kPlain) << button->toolTip().toStdString();
   }
   for (const Chooser& chooser : kChoosers) {
-    Box(chooser.column, 0).setFocus();
-    for (const Tile& tile : TilesOf(chooser)) {
-      pictures.push_back(tile.seen.copy(4, 3, 33, 35));  // without its code
-      EXPECT_GE(ContrastIn(pictures.back()), kPlain);
-      EXPECT_EQ(WoodIn(pictures.back()) >= 4, chooser.column == 13);
-    }
-  }
-  std::set<std::vector<uchar>> different;
-  for (const QImage& picture : pictures) {
-    different.emplace(picture.constBits(), picture.constBits() + picture.sizeInBytes());
-  }
-  EXPECT_EQ(different.size(), 28U + 48U + 48U + 10U);
-}
-
-TEST_F(PaintedWindowTest, APickPutsItsCodeAndMarksItsTileAndNoOther) {
-  StartWithTeam();
-  for (const Chooser& chooser : kChoosers) {
     QLineEdit& box = Box(chooser.column, 17);
     box.setFocus();
     box.setText("zz");
     const std::vector<Tile> unmarked = TilesOf(chooser);
     for (const Tile& picked : unmarked) {
+      pictures.push_back(picked.seen.copy(4, 3, 33, 35));  // without its code
+      EXPECT_GE(ContrastIn(pictures.back()), kPlain);
+      EXPECT_EQ(WoodIn(pictures.back()) >= 4, chooser.column == 13) << "only a body holds a bat";
+
       QTest::mouseClick(picked.button, Qt::LeftButton);
       EXPECT_EQ(box.text(), picked.text) << picked.button->objectName().toStdString();
       const std::vector<Tile> now = TilesOf(chooser);
@@ -132,6 +125,11 @@ TEST_F(PaintedWindowTest, APickPutsItsCodeAndMarksItsTileAndNoOther) {
       }
     }
   }
+  std::set<std::vector<uchar>> different;
+  for (const QImage& picture : pictures) {
+    different.emplace(picture.constBits(), picture.constBits() + picture.sizeInBytes());
+  }
+  EXPECT_EQ(different.size(), 28U + 48U + 48U + 10U);
 }
 
 TEST_F(PaintedWindowTest, TheStanceShowsEachPieceOfItsRowInItsPlace) {
@@ -141,13 +139,18 @@ TEST_F(PaintedWindowTest, TheStanceShowsEachPieceOfItsRowInItsPlace) {
     for (int column = 12; column <= 14; ++column) Box(column, row).setText(codes[column - 12]);
     return Seen(Find("StanceView")).copy(4, 3, 96, 97);
   };
-  EXPECT_EQ(ColorsOf(figure({"", "", ""})).size(), 1U);
   const auto top_of = [](const QImage& picture) {
     int top = 0;
     while (ColorsOf(picture.copy(0, 0, picture.width(), top + 1)).size() == 1) ++top;
     return top;
   };
+  EXPECT_EQ(ColorsOf(figure({"", "", ""})).size(), 1U);
+  EXPECT_EQ(figure({"zz", "", ""}), figure({"F0", "", ""})) << "both unknown, and seen to be so";
+  EXPECT_GT(ColorsOf(figure({"zz", "", ""})).size(), 1U);
   const QImage face = figure({"3", "", ""});
+  const QImage marked = Seen(Find("Picture1(36)"));
+  EXPECT_EQ(figure({"FFFF0003", "", ""}), face) << "what SAVE makes of it";
+  EXPECT_EQ(Seen(Find("Picture1(36)")), marked);
   const QImage body = figure({"", "57", ""});
   const QImage legs = figure({"", "", "14"});
   EXPECT_GE(WoodIn(body), 4);
@@ -160,6 +163,50 @@ TEST_F(PaintedWindowTest, TheStanceShowsEachPieceOfItsRowInItsPlace) {
   EXPECT_EQ(Seen(Find("StanceView")), before);
   Box(1, 2).setText("N.NEW");
   EXPECT_NE(Seen(Find("StanceView")), before);
+}
+
+TEST_F(PaintedWindowTest, APickGoesToTheStanceRowAndMovesNothing) {
+  StartWithTeam();
+  // Before any visit it is the first row.
+  Find("Frame3").show();
+  Click("Picture2(47)");
+  EXPECT_EQ(Box(13, 0).text(), "57");
+
+  QLineEdit& box = Box(12, 17);
+  box.setFocus();
+  for (int picks = 0; picks < 2; ++picks) {
+    box.deselect();
+    Click("Picture1(36)");
+    EXPECT_EQ(QApplication::focusWidget(), &box);
+    EXPECT_EQ(box.selectedText(), "3") << "also where the text stays the same";
+  }
+  EXPECT_TRUE(ChangedPositions().empty());
+  Click("Command1");
+  EXPECT_EQ(GetFile(ImageFile()).at(kBraves - 1 + 32 * 17 + 14), 0x03);
+
+  Box(1, 9).setFocus();
+  Box(1, 9).setSelection(1, 2);
+  Click("Picture1(0)");
+  EXPECT_EQ(box.text(), "0");
+  EXPECT_EQ(Box(1, 9).selectionLength(), 2) << "another box keeps its selection";
+}
+
+TEST_F(PaintedWindowTest, PicturesCannotBePickedWhileTheGridIsHiddenOrCovered) {
+  StartWithTeam();
+  Box(12, 0).setFocus();
+  const auto pick = [this](int index) {
+    Find<QAbstractButton>(QString("Picture1(%1)").arg(index)).click();
+    return Box(12, 0).text();
+  };
+  ASSERT_EQ(pick(36), "3");
+  Choose("mnuMorlekHELP");
+  EXPECT_EQ(pick(12), "3") << "under the help";
+  CloseHelp();
+  EXPECT_EQ(pick(12), "1");
+
+  std::filesystem::remove(ImageFile());
+  Click("Braves");
+  EXPECT_EQ(pick(36), "1") << "after a failed load";
 }
 
 }  // namespace

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QScreen>
 #include <QTest>
 #include <algorithm>
@@ -48,6 +50,7 @@ class WindowTest : public ::testing::Test {
 
   /// Shows the window and answers its first dialog.
   void Start(const std::optional<QString>& first_answer) {
+    user.open_questions.clear();
     user.paths.push_back(first_answer);
     MakeWindow();
     if (screen != nullptr) window->move(screen->geometry().topLeft());
@@ -78,6 +81,19 @@ class WindowTest : public ::testing::Test {
   void Click(const QString& name) { QTest::mouseClick(&Find(name), Qt::LeftButton); }
   static void DoubleClick(QWidget& widget) { QTest::mouseDClick(&widget, Qt::LeftButton); }
   void Choose(const QString& menu_item) { Find<QAction>(menu_item).trigger(); }
+  /// Chooses a menu item and answers its dialog.
+  void ChooseWith(const QString& menu_item, const std::optional<QString>& answer) {
+    user.paths.push_back(answer);
+    Choose(menu_item);
+  }
+  void CloseHelp() { DoubleClick(*Find<QPlainTextEdit>("Text15").viewport()); }
+
+  /// Presses a key where the focus is.
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget* focused = QApplication::focusWidget();
+    QTest::keyClick(focused == nullptr ? window.get() : focused, key, modifiers);
+  }
+  [[nodiscard]] static QString Focused() { return QApplication::focusWidget()->objectName(); }
 
   /// Clicks a box, which selects its text if it had no focus yet, and types over it.
   void TypeInto(int column, int row, const QString& text) {
@@ -85,6 +101,19 @@ class WindowTest : public ::testing::Test {
     if (box.hasFocus()) box.selectAll();
     if (!box.hasFocus()) QTest::mouseClick(&box, Qt::LeftButton);
     QTest::keyClicks(&box, text);
+  }
+
+  /// Goes to a box and pastes a text by its key.
+  void PasteInto(int column, int row, const QString& text) {
+    QApplication::clipboard()->setText(text);
+    Box(column, row).setFocus();
+    Press(Qt::Key_V, Qt::ControlModifier);
+  }
+
+  /// The path of a new team file in which all 25 players have one name.
+  [[nodiscard]] QString TeamFile(const QString& player) const {
+    PutFile(folder / "team.TXT", (player + ",\r\n").repeated(25).toStdString());
+    return PathOf("team.TXT");
   }
 
   /// All 350 texts.
@@ -107,10 +136,9 @@ class WindowTest : public ::testing::Test {
     return positions;
   }
 
-  void ExpectTold(const QString& text, const QString& title = "MORLEK EDITOR",
-                  Message::Icon icon = Message::Icon::kNone) {
+  void ExpectTold(const QString& text, const QString& title = "MORLEK EDITOR") {
     ASSERT_EQ(user.messages.size(), 1U);
-    EXPECT_EQ(user.messages.front(), (ScriptedUser::Told{text, title, icon}))
+    EXPECT_EQ(user.messages.front(), (ScriptedUser::Told{text, title, Message::Icon::kNone}))
         << user.messages.front().text.toStdString();
     user.messages.clear();
   }

@@ -1,0 +1,162 @@
+#include <QAbstractButton>
+#include <QMenuBar>
+
+#include "shell/code_page_text.h"
+#include "shell/window_fixture.h"
+
+namespace morlek {
+namespace {
+
+constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
+
+/// What is opened, saved, exported and imported.
+class FilesTest : public WindowTest {
+ protected:
+  /// What a dialog may answer that cannot be opened.
+  const std::vector<std::optional<QString>> kUnopenable = {std::nullopt, PathOf("missing"),
+                                                           PathOf(".")};
+};
+
+TEST_F(FilesTest, TheFirstImageIsAskedForOnceAndBeforeAnyCommand) {
+  MakeWindow();
+  Choose("mnuOpen");
+  Choose("mnuAboutMorlek");
+  EXPECT_TRUE(user.open_questions.empty());
+  // A system that shows the menus elsewhere leaves no strip of the window itself to be painted.
+  window->menuBar()->hide();
+  user.paths = {ImagePath()};
+  window->show();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return IsShown("Toolbar1"); }));
+  EXPECT_EQ(user.open_questions[0].title, "Open Dale Harrow Jr. Baseball Rom");
+  EXPECT_EQ(user.open_questions[0].filter, "SNES File (*.smc)|*.smc");
+  EXPECT_TRUE(user.messages.empty());
+  EXPECT_EQ(LabelText("Label3"), "3C");
+  EXPECT_FALSE(IsShown("Frame1"));
+
+  window->hide();
+  window->show();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+  QTest::qWait(50);
+  EXPECT_EQ(user.open_questions.size(), 1U) << "asked again when shown again";
+}
+
+TEST_F(FilesTest, FirstFileThatIsNoImageIsRefusedAndALaterOneIsTaken) {
+  for (const auto& answer : kUnopenable) {
+    Start(answer);
+    ExpectTold("You must first open a Dale Harrow Baseball SNES rom.", "Morlek Editor");
+    EXPECT_EQ(LabelText("Label3"), "0");
+    EXPECT_FALSE(IsShown("Toolbar1"));
+  }
+  // The grid can be imported into before there is an image.
+  ChooseWith("mnuImport", TeamFile("T.EAM"));
+  ChooseWith("mnuOpen", ImagePath());
+  EXPECT_EQ(Box(1, 0).text(), "T.EAM");
+  EXPECT_TRUE(user.messages.empty());
+  Click("Braves");
+  EXPECT_TRUE(IsShown("Frame1"));
+}
+
+TEST_F(FilesTest, AWrongOrUnreadableFileLaterChangesNothingAndAnotherImageHidesTheGrid) {
+  StartWithTeam();
+  const std::vector<QString> texts = GridTexts();
+  std::vector<std::uint8_t> wrong = Sample();
+  wrong.at(988296) = 0xC3;
+  PutFile(folder / "wrong.smc", wrong);
+  ChooseWith("mnuOpen", PathOf("wrong.smc"));
+  ExpectTold("This is not a Dale Harrow Baseball SNES rom.", "Morlek Editor");
+  EXPECT_EQ(LabelText("Label3"), "C3");
+  for (const auto& answer : kUnopenable) ChooseWith("mnuOpen", answer);
+  EXPECT_TRUE(user.messages.empty());
+  EXPECT_EQ(GridTexts(), texts);
+  EXPECT_TRUE(IsShown("Frame1"));
+  // The image is still the first one.
+  TypeInto(3, 0, "24");
+  Click("Command1");
+  ExpectTold("Your changes have been saved.");
+  EXPECT_EQ(ChangedPositions(), std::vector<std::size_t>{kBraves + 10});
+  Press(Qt::Key_S, Qt::ControlModifier);
+  ExpectTold("Your changes have been saved.");
+
+  Box(12, 3).setFocus();
+  ChooseWith("mnuOpen", ImagePath());
+  EXPECT_FALSE(IsShown("Frame1"));
+  EXPECT_EQ(window->width(), 447);
+  EXPECT_EQ(Box(3, 0).text(), "24");
+}
+
+TEST_F(FilesTest, TeamThatCannotBeLoadedIsReportedAndKeysDoNotReachTheHiddenGrid) {
+  StartWithTeam();
+  QTest::mouseClick(&Box(1, 0), Qt::LeftButton);
+  const std::vector<QString> texts = GridTexts();
+  std::filesystem::remove(ImageFile());
+  Click("Mets");
+  ASSERT_EQ(user.messages.size(), 1U);
+  EXPECT_EQ(user.messages[0].title, "MORLEK EDITOR");
+  EXPECT_EQ(user.messages[0].icon, Message::Icon::kCritical);
+  EXPECT_EQ(LabelText("Label4(0)"), "ATLANTA BRAVES");
+  EXPECT_FALSE(IsShown("Frame1"));
+  QTest::keyClicks(window.get(), "X");
+  EXPECT_EQ(GridTexts(), texts);
+
+  PutFile(ImageFile(), Sample());
+  Click("Mets");
+  EXPECT_TRUE(IsShown("Frame1"));
+  EXPECT_EQ(LabelText("Label4(0)"), "NEW YORK METS");
+  // Nor when the help, which has covered it, gives the focus back.
+  Find("Command1").setFocus();
+  Choose("mnuMorlekHELP");
+  ChooseWith("mnuOpen", ImagePath());
+  CloseHelp();
+  EXPECT_FALSE(IsShown("Frame1") || IsShown("Frame5"));
+  user.messages.clear();
+  for (const auto key : {Qt::Key_Space, Qt::Key_Down}) QTest::keyClick(window.get(), key);
+  Find<QAbstractButton>("Command1").click();
+  EXPECT_TRUE(user.messages.empty()) << "saved into an image of which no team is loaded";
+  EXPECT_EQ(window->focusWidget(), nullptr);
+}
+
+TEST_F(FilesTest, EveryCharacterThatABoxCanHoldComesBackFromATeamFile) {
+  StartWithTeam();
+  for (int byte = 0; byte < 256; ++byte) {
+    if (byte == ',' || byte == '\r') continue;
+    const QString text = FromCodePage(std::string(1, static_cast<char>(byte)));
+    Box(1 + byte % 14, byte / 14).setText("a" + text + "b" + text);
+  }
+  const std::vector<QString> before = GridTexts();
+  ChooseWith("mnuExport", PathOf("team"));
+  EXPECT_EQ(user.save_questions.at(0).title, "Save Dale Harrow Jr. Baseball Team Data");
+  EXPECT_EQ(user.save_questions[0].filter, kTeamDataFilter);
+  ExpectTold("Your team data has been saved to " + PathOf("team"));
+
+  Click("Mets");
+  EXPECT_NE(GridTexts(), before);
+  ChooseWith("mnuImport", PathOf("team"));
+  EXPECT_EQ(user.open_questions.at(1).title, "Open Dale Harrow Jr. Baseball Team Data");
+  EXPECT_EQ(user.open_questions[1].filter, kTeamDataFilter);
+  EXPECT_TRUE(user.messages.empty());
+  EXPECT_EQ(GridTexts(), before);
+}
+
+TEST_F(FilesTest, FailedExportsAndImportsAreSilentAndACancelFreesAShortFile) {
+  StartWithTeam();
+  const std::vector<QString> before = GridTexts();
+  for (const auto& answer : kUnopenable) ChooseWith("mnuImport", answer);
+  ChooseWith("mnuExport", PathOf("no folder/team.txt"));
+  EXPECT_EQ(GridTexts(), before);
+
+  PutFile(folder / "short.txt", std::string("A.B,P,\r\n"));
+  for (const char* cancelled : {"mnuOpen", "mnuImport", "mnuExport"}) {
+    ChooseWith("mnuImport", PathOf("short.txt"));
+    EXPECT_EQ(Box(1, 0).text(), "A.B");
+    // While it is held no other file is made.
+    ChooseWith("mnuExport", PathOf("new.txt"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "new.txt"));
+    ChooseWith(cancelled, std::nullopt);
+    Click("Braves");
+    EXPECT_TRUE(user.messages.empty()) << cancelled;
+    EXPECT_EQ(GridTexts(), before);
+  }
+}
+
+}  // namespace
+}  // namespace morlek

@@ -1,0 +1,168 @@
+#include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QWindow>
+
+#include "shell/window_fixture.h"
+
+namespace morlek {
+namespace {
+
+constexpr int kNarrow = 447;
+constexpr int kWide = 666;
+
+class MainWindowTest : public WindowTest {
+ protected:
+  void StartOnScreen(int number) {
+    screen = QGuiApplication::screens().at(number);
+    StartWithTeam();
+    ASSERT_EQ(window->screen(), screen);
+  }
+  [[nodiscard]] const QScrollArea& Area() const { return *window->findChild<QScrollArea*>(); }
+  [[nodiscard]] bool IsSeenWhole(int column, int row) const {
+    return Box(column, row).visibleRegion() == Box(column, row).rect();
+  }
+};
+
+TEST_F(MainWindowTest, KeysOfTheLineEditorReachTheMenuFromABox) {
+  StartWithTeam();
+  QTest::mouseClick(&Box(1, 4), Qt::LeftButton);
+  const std::vector<QString> before = GridTexts();
+  Press(Qt::Key_A, Qt::ControlModifier);
+  ASSERT_EQ(user.messages.size(), 1U);
+  EXPECT_EQ(user.messages[0].title, "MORLEK EDITOR");
+  EXPECT_TRUE(user.messages[0].text.startsWith("MORLEK EDITOR for SNES Dale Harrow Baseball.\n"));
+  EXPECT_TRUE(user.messages[0].text.contains(QRegularExpression(R"(\nVersion \d+\.\d+\.\d+,)")));
+
+  Press(Qt::Key_E, Qt::ControlModifier);
+  EXPECT_EQ(user.save_questions.size(), 1U);
+  Press(Qt::Key_H, Qt::ControlModifier);
+  EXPECT_TRUE(IsShown("Frame5"));
+  EXPECT_EQ(GridTexts(), before);
+}
+
+TEST_F(MainWindowTest, QuitAsksAndTheCloseBoxDoesNot) {
+  StartWithTeam();
+  TypeInto(1, 0, "EDITED");
+  for (const bool stays : {true, false}) {
+    user.answers = {!stays};
+    Choose("mnuQuit");
+    EXPECT_EQ(user.yes_no_questions.back().text,
+              "Are you sure you want to quit MORLEK EDITOR?\n\nIf not then click NO.");
+    EXPECT_EQ(user.yes_no_questions.back().title, "MORLEK EDITOR");
+    EXPECT_EQ(window->isVisible(), stays);
+  }
+  window->show();
+  window->close();
+  EXPECT_FALSE(window->isVisible());
+  EXPECT_EQ(user.yes_no_questions.size(), 2U);
+}
+
+TEST_F(MainWindowTest, FeaturesBoxesWidenTheWindowAndShowTheirChooser) {
+  StartWithTeam();
+  const std::vector<std::pair<int, QString>> choosers = {
+      {12, "Frame2"}, {13, "Frame3"}, {14, "Frame4"}};
+  for (const auto& [column, shown] : choosers) {
+    Choose("mnuMini");
+    EXPECT_EQ(window->width(), kNarrow);
+    Box(column, 16).setFocus();
+    EXPECT_EQ(window->width(), kWide);
+    for (const auto& [other, frame] : choosers) EXPECT_EQ(IsShown(frame), frame == shown) << column;
+    EXPECT_EQ(Find(shown).mapTo(window->centralWidget(), QPoint(0, 0)).x(), 444);
+  }
+  Box(11, 16).setFocus();
+  EXPECT_EQ(window->width(), kWide) << "only an action sets a width";
+  Click("Cubs");
+  EXPECT_FALSE(Find("Frame4").isHidden()) << "kept for the next widening";
+
+  // A click widens again also where the focus has stayed.
+  for (const bool by_menu : {true, false}) {
+    QTest::mouseClick(&Box(12, 0), Qt::LeftButton);
+    if (by_menu) Choose("mnuMini");
+    if (!by_menu) Click("Cubs");
+    EXPECT_EQ(window->width(), kNarrow);
+    QTest::mouseClick(&Box(12, 0), Qt::RightButton);
+    EXPECT_EQ(window->width(), kNarrow) << "a click of another button is no visit";
+    QTest::mouseClick(&Box(12, 0), Qt::LeftButton);
+    EXPECT_EQ(window->width(), kWide) << by_menu;
+  }
+}
+
+TEST_F(MainWindowTest, TheWindowStaysWithinTheScreenAndItsContentKeepsItsWidth) {
+  for (const int number : {0, 1}) {
+    StartOnScreen(number);
+    for (const int width : {kNarrow, kWide}) {
+      if (width == kWide) Box(13, 0).setFocus();
+      QTest::qWait(20);
+      EXPECT_EQ(Area().viewport()->width(), width);
+      EXPECT_EQ(Area().viewport()->height() == 653, number == 0);
+      EXPECT_EQ(Area().verticalScrollBar()->isVisible(), number == 1);
+      const int spare = screen->availableGeometry().height() - window->frameGeometry().height();
+      EXPECT_TRUE(spare >= 0 && (number == 0 || spare < 8)) << spare;
+    }
+  }
+}
+
+TEST_F(MainWindowTest, HelpCoversTheGridUntilItIsDoubleClicked) {
+  StartWithTeam();
+  QTest::mouseClick(&Box(13, 3), Qt::LeftButton);
+  Choose("mnuMini");
+  EXPECT_EQ(window->findChild<QWidget*>("Frame5"), nullptr) << "the start waits for the help";
+  Choose("mnuMorlekHELP");
+  Choose("mnuMorlekHELP");
+  EXPECT_EQ(Find("Frame5").geometry(), QRect(0, 0, 441, 633));
+
+  auto& help = Find<QPlainTextEdit>("Text15");
+  const QString text = help.toPlainText();
+  EXPECT_TRUE(text.startsWith("::::::::::::::\nMORLEK EDITOR\n"));
+  EXPECT_TRUE(text.endsWith("\n\n\nDOUBLE CLICK TO CLOSE HELP"));
+  QTest::mouseClick(help.viewport(), Qt::LeftButton);
+  QTest::mouseDClick(help.viewport(), Qt::RightButton);
+  for (const auto key : {Qt::Key_Escape, Qt::Key_X, Qt::Key_Tab, Qt::Key_Backtab}) Press(key);
+  for (const auto key : {Qt::Key_PageDown, Qt::Key_S}) Press(key, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::focusWidget(), &help) << "the covered grid takes no keys";
+  EXPECT_TRUE(IsShown("Frame5"));
+  EXPECT_EQ(help.toPlainText(), text);
+  EXPECT_EQ(LabelText("Label4(0)"), "ATLANTA BRAVES");
+  EXPECT_TRUE(user.messages.empty());
+  CloseHelp();
+  EXPECT_FALSE(IsShown("Frame5"));
+  EXPECT_EQ(QApplication::focusWidget(), &Box(13, 3));
+  EXPECT_EQ(Box(13, 3).selectedText(), Box(13, 3).text());
+  EXPECT_EQ(window->width(), kNarrow) << "closing the help is no visit to a features box";
+}
+
+TEST_F(MainWindowTest, OnTopIsTurnedOnAndOffInPlace) {
+  StartWithTeam();
+  const auto* native = window->windowHandle();
+  const WId id = window->winId();
+  for (const bool on_top : {false, true, false}) {
+    EXPECT_EQ(native->flags().testFlag(Qt::WindowStaysOnTopHint), on_top);
+    EXPECT_EQ(Find<QAction>("mnuAlwaysOnTop").isVisible(), !on_top);
+    EXPECT_EQ(Find<QAction>("mnuNotTop").isVisible(), on_top);
+    Choose(on_top ? "mnuNotTop" : "mnuAlwaysOnTop");
+  }
+  EXPECT_EQ(window->windowHandle(), native) << "the window was made anew";
+  EXPECT_EQ(window->winId(), id);
+}
+
+TEST_F(MainWindowTest, TheGridScrollsWithTheFocusAndHelpBeginsWithItsFirstLine) {
+  StartOnScreen(1);
+  for (int row = 0; row < 25; ++row) {
+    Box(1, row).setFocus();
+    EXPECT_TRUE(IsSeenWhole(1, row)) << row;
+  }
+  // Where it has to scroll, the neighbour comes into view as well.
+  Box(1, 3).setFocus();
+  EXPECT_TRUE(IsSeenWhole(1, 2));
+  Box(1, 20).setFocus();
+  EXPECT_TRUE(IsSeenWhole(1, 21));
+  // A click beside the grid takes the focus from no box.
+  QTest::mouseClick(Area().widget(), Qt::LeftButton, Qt::NoModifier, QPoint(445, 340));
+  EXPECT_TRUE(Box(1, 20).hasFocus());
+  Choose("mnuMorlekHELP");
+  EXPECT_TRUE(Find<QPlainTextEdit>("Text15").viewport()->visibleRegion().contains({20, 15}));
+}
+
+}  // namespace
+}  // namespace morlek
