@@ -30,7 +30,7 @@ void PaintGround(QPainter& painter) {
 void PaintIconBat(QPainter& painter) {
   constexpr QPointF kKnob{9.6, 54.4};
   constexpr QPointF kTip{52.4, 9.6};
-  const auto grip = [](qreal share) { return Disc{art::Between(kKnob, kTip, share), 2.7}; };
+  const auto grip = [&](qreal share) { return Disc{art::Between(kKnob, kTip, share), 2.7}; };
   art::PaintSolid(painter, art::BatShape(kKnob, kTip, 6.8), art::kWood, 3.4);
   art::PaintTone(painter, art::Taper(grip(0.14), grip(0.34)), art::kNavyCloth, 1);
 }
