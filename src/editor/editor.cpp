@@ -136,9 +136,7 @@ void Editor::PasteBlock(Cell start, std::string_view block) {
   document_.Replace(WithBlock(document_.grid(), start, block));
 }
 
-Rehearsal Editor::Rehearse() const {
-  return Rehearsal(document_.grid(), kept_, knowledge_.bytes());
-}
+Rehearsal Editor::Rehearse() const { return {document_.grid(), kept_, knowledge_.bytes()}; }
 
 GridMarks Editor::Marks() const {
   if (!knowledge_.is_known()) return {};

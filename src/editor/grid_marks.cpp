@@ -57,7 +57,9 @@ std::optional<Cell> GridMarks::NextUnkept(std::optional<Cell> from, bool backwar
   // Forwards or backwards, the search begins behind the cell and comes round to it last.
   std::vector<Cell> cells(kCellsOnScreen.begin(), kCellsOnScreen.end());
   if (backwards) std::ranges::reverse(cells);
-  if (from) std::ranges::rotate(cells, std::next(std::ranges::find(cells, *from)));
+  if (from) {
+    std::rotate(cells.begin(), std::next(std::ranges::find(cells, *from)), cells.end());
+  }
   const auto found = std::ranges::find_if(cells, is_unkept);
   if (found == cells.end()) return std::nullopt;
   return *found;
