@@ -145,8 +145,9 @@ void RecordEncoder::SaveUniformNumber(int row) {
   SmallNumberCodec& codec = kept_.small_number;
   Assign(kept_.uniform_number,
          ByteTextToNumber(codec.EncodeUniformNumber(row, grid_.Text({kText3, row}))));
-  if (kept_.uniform_number)
+  if (kept_.uniform_number) {
     WriteFilled({kText3, row}, offset::kUniformNumber, *kept_.uniform_number);
+  }
 }
 
 void RecordEncoder::SaveBattingSide(int row) {
