@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <utility>
 
 namespace morlek {
 
@@ -57,7 +58,9 @@ namespace morlek {
     return 0.2126 * std::pow(color.redF(), 2.2) + 0.7152 * std::pow(color.greenF(), 2.2) +
            0.0722 * std::pow(color.blueF(), 2.2);
   };
-  const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+  // Copies: what is compared is gone at the end of the line.
+  const std::pair<double, double> both = std::minmax(luminance(one), luminance(other));
+  const auto& [dark, light] = both;
   return (light + 0.05) / (dark + 0.05);
 }
 

@@ -104,8 +104,9 @@ TEST(CommaFieldTest, GivesTheFieldOfALine) {
   for (const auto& [number, line, field] : cases) {
     EXPECT_EQ(CommaField(number, line), field) << number << " of '" << line << "'";
   }
-  for (const char* line : {"whole", ""})
+  for (const char* line : {"whole", ""}) {
     EXPECT_THROW((void)CommaField(0, line), std::invalid_argument);
+  }
 }
 
 }  // namespace
