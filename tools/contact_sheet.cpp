@@ -27,9 +27,9 @@ constexpr QSizeF kTileSize(50, 41);
 constexpr QSizeF kTilePitch(52, 43);
 
 void PaintTile(QPainter& painter, StancePiece piece, int index, int code) {
-  const QRectF tile({2 + kTilePitch.width() * (index / morlek::kPictureRows),
-                     2 + kTilePitch.height() * (index % morlek::kPictureRows)},
-                    kTileSize);
+  const int column = index / morlek::kPictureRows;
+  const int row = index % morlek::kPictureRows;
+  const QRectF tile({2 + kTilePitch.width() * column, 2 + kTilePitch.height() * row}, kTileSize);
   painter.setPen(QColor(0xcb, 0xd2, 0xdc));
   painter.setBrush(Qt::white);
   painter.drawRoundedRect(tile.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
@@ -86,7 +86,8 @@ void PaintClubs(QPainter& painter) {
        {.face = 0x00, .body = 0x9A, .legs = 0x03},
        {.face = 0xFF, .body = 0x27, .legs = std::nullopt}}};
   for (int i = 0; i < 16; ++i) {
-    const QRectF place(4 + 132 * (i % 8), 4 + 164 * (i / 8), 128, 160);
+    const int line = i / 8;
+    const QRectF place(4 + 132 * (i % 8), 4 + 164 * line, 128, 160);
     const auto column = static_cast<std::size_t>(i % 8);
     const auto batter = static_cast<std::size_t>((i + i / 8) % 8);
     morlek::PaintStance(painter, place, kBatters.at(batter),

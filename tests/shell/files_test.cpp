@@ -13,8 +13,8 @@ constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
 class FilesTest : public WindowTest {
  protected:
   /// What a dialog may answer that cannot be opened.
-  const std::vector<std::optional<QString>> kUnopenable = {std::nullopt, PathOf("missing"),
-                                                           PathOf(".")};
+  const std::vector<std::optional<QString>> unopenable = {std::nullopt, PathOf("missing"),
+                                                          PathOf(".")};
 };
 
 TEST_F(FilesTest, TheFirstImageIsAskedForOnceAndBeforeAnyCommand) {
@@ -41,7 +41,7 @@ TEST_F(FilesTest, TheFirstImageIsAskedForOnceAndBeforeAnyCommand) {
 }
 
 TEST_F(FilesTest, FirstFileThatIsNoImageIsRefusedAndALaterOneIsTaken) {
-  for (const auto& answer : kUnopenable) {
+  for (const auto& answer : unopenable) {
     Start(answer);
     ExpectTold("You must first open a Dale Harrow Baseball SNES rom.", "Morlek Editor");
     EXPECT_EQ(LabelText("Label3"), "0");
@@ -65,7 +65,7 @@ TEST_F(FilesTest, AWrongOrUnreadableFileLaterChangesNothingAndAnotherImageHidesT
   ChooseWith("mnuOpen", PathOf("wrong.smc"));
   ExpectTold("This is not a Dale Harrow Baseball SNES rom.", "Morlek Editor");
   EXPECT_EQ(LabelText("Label3"), "C3");
-  for (const auto& answer : kUnopenable) ChooseWith("mnuOpen", answer);
+  for (const auto& answer : unopenable) ChooseWith("mnuOpen", answer);
   EXPECT_TRUE(user.messages.empty());
   EXPECT_EQ(GridTexts(), texts);
   EXPECT_TRUE(IsShown("Frame1"));
@@ -140,7 +140,7 @@ TEST_F(FilesTest, EveryCharacterThatABoxCanHoldComesBackFromATeamFile) {
 TEST_F(FilesTest, FailedExportsAndImportsAreSilentAndACancelFreesAShortFile) {
   StartWithTeam();
   const std::vector<QString> before = GridTexts();
-  for (const auto& answer : kUnopenable) ChooseWith("mnuImport", answer);
+  for (const auto& answer : unopenable) ChooseWith("mnuImport", answer);
   ChooseWith("mnuExport", PathOf("no folder/team.txt"));
   EXPECT_EQ(GridTexts(), before);
 

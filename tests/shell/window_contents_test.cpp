@@ -42,7 +42,8 @@ constexpr char kHeads[] =
 QRegion WhiteShapeOf(const QPixmap& picture) {
   const QBitmap white = picture.createMaskFromColor(Qt::white, Qt::MaskOutColor);
   const QPixmap shape = white.copy(QRegion(white).boundingRect()).scaled(120, 60);
-  return QRegion(QBitmap::fromPixmap(shape));
+  const QRegion region(QBitmap::fromPixmap(shape));
+  return region;
 }
 
 /// Whether the white letters on a badge are these.

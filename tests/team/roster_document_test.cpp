@@ -83,31 +83,35 @@ TEST(RosterDocument, EveryObserverIsToldOfOneChangeUntilItsSubscriptionEnds) {
   document.reset();
 }
 
+/// Types into a cell, or replaces two cells in one step.
+void ChangeAnything(RosterDocument& document, std::mt19937& random) {
+  const auto any_cell = [&random] { return kAllCells.at(random() % kCellCount); };
+  const std::string text(random() % 4, 'x');
+  document.EndVisit();
+  if (random() % 2 == 0) {
+    document.Type(any_cell(), text);
+  } else {
+    document.Replace(With(With(document.grid(), any_cell(), text), any_cell(), "y"));
+  }
+}
+
 TEST(RosterDocument, UndoAndRedoInAnyOrderComeBack) {
   std::mt19937 random(7);
-  const auto below = [&random](int end) { return static_cast<int>(random() % unsigned(end)); };
-  const auto any_cell = [&] { return kAllCells.at(static_cast<std::size_t>(below(350))); };
   for (int session = 0; session < 50; ++session) {
     RosterDocument document;
     document.Restart(With({}, kName, "L.OADED"));
     std::vector<RosterGrid> states = {document.grid()};
     std::size_t now = 0;
     for (int step = 0; step < 60; ++step) {
-      if (below(3) == 0) {
+      if (random() % 3 == 0) {
         EXPECT_EQ(document.Undo().has_value(), now > 0);
         if (now > 0) --now;
-      } else if (below(3) == 0) {
+      } else if (random() % 3 == 0) {
         EXPECT_EQ(document.Redo().has_value(), now + 1 < states.size());
         if (now + 1 < states.size()) ++now;
       } else {
         const RosterGrid before = document.grid();
-        const std::string text(static_cast<std::size_t>(below(4)), 'x');
-        document.EndVisit();
-        if (below(2) == 0) {
-          document.Type(any_cell(), text);
-        } else {
-          document.Replace(With(With(before, any_cell(), text), any_cell(), "y"));
-        }
+        ChangeAnything(document, random);
         if (document.grid() == before) continue;
         states.resize(++now);
         states.push_back(document.grid());

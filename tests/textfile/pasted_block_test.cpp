@@ -37,7 +37,8 @@ TEST(PastedBlock, IsLaidRightAndDownAndEndsAtTheEdgesOfItsHalf) {
     for (const auto& [cell, text] : block.cells) expected.SetText(cell, text);
     EXPECT_EQ(WithBlock(old, block.start, block.text), expected) << block.text;
   }
-  const std::string huge(10000000, 'x');
+  std::string huge;
+  huge.resize(10000000, 'x');
   const RosterGrid laid = WithBlock(old, {kText2, 0}, huge + "\t" + huge);
   EXPECT_EQ(laid.Text({kText2, 0}).size(), 32767U);
   EXPECT_EQ(laid.Text({kText3, 0}).size(), 32767U);
