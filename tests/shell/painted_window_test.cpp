@@ -125,9 +125,9 @@ TEST_F(PaintedWindowTest, NoTwoPicturesAreAlikeAndAPickPutsItsCodeAndMarksItsTil
       }
     }
   }
-  std::set<std::vector<uchar>> different;
+  std::set<QByteArray> different;
   for (const QImage& picture : pictures) {
-    different.emplace(picture.constBits(), picture.constBits() + picture.sizeInBytes());
+    different.insert(QByteArrayView(picture.constBits(), picture.sizeInBytes()).toByteArray());
   }
   EXPECT_EQ(different.size(), 28U + 48U + 48U + 10U);
 }
