@@ -5,18 +5,18 @@
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QLabel>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
 
 #include "shell/cls_on_top.h"
 #include "shell/code_page_text.h"
+#include "shell/content_area.h"
 #include "shell/dropped_file.h"
 #include "shell/help_pane.h"
 #include "shell/mark_text.h"
+#include "shell/menu_bar.h"
 #include "shell/roster_frame.h"
 #include "shell/stance_panel.h"
 #include "shell/status_line.h"
@@ -30,8 +30,7 @@ namespace {
 
 constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
-constexpr int kContentHeight = 653;  // logical pixels
-constexpr int kRowMargin = 24;       // what stays in view around a box, likewise
+constexpr int kRowMargin = 24;  // what stays in view around a box, in logical pixels
 
 constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
 
@@ -50,7 +49,9 @@ MainWindow::MainWindow(Editor& editor, User& user) : editor_(editor), user_(user
   setObjectName("Form1");
   setWindowTitle(kProgramTitle);
   setAccessibleName(kProgramTitle);
-  BuildMenus();
+  menus_ = new MenuBar(this);
+  setMenuBar(menus_);
+  connect(menus_, &MenuBar::Chosen, this, &MainWindow::Run);
   BuildContent();
   ShowHint();
   SetContentWidth(kNarrowWidth);
@@ -68,34 +69,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   return QMainWindow::eventFilter(watched, event);
 }
 
-void MainWindow::BuildMenus() {
-  menuBar()->setAccessibleName("menu bar");
-  for (const MenuTable& table : kMenus) {
-    QMenu* menu = menuBar()->addMenu(table.caption);
-    menu->setAccessibleName(menu->title().remove('&'));
-    menu->setObjectName(table.name);
-    for (const MenuItem& item : table.items) {
-      QAction* action = menu->addAction(item.caption);
-      items_[item.command] = action;
-      action->setObjectName(item.name);
-      action->setShortcut(item.key);
-      action->setVisible(item.command != Command::kNotOnTop);
-      connect(action, &QAction::triggered, this, [this, item] { Run(item.command); });
-    }
-  }
-}
-
 void MainWindow::BuildContent() {
-  scroll_ = new QScrollArea(this);
-  scroll_->setFrameShape(QFrame::NoFrame);
-  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  scroll_->setFocusPolicy(Qt::NoFocus);
-  scroll_->setAccessibleName("scrolling area");
-  content_ = new QWidget;
-  content_->setAccessibleName("content");
+  area_ = new ContentArea(this);
+  setCentralWidget(area_);
+  content_ = area_->widget();
   content_->installEventFilter(this);
-  scroll_->setWidget(content_);
-  setCentralWidget(scroll_);
 
   identity_ = AddLabel("Label3", {FromTwips(6060), 635, FromTwips(555), 16});
   identity_->setAccessibleName("identity byte");
@@ -107,6 +85,8 @@ void MainWindow::BuildContent() {
   hint_->setAlignment(Qt::AlignCenter);
 
   status_ = new StatusLine(content_);
+  area_->KeepInView(status_);
+  area_->KeepInView(identity_);
 
   toolbar_ = new TeamToolbar(content_);
   toolbar_->move(FromTwips(60), 1);
@@ -140,7 +120,7 @@ void MainWindow::AddRoster() {
   stances_->show();
   connect(roster_, &RosterFrame::CellVisited, this, [this](Cell cell) {
     // On a screen with less room than the window needs.
-    scroll_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
+    area_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
     if (!IsFeature(cell.column)) return;
     stances_->Choose(cell);
     SetContentWidth(kWideWidth);
@@ -162,23 +142,15 @@ QLabel* MainWindow::AddLabel(const char* name, const QRect& place) {
 
 void MainWindow::SetContentWidth(int twips) {
   if (roster_ != nullptr && twips == kNarrowWidth) roster_->ShowStanceRow(std::nullopt);
-  content_->setFixedSize(FromTwips(twips), kContentHeight);
+  area_->SetContentWidth(twips);
   FitToScreen();
 }
 
 void MainWindow::FitToScreen() {
-  const int menu_height = menuBar()->sizeHint().height();
+  const int menu_height = menus_->sizeHint().height();
   const int borders = frameGeometry().height() - height();
-  const int room = screen()->availableGeometry().height() - borders;
-  QSize size(content_->width(), content_->height() + menu_height);
-  const bool fits = size.height() <= room;
-  // Never as needed: rounding at a fractional scale factor can make the content a pixel too high.
-  scroll_->setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
-  if (!fits) {
-    size.setHeight(room);
-    size.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
-  }
-  setFixedSize(size);
+  const int room = screen()->availableGeometry().height() - borders - menu_height;
+  setFixedSize(area_->FitInto(room) + QSize(0, menu_height));
 }
 
 void MainWindow::Run(Command command) {
@@ -240,8 +212,7 @@ void MainWindow::SetAlwaysOnTop(bool on_top) {
   } else {
     on_top_->MakeNotTopmost(*windowHandle());
   }
-  items_.at(Command::kAlwaysOnTop)->setVisible(!on_top);
-  items_.at(Command::kNotOnTop)->setVisible(on_top);
+  menus_->OfferOnTop(!on_top);
 }
 
 void MainWindow::OpenHelp() {
@@ -251,7 +222,7 @@ void MainWindow::OpenHelp() {
     connect(help_, &HelpPane::Covered, toolbar_, &QWidget::setDisabled);
     connect(help_, &HelpPane::Covered, roster_, &QWidget::setDisabled);
   }
-  scroll_->verticalScrollBar()->setValue(0);
+  area_->verticalScrollBar()->setValue(0);
   help_->Open();
 }
 

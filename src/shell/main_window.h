@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <map>
 #include <memory>
 
 #include "editor/editor.h"
@@ -9,11 +8,12 @@
 #include "shell/user.h"
 
 class QLabel;
-class QScrollArea;
 
 namespace morlek {
 
+class ContentArea;
 class HelpPane;
+class MenuBar;
 class RosterFrame;
 class StancePanel;
 class StatusLine;
@@ -38,7 +38,6 @@ class MainWindow : public QMainWindow, private EditorView {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void BuildMenus();
   void BuildContent();
 
   /// Adds the grid and the choosers. Their 500 controls take as long as the rest of the window,
@@ -76,8 +75,8 @@ class MainWindow : public QMainWindow, private EditorView {
   Editor& editor_;
   User& user_;
 
-  std::map<Command, QAction*> items_;  // all menu items
-  QScrollArea* scroll_ = nullptr;
+  MenuBar* menus_ = nullptr;
+  ContentArea* area_ = nullptr;
   QWidget* content_ = nullptr;
   TeamToolbar* toolbar_ = nullptr;
   // There from the answer to the first question on, which is asked over the painted window.

@@ -1,0 +1,54 @@
+#include "shell/content_area.h"
+
+#include <QScrollBar>
+
+#include "shell/twips.h"
+
+namespace morlek {
+namespace {
+
+// In logical pixels.
+constexpr int kHeight = 653;
+constexpr int kFootHeight = 20;
+
+}  // namespace
+
+ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent) {
+  setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setFocusPolicy(Qt::NoFocus);
+  setAccessibleName("scrolling area");
+  auto* content = new QWidget;
+  content->setAccessibleName("content");
+  setWidget(content);
+}
+
+void ContentArea::KeepInView(QWidget* foot) { feet_.push_back({foot, foot->y()}); }
+
+void ContentArea::SetContentWidth(int twips) { widget()->setFixedSize(FromTwips(twips), kHeight); }
+
+QSize ContentArea::FitInto(int room) {
+  const bool fits = kHeight <= room;
+  // Never as needed: rounding at a fractional scale factor can make the content a pixel too high.
+  setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
+  setViewportMargins(0, 0, 0, fits ? 0 : kFootHeight);
+  if (fits) {
+    MoveFeet(widget(), 0);
+    return widget()->size();
+  }
+  MoveFeet(this, room - kHeight);
+  return {widget()->width() + verticalScrollBar()->sizeHint().width(), room};
+}
+
+void ContentArea::MoveFeet(QWidget* parent, int down) {
+  for (const Foot& foot : feet_) {
+    if (foot.widget->parentWidget() != parent) {
+      const bool is_hidden = foot.widget->isHidden();
+      foot.widget->setParent(parent);
+      foot.widget->setHidden(is_hidden);
+    }
+    foot.widget->move(foot.widget->x(), foot.top + down);
+  }
+}
+
+}  // namespace morlek

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QMenuBar>
+#include <map>
+
+#include "shell/menu_table.h"
+
+namespace morlek {
+
+/// The menus as they stand in the table.
+class MenuBar : public QMenuBar {
+  Q_OBJECT
+
+ public:
+  explicit MenuBar(QWidget* parent);
+
+  /// Shows one of two items: the one that keeps the window on top, or the one that ends it.
+  void OfferOnTop(bool offered);
+
+ signals:
+  /// An item was chosen, or its key was pressed.
+  void Chosen(Command command);
+
+ private:
+  std::map<Command, QAction*> items_;
+};
+
+}  // namespace morlek
