@@ -14,7 +14,8 @@ constexpr std::size_t kShortDigits = 4;
 constexpr std::size_t kMostDigits = 8;
 
 bool IsHexDigit(char character) {
-  return kDigits.find(UpperCase(character)) != std::string_view::npos;
+  return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'F') ||
+         (character >= 'a' && character <= 'f');
 }
 
 }  // namespace

@@ -4,8 +4,10 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <locale>
 #include <sstream>
+#include <string>
 #include <system_error>
 
 #include "codecs/hex_text.h"
@@ -48,6 +50,11 @@ bool IsUnsignedDecimal(std::string_view text) {
 
 /// The value of text in that form; nothing when it is too large.
 std::optional<double> UnsignedDecimal(std::string_view text) {
+  // Nearly all are short and whole; every key has a whole team encoded.
+  std::uint32_t whole = 0;
+  const auto parsed = std::from_chars(text.data(), text.data() + text.size(), whole);
+  if (parsed.ec == std::errc() && parsed.ptr == text.data() + text.size()) return whole;
+
   double value = 0;
   if (std::from_chars(text.data(), text.data() + text.size(), value).ec == std::errc()) {
     return value;
@@ -83,7 +90,11 @@ std::optional<std::uint8_t> TextToByte(std::string_view text) {
 }
 
 std::string NumberToText(double number) {
+  constexpr double kShort = 1e9;
   constexpr int kSignificantDigits = 15;
+  const auto whole = std::abs(number) < kShort ? static_cast<std::int32_t>(number) : 0;
+  if (whole != 0 && number == whole) return std::to_string(whole);
+
   std::array<char, 32> buffer{};
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                  std::chars_format::general, kSignificantDigits);

@@ -21,6 +21,8 @@ struct CellMark {
   std::string after;
   std::string known;
 
+  [[nodiscard]] bool is_marked() const { return is_unsaved || is_unkept; }
+
   friend bool operator==(const CellMark&, const CellMark&) = default;
 };
 

@@ -66,8 +66,12 @@ void RosterFrame::BeginVisit() {
 }
 
 void RosterFrame::ShowMarks(const GridMarks& marks) {
-  marks_ = marks;
-  for (const Cell cell : kAllCells) BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
+  const GridMarks before = std::exchange(marks_, marks);
+  for (const Cell cell : kAllCells) {
+    // Most cells have no mark and had none; this comes with every key.
+    if (!marks.At(cell).is_marked() && !before.At(cell).is_marked()) continue;
+    BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
+  }
   save_->SetDotted(marks.unsaved_count() > 0);
   save_->setAccessibleDescription(SummaryOf(marks));
   undo_->setEnabled(document_.can_undo());
