@@ -13,19 +13,19 @@ bool PrintRow(const char* what, double value, double limit) {
   return within;
 }
 
-void MedianCollector::ReportRuns(const std::vector<Run>& runs) {
+void LeastCollector::ReportRuns(const std::vector<Run>& runs) {
   for (const Run& run : runs) {
-    if (run.aggregate_name == "median") {
-      medians_[run.run_name.function_name] = run.GetAdjustedRealTime();
+    if (run.aggregate_name == "least") {
+      least_[run.run_name.function_name] = run.GetAdjustedRealTime();
     }
   }
 }
 
-bool MedianCollector::PrintRows(std::span<const Ratio> ratios) const {
+bool LeastCollector::PrintRows(std::span<const Ratio> ratios) const {
   bool all_within = true;
   for (const Ratio& ratio : ratios) {
     all_within &=
-        PrintRow(ratio.what, medians_.at(ratio.measured) / medians_.at(ratio.base), ratio.limit);
+        PrintRow(ratio.what, least_.at(ratio.measured) / least_.at(ratio.base), ratio.limit);
   }
   return all_within;
 }

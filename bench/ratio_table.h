@@ -21,7 +21,7 @@ struct Ratio {
 };
 
 /// Collects the medians of a run, so that all ratios come from the same minutes of one machine.
-class MedianCollector : public benchmark::BenchmarkReporter {
+class LeastCollector : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context& /*context*/) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override;
@@ -30,7 +30,7 @@ class MedianCollector : public benchmark::BenchmarkReporter {
   [[nodiscard]] bool PrintRows(std::span<const Ratio> ratios) const;
 
  private:
-  std::map<std::string, double> medians_;
+  std::map<std::string, double> least_;
 };
 
 }  // namespace morlek::bench

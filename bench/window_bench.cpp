@@ -55,7 +55,7 @@ struct Step {
 };
 
 constexpr std::array<Step, 4> kSteps = {{
-    {"click on a team to painted grid / plain line edits", 2.0},
+    {"click on a team to painted grid / plain line edits", 1.3},
     {"click with 4 GiB / with 1.5 MiB", 1.1},
     {"a typed character to its painting / without marks", 1.3},
     {"import to painted grid / a click on a team", 1.3},
