@@ -6,6 +6,7 @@
 #include <functional>
 #include <utility>
 
+#include "shell/help_heads.h"
 #include "shell/help_text.h"
 #include "shell/menu_table.h"
 #include "shell/twips.h"
@@ -15,14 +16,19 @@ namespace {
 
 class HelpTextBox : public QPlainTextEdit {
  public:
-  HelpTextBox(QWidget* parent, std::function<void()> double_clicked)
-      : QPlainTextEdit(HelpText(), parent), double_clicked_(std::move(double_clicked)) {
+  HelpTextBox(QWidget* parent, std::function<void()> double_clicked,
+              std::function<void()> key_pressed)
+      : QPlainTextEdit(HelpText(), parent),
+        double_clicked_(std::move(double_clicked)),
+        key_pressed_(std::move(key_pressed)) {
     setObjectName("Text15");
     setAccessibleName("help");
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
     document()->setDocumentMargin(10);
+    document()->setUndoRedoEnabled(false);
+    ShowHeads(*document());
   }
 
  protected:
@@ -33,20 +39,41 @@ class HelpTextBox : public QPlainTextEdit {
   // The grid below is covered, so the tab key does not go there.
   bool focusNextPrevChild(bool /*next*/) override { return true; }
 
+  // It is read as a whole, so Home and End go to its ends and not to those of a line.
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool is_plain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
+    if (is_plain && event->key() == Qt::Key_Home) {
+      moveCursor(QTextCursor::Start);
+    } else if (is_plain && event->key() == Qt::Key_End) {
+      moveCursor(QTextCursor::End);
+    } else {
+      QPlainTextEdit::keyPressEvent(event);
+    }
+    key_pressed_();
+  }
+
   void mouseDoubleClickEvent(QMouseEvent* event) override {
     if (event->button() == Qt::LeftButton) double_clicked_();
   }
 
  private:
   std::function<void()> double_clicked_;
+  std::function<void()> key_pressed_;
 };
 
 }  // namespace
 
 HelpPane::HelpPane(QWidget* parent)
-    : QFrame(parent), text_(new HelpTextBox(this, [this] { Close(); })) {
+    : QFrame(parent),
+      text_(new HelpTextBox(
+          this, [this] { Close(); },
+          [this] {
+            const QPoint middle = text_->cursorRect().center();
+            emit LineReached(text_->viewport()->mapTo(this, middle).y());
+          })) {
   setObjectName("Frame5");
   setAccessibleName("help pane");
+  setToolTip("Double-click to close");
   setGeometry(RectFromTwips(0, 0, 6615, 9495));
   setAutoFillBackground(true);
   text_->setGeometry(RectFromTwips(60, 60, 6495, 9375));

@@ -24,6 +24,9 @@ class HelpPane : public QFrame {
   /// The pane now covers the grid and the toolbar, or does so no more.
   void Covered(bool covered);
 
+  /// A key moved the cursor to a line with its middle at this height of the pane.
+  void LineReached(int middle);
+
  private:
   void Close();
 

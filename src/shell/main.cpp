@@ -4,6 +4,7 @@
 #include "shell/look.h"
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
+#include "shell/window_place.h"
 
 int main(int argument_count, char** arguments) {
   const QApplication application(argument_count, arguments);
@@ -17,6 +18,7 @@ int main(int argument_count, char** arguments) {
   user.SetWindow(&window);
   morlek::SplashWindow splash;
   QObject::connect(&splash, &morlek::SplashWindow::Dismissed, &window, [&] {
+    morlek::PlaceOver(window, splash);
     window.show();
     splash.hide();
   });

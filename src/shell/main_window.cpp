@@ -15,6 +15,7 @@
 #include "shell/content_area.h"
 #include "shell/dropped_file.h"
 #include "shell/help_pane.h"
+#include "shell/hint_label.h"
 #include "shell/mark_text.h"
 #include "shell/menu_bar.h"
 #include "shell/roster_frame.h"
@@ -30,7 +31,8 @@ namespace {
 
 constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
-constexpr int kRowMargin = 24;  // what stays in view around a box, in logical pixels
+constexpr int kHintBottom = 560;  // above the middle, in logical pixels
+constexpr int kRowMargin = 24;    // what stays in view around a box, likewise
 
 constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
 
@@ -53,7 +55,6 @@ MainWindow::MainWindow(Editor& editor, User& user) : editor_(editor), user_(user
   setMenuBar(menus_);
   connect(menus_, &MenuBar::Chosen, this, &MainWindow::Run);
   BuildContent();
-  ShowHint();
   SetContentWidth(kNarrowWidth);
 }
 
@@ -75,14 +76,18 @@ void MainWindow::BuildContent() {
   content_ = area_->widget();
   content_->installEventFilter(this);
 
-  identity_ = AddLabel("Label3", {FromTwips(6060), 635, FromTwips(555), 16});
+  identity_ = new QLabel(content_);
+  identity_->setObjectName("Label3");
   identity_->setAccessibleName("identity byte");
   identity_->setToolTip("identity byte of the last file opened");
+  identity_->setGeometry(FromTwips(6060), 635, FromTwips(555), 16);
   identity_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  QPalette faint = palette();
+  faint.setColor(QPalette::WindowText, theme::kFaintText);
+  identity_->setPalette(faint);
 
-  hint_ = AddLabel("labelHint", {0, 240, FromTwips(kNarrowWidth), 80});
-  hint_->setAccessibleName("what to do next");
-  hint_->setAlignment(Qt::AlignCenter);
+  hint_ = new HintLabel({0, 0, FromTwips(kNarrowWidth), kHintBottom}, content_);
+  connect(hint_, &HintLabel::OpenRequested, this, [this] { Run(Command::kOpen); });
 
   status_ = new StatusLine(content_);
   area_->KeepInView(status_);
@@ -128,16 +133,6 @@ void MainWindow::AddRoster() {
   });
   subscription_ = editor_.document().Subscribe([this](const GridChange&) { RefreshMarks(); });
   setAcceptDrops(true);
-}
-
-QLabel* MainWindow::AddLabel(const char* name, const QRect& place) {
-  auto* label = new QLabel(content_);
-  label->setObjectName(name);
-  label->setGeometry(place);
-  QPalette faint = palette();
-  faint.setColor(QPalette::WindowText, theme::kFaintText);
-  label->setPalette(faint);
-  return label;
 }
 
 void MainWindow::SetContentWidth(int twips) {
@@ -221,6 +216,8 @@ void MainWindow::OpenHelp() {
     // What the pane covers is not reached by keys either.
     connect(help_, &HelpPane::Covered, toolbar_, &QWidget::setDisabled);
     connect(help_, &HelpPane::Covered, roster_, &QWidget::setDisabled);
+    connect(help_, &HelpPane::LineReached, this,
+            [this](int middle) { area_->ensureVisible(0, middle, 0, kRowMargin); });
   }
   area_->verticalScrollBar()->setValue(0);
   help_->Open();
@@ -280,14 +277,7 @@ void MainWindow::HideRoster() {
   if (focused != nullptr && roster_->isAncestorOf(focused)) focused->clearFocus();
   roster_->hide();
   toolbar_->ShowPicked(false);
-  ShowHint();
-}
-
-void MainWindow::ShowHint() {
-  hint_->show();
-  hint_->setText(toolbar_->isHidden() ? "Open a ROM with Ctrl+O"
-                                      : "Pick a team above, or press Ctrl+Page Down");
-  hint_->setAccessibleDescription(hint_->text());
+  hint_->AskForTeam();
 }
 
 void MainWindow::ShowIdentity(std::string_view byte_text) {
@@ -298,12 +288,15 @@ void MainWindow::ShowIdentity(std::string_view byte_text) {
 void MainWindow::ShowToolbar() {
   toolbar_->show();
   toolbar_->Restart();
-  ShowHint();
+  hint_->AskForTeam();
 }
 
 void MainWindow::ShowNarrow() { SetContentWidth(kNarrowWidth); }
 
-void MainWindow::ShowTeamName(std::string_view display_name) { roster_->SetTeamName(display_name); }
+void MainWindow::ShowTeamName(std::string_view display_name) {
+  roster_->SetTeamName(display_name);
+  stances_->ShowTeam(display_name);
+}
 
 void MainWindow::PrepareView() {
   toolbar_->show();

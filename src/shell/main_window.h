@@ -13,6 +13,7 @@ namespace morlek {
 
 class ContentArea;
 class HelpPane;
+class HintLabel;
 class MenuBar;
 class RosterFrame;
 class StancePanel;
@@ -44,8 +45,6 @@ class MainWindow : public QMainWindow, private EditorView {
   /// which need not wait for them.
   void AddRoster();
 
-  [[nodiscard]] QLabel* AddLabel(const char* name, const QRect& place);
-
   /// Sets the width of the content in twips; what stands further right is out of view.
   void SetContentWidth(int twips);
 
@@ -60,7 +59,6 @@ class MainWindow : public QMainWindow, private EditorView {
   void Quit();
   void ShowAbout();
   void LoadTeam(std::string_view toolbar_key);
-  void ShowHint();
 
   /// Shows afresh what is not saved and what SAVE will not keep.
   void RefreshMarks();
@@ -83,7 +81,7 @@ class MainWindow : public QMainWindow, private EditorView {
   RosterFrame* roster_ = nullptr;
   StancePanel* stances_ = nullptr;
   QLabel* identity_ = nullptr;
-  QLabel* hint_ = nullptr;
+  HintLabel* hint_ = nullptr;
   StatusLine* status_ = nullptr;
   RosterDocument::Subscription subscription_;
   // Made when they are first needed: the start does not wait for them.

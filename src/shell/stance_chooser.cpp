@@ -14,9 +14,18 @@ namespace {
 
 constexpr int kLeft = 8;  // the narrow layout ends 3 px inside the frame, where nothing may show
 constexpr int kTop = 26;
-constexpr int kColumnStep = 52;
-constexpr int kRowStep = 43;
-constexpr QSize kPictureSize(50, 41);
+constexpr int kGap = 2;
+
+/// The size of a chooser's tiles. The few legs have room for higher ones, with the code below.
+QSize TileSize(StancePiece piece) {
+  return piece == StancePiece::kLegs ? QSize(50, 68) : QSize(50, 41);
+}
+
+/// The part of a tile of this size that shows the picture: a square, as large as the tile allows.
+QRectF PictureArea(const QSize& tile) {
+  return tile.height() > tile.width() ? QRectF(1, 3, tile.width() - 2, tile.width() - 2)
+                                      : QRectF(2, 1, tile.height() - 2, tile.height() - 2);
+}
 
 }  // namespace
 
@@ -32,9 +41,10 @@ class StancePicture : public MarkedButton {
     setAccessibleName(QString("%1 %2").arg(QString(kind.title).toLower(), code_text_));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
-    setGeometry(QRect(QPoint(kLeft + kColumnStep * (index / kPictureRows),
-                             kTop + kRowStep * (index % kPictureRows)),
-                      kPictureSize));
+    const QSize size = TileSize(kind.piece);
+    setGeometry(QRect(QPoint(kLeft + (size.width() + kGap) * (index / kPictureRows),
+                             kTop + (size.height() + kGap) * (index % kPictureRows)),
+                      size));
   }
 
   [[nodiscard]] std::uint8_t code() const { return code_; }
@@ -43,7 +53,7 @@ class StancePicture : public MarkedButton {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     constexpr qreal kRadius = 4;
-    constexpr int kCodePixels = 9;
+    const int code_pixels = height() > width() ? 11 : 9;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled()) painter.setOpacity(0.5);
@@ -56,10 +66,10 @@ class StancePicture : public MarkedButton {
     const QRectF tile = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
     painter.drawRoundedRect(tile, kRadius, kRadius);
 
-    PaintPiece(painter, QRectF(2, 1, height() - 2, height() - 2), piece_, code_);
+    PaintPiece(painter, PictureArea(size()), piece_, code_);
 
     painter.setPen(marked ? theme::kAccent : theme::kHeaderText);
-    painter.setFont(theme::Font(kCodePixels, marked ? QFont::Bold : QFont::Normal));
+    painter.setFont(theme::Font(code_pixels, marked ? QFont::Bold : QFont::Normal));
     painter.drawText(QRectF(rect()).adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
                      code_text_);
   }

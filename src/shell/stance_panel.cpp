@@ -4,6 +4,8 @@
 #include <optional>
 
 #include "codecs/appearance_codec.h"
+#include "image/team_directory.h"
+#include "shell/club_looks.h"
 #include "shell/code_page_text.h"
 #include "shell/stance_chooser.h"
 #include "shell/stance_view.h"
@@ -15,6 +17,7 @@ namespace {
 constexpr int kWidth = 222;
 constexpr int kHeight = 653;
 constexpr QRect kViewArea(8, 546, 206, 103);
+constexpr QRect kViewAreaBelowLegs(8, 246, 206, 403);  // of which there are few
 
 constexpr std::array<Column, 3> kFeatures = {Column::kText12, Column::kText13, Column::kText14};
 
@@ -25,6 +28,11 @@ constexpr std::array<ChooserKind, 3> kKinds = {{
     {StancePiece::kBody, "Frame3", "Picture2", "Label2", "Body", ""},
     {StancePiece::kLegs, "Frame4", "Picture3", "Label5", "Legs", ""},
 }};
+
+/// Where the player is shown below a chooser.
+QRect ViewAreaBelow(StancePiece piece) {
+  return piece == StancePiece::kLegs ? kViewAreaBelowLegs : kViewArea;
+}
 
 }  // namespace
 
@@ -48,14 +56,25 @@ StancePanel::StancePanel(RosterDocument& document, QWidget* parent)
 void StancePanel::Choose(Cell cell) {
   stance_row_ = cell.row;
   for (std::size_t place = 0; place < choosers_.size(); ++place) {
-    choosers_.at(place)->setVisible(kFeatures.at(place) == cell.column);
+    const bool is_chosen = kFeatures.at(place) == cell.column;
+    choosers_.at(place)->setVisible(is_chosen);
+    if (is_chosen) view_->setGeometry(ViewAreaBelow(kKinds.at(place).piece));
   }
   ShowStanceRow();
 }
 
+void StancePanel::ShowTeam(std::string_view display_name) {
+  const auto team = std::ranges::find(kTeamDirectory, display_name, &Team::display_name);
+  std::optional<ClubColors> colors;
+  if (team != kTeamDirectory.end()) {
+    colors = kClubLooks.at(static_cast<std::size_t>(team - kTeamDirectory.begin())).colors;
+  }
+  view_->ShowClub(colors);
+}
+
 void StancePanel::AddChooser(std::size_t place) {
   auto* chooser = new StanceChooser(kKinds.at(place), this);
-  chooser->setGeometry(0, 0, kWidth, kViewArea.top());
+  chooser->setGeometry(0, 0, kWidth, ViewAreaBelow(kKinds.at(place).piece).top());
   chooser->hide();
   connect(chooser, &StanceChooser::CodePicked, this, [this, place](const QString& code_text) {
     document_.Put({kFeatures.at(place), stance_row_}, ToCodePage(code_text));
@@ -75,8 +94,14 @@ void StancePanel::ShowStanceRow() {
     if (document_.grid().Text({column, stance_row_}).empty()) return std::nullopt;
     return code_of(column).value_or(kUnknownCode);
   };
-  view_->ShowPlayer(FromCodePage(document_.grid().Text({Column::kText1, stance_row_})),
-                    {piece_of(kFeatures[0]), piece_of(kFeatures[1]), piece_of(kFeatures[2])});
+  const auto text_of = [this](Column column) {
+    return FromCodePage(document_.grid().Text({column, stance_row_}));
+  };
+  view_->ShowPlayer(
+      {.name = text_of(Column::kText1),
+       .number = text_of(Column::kText3),
+       .position = text_of(Column::kText2),
+       .codes = {piece_of(kFeatures[0]), piece_of(kFeatures[1]), piece_of(kFeatures[2])}});
 }
 
 }  // namespace morlek

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <array>
+#include <string_view>
 
 #include "team/roster_document.h"
 
@@ -23,6 +24,10 @@ class StancePanel : public QWidget {
   /// Shows the chooser of a features cell's column (for any other cell none), hides the other two,
   /// and makes the cell's row the stance row, into which all three choosers put their codes.
   void Choose(Cell cell);
+
+  /// Dresses the player in the colours of the club with this display name; of no club's if there is
+  /// none.
+  void ShowTeam(std::string_view display_name);
 
  signals:
   /// A picture was clicked; its code stands in this cell of the stance row now.

@@ -1,10 +1,84 @@
 #include "shell/stance_view.h"
 
 #include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
 
 #include "shell/theme.h"
 
 namespace morlek {
+namespace {
+
+/// Where the parts of a card stand: the plate at the end of its longer side, a stripe before it,
+/// and the figure in all that is left.
+struct CardParts {
+  QRectF figure;
+  QRectF stripe;
+  QRectF plate;
+};
+
+CardParts PartsOf(const QRectF& card) {
+  constexpr qreal kPlateHeight = 92;
+  constexpr qreal kPlateWidth = 122;
+  constexpr qreal kStripe = 4;
+  CardParts parts{card, card, card};
+  if (card.height() > card.width()) {
+    parts.plate.setTop(card.bottom() - kPlateHeight);
+    parts.stripe.setTop(parts.plate.top() - kStripe);
+    parts.figure.setBottom(parts.stripe.top());
+  } else {
+    parts.plate.setLeft(card.right() - kPlateWidth);
+    parts.stripe.setLeft(parts.plate.left() - kStripe);
+    parts.figure.setRight(parts.stripe.left());
+  }
+  return parts;
+}
+
+/// A line of the plate: its text is written in the largest size that fits, and cut where even the
+/// smallest does not.
+struct PlateLine {
+  int largest_pixels;
+  int smallest_pixels;
+  Qt::Alignment alignment;
+};
+
+void Write(QPainter& painter, const QRectF& room, const PlateLine& line, const QString& text) {
+  // Longer than any line, so that measuring takes no time whatever stands in a box.
+  const QString start = text.left(80).replace('\n', ' ');
+  QFont font = theme::Font(line.largest_pixels, QFont::Bold);
+  const qreal width = QFontMetricsF(font).horizontalAdvance(start);
+  if (width > room.width()) {
+    const int fitting = qFloor(line.largest_pixels * room.width() / width);
+    font.setPixelSize(std::max(fitting, line.smallest_pixels));
+  }
+  painter.setFont(font);
+  QTextOption option(line.alignment);
+  option.setWrapMode(QTextOption::NoWrap);
+  painter.drawText(room, QFontMetricsF(font).elidedText(start, Qt::ElideRight, room.width()),
+                   option);
+}
+
+/// The number and the position above the name.
+void PaintWords(QPainter& painter, const QRectF& plate, const ShownPlayer& player) {
+  constexpr qreal kNumberPart = 0.6;
+  const bool is_wide = plate.width() > plate.height() * 2;
+  QRectF number = plate.adjusted(10, 8, -10, -8);
+  QRectF position = number;
+  QRectF name = number;
+  name.setTop(number.top() + number.height() * kNumberPart);
+  number.setBottom(name.top());
+  position.setBottom(name.top());
+  number.setWidth(number.width() * kNumberPart);
+  position.setLeft(number.right());
+
+  const Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
+  Write(painter, number, {is_wide ? 44 : 40, 12, left}, player.number);
+  Write(painter, position, {is_wide ? 24 : 20, 11, Qt::AlignRight | Qt::AlignVCenter},
+        player.position);
+  Write(painter, name, {is_wide ? 24 : 18, 11, left}, player.name);
+}
+
+}  // namespace
 
 StanceView::StanceView(QWidget* parent) : QWidget(parent) {
   setObjectName("StanceView");
@@ -12,33 +86,40 @@ StanceView::StanceView(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::NoFocus);
 }
 
-void StanceView::ShowPlayer(const QString& name, const StanceCodes& codes) {
-  name_ = name;
-  codes_ = codes;
-  setAccessibleDescription(name);
+void StanceView::ShowPlayer(const ShownPlayer& player) {
+  player_ = player;
+  setAccessibleDescription(player.name);
+  update();
+}
+
+void StanceView::ShowClub(const std::optional<ClubColors>& club) {
+  club_ = club;
   update();
 }
 
 void StanceView::paintEvent(QPaintEvent* /*event*/) {
   constexpr qreal kRadius = 4;
-  constexpr int kNamePixels = 13;
-  constexpr qreal kFigureWidth = 96;
+  constexpr qreal kMargin = 2.5;
+  const CardParts parts = PartsOf(rect());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(theme::kLine);
   painter.setBrush(theme::kBase);
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  PaintStance(painter, parts.figure.adjusted(kMargin, kMargin, -kMargin, -kMargin), player_.codes,
+              club_);
 
-  QRectF figure = QRectF(rect()).adjusted(4, 3, 0, -3);
-  figure.setWidth(kFigureWidth);
-  PaintStance(painter, figure, codes_);
-
-  painter.setPen(theme::kText);
-  painter.setFont(theme::Font(kNamePixels, QFont::Bold));
-  QRectF text = QRectF(rect()).adjusted(0, 0, -8, 0);
-  text.setLeft(figure.right() + 4);
-  painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter,
-                   painter.fontMetrics().elidedText(name_, Qt::ElideRight, qFloor(text.width())));
+  QPainterPath card;
+  card.addRoundedRect(rect(), kRadius, kRadius);
+  const auto paint_part = [&](const QRectF& place, const QColor& color) {
+    QPainterPath part;
+    part.addRect(place);
+    painter.fillPath(card.intersected(part), color);
+  };
+  paint_part(parts.stripe, club_ ? club_->trim : theme::kHoverRing);
+  paint_part(parts.plate, club_ ? club_->main : theme::kAccent);
+  painter.setPen(Qt::white);
+  PaintWords(painter, parts.plate, player_);
 }
 
 }  // namespace morlek

@@ -1,27 +1,41 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 #include "art/stance_figure.h"
 
 namespace morlek {
 
-/// A picture of one player put together from his face, body and legs, with his name.
+/// What is shown of one player.
+struct ShownPlayer {
+  QString name;
+  QString number;
+  QString position;
+  StanceCodes codes;
+};
+
+/// A card with one player: his face, body and legs put together in his club's colours, and a plate
+/// with his number, position and name, which stands below the figure where the card is higher than
+/// wide, and beside it where not.
 class StanceView : public QWidget {
   Q_OBJECT
 
  public:
   explicit StanceView(QWidget* parent);
 
-  /// Shows a player; a code without a picture leaves its piece blank.
-  void ShowPlayer(const QString& name, const StanceCodes& codes);
+  /// Shows a player; a code without a picture becomes a question mark, an empty one is left blank.
+  void ShowPlayer(const ShownPlayer& player);
+
+  /// Dresses the player in these colours; without a club in the blue of the single pieces.
+  void ShowClub(const std::optional<ClubColors>& club);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QString name_;
-  StanceCodes codes_;
+  ShownPlayer player_;
+  std::optional<ClubColors> club_;
 };
 
 }  // namespace morlek

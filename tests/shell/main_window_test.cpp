@@ -1,9 +1,12 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QWindow>
 
+#include "shell/eye.h"
 #include "shell/window_fixture.h"
+#include "shell/window_place.h"
 
 namespace morlek {
 namespace {
@@ -171,7 +174,63 @@ TEST_F(MainWindowTest, TheGridScrollsWithTheFocusAndHelpBeginsWithItsFirstLine) 
   QTest::mouseClick(Area().widget(), Qt::LeftButton, Qt::NoModifier, QPoint(445, 340));
   EXPECT_TRUE(Box(1, 20).hasFocus());
   Choose("mnuMorlekHELP");
-  EXPECT_TRUE(Find<QPlainTextEdit>("Text15").viewport()->visibleRegion().contains({20, 15}));
+  const auto& help = Find<QPlainTextEdit>("Text15");
+  const auto is_seen = [&help](QPoint point) {
+    return help.viewport()->visibleRegion().contains(point);
+  };
+  EXPECT_TRUE(is_seen({20, 15}));
+  Press(Qt::Key_End);
+  EXPECT_TRUE(help.textCursor().atEnd());
+  EXPECT_TRUE(is_seen(help.cursorRect().center()));
+  EXPECT_FALSE(is_seen({20, 15}));
+  Press(Qt::Key_Home);
+  EXPECT_TRUE(is_seen({20, 15}));
+}
+
+TEST_F(MainWindowTest, HeadsOfTheHelpAreBoldAndTheirRulesAsWide) {
+  StartWithTeam();
+  Choose("mnuMorlekHELP");
+  const auto& help = Find<QPlainTextEdit>("Text15");
+  const QImage seen = Seen(*help.viewport());
+  int rules = 0;
+  int topics = 0;
+  for (QTextBlock line = help.document()->begin(); line.isValid(); line = line.next()) {
+    const auto width_of = [&](const QTextBlock& block) {
+      const QRect place = help.cursorRect(QTextCursor(block));
+      const QImage painted = seen.copy(15, place.top(), 300, place.height());
+      int width = painted.width();
+      while (width > 0 && ColorsOf(painted.copy(width - 1, 0, 1, painted.height())).size() == 1) {
+        --width;
+      }
+      return width;
+    };
+    const QTextBlock head = line.previous();
+    if (line.text().startsWith("---") || (line.text().startsWith(":::") && head.isValid())) {
+      EXPECT_NEAR(width_of(line), width_of(head), 2) << head.text().toStdString();
+      EXPECT_EQ(head.textFormats().first().format.fontWeight(), QFont::Bold);
+      ++rules;
+    }
+    topics += line.textFormats().size() == 2 ? 1 : 0;
+  }
+  EXPECT_EQ(rules, 4);
+  EXPECT_EQ(topics, 12) << "bold up to the hyphen";
+}
+
+TEST_F(MainWindowTest, OpensWhereTheSplashStoodButWithinTheScreen) {
+  MakeWindow();
+  QWidget splash;
+  splash.setFixedSize(480, 300);
+  splash.show();
+  splash.move(280, 210);
+  PlaceOver(*window, splash);
+  EXPECT_LE((window->frameGeometry().center() - splash.frameGeometry().center()).manhattanLength(),
+            2);
+  splash.move(-100, 600);
+  PlaceOver(*window, splash);
+  EXPECT_TRUE(splash.screen()->availableGeometry().contains(window->frameGeometry()));
+  splash.move(1400, 90);
+  PlaceOver(*window, splash);
+  EXPECT_EQ(window->y(), 0) << "on a screen lower than the window";
 }
 
 }  // namespace

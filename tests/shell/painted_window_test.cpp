@@ -12,6 +12,8 @@ namespace {
 constexpr double kReadable = 4.5;
 constexpr double kPlain = 3;  // for pictures, and strokes thinner than a pixel
 constexpr QColor kAccent(0x1f, 0x5f, 0xd0);
+constexpr QColor kBravesNavy(0x13, 0x27, 0x4f);
+constexpr QColor kOriolesOrange(0xd2, 0x42, 0x00);
 
 /// How much of a bat there is in a picture, of which only the wood in the light counts.
 int WoodIn(const QImage& picture) { return CountOf(picture, QColor(0xe0, 0xab, 0x66), 12); }
@@ -53,6 +55,9 @@ class PaintedWindowTest : public WindowTest {
     return tiles;
   }
 
+  /// The player put together, as he is seen below the faces and bodies.
+  [[nodiscard]] QImage Figure() const { return Seen(Find("StanceView")).copy(2, 3, 76, 97); }
+
   [[nodiscard]] double ContrastOf(const QString& name, int margin = 3) const {
     const QImage seen = Seen(Find(name));
     return ContrastIn(seen.copy(seen.rect().adjusted(margin, margin, -margin, -margin)));
@@ -61,7 +66,8 @@ class PaintedWindowTest : public WindowTest {
 
 TEST_F(PaintedWindowTest, TextStandsOutFromItsGround) {
   Start(std::nullopt);
-  EXPECT_GE(ContrastOf("labelHint"), kReadable);
+  const QImage hint = Seen(Find("labelHint"));
+  EXPECT_GE(ContrastIn(hint.copy(0, hint.height() - 24, hint.width(), 24)), kReadable);
   const QImage bar = Seen(*window->menuBar());
   EXPECT_GE(ContrastIn(bar.copy(0, 0, bar.width() / 4, bar.height())), kReadable);
   ChooseWith("mnuOpen", ImagePath());
@@ -137,7 +143,7 @@ TEST_F(PaintedWindowTest, TheStanceShowsEachPieceOfItsRowInItsPlace) {
   Box(12, 2).setFocus();
   const auto figure = [this](const QStringList& codes, int row = 2) {
     for (int column = 12; column <= 14; ++column) Box(column, row).setText(codes[column - 12]);
-    return Seen(Find("StanceView")).copy(4, 3, 96, 97);
+    return Figure();
   };
   const auto top_of = [](const QImage& picture) {
     int top = 0;
@@ -158,11 +164,52 @@ TEST_F(PaintedWindowTest, TheStanceShowsEachPieceOfItsRowInItsPlace) {
   EXPECT_LT(top_of(face), top_of(legs));
   EXPECT_EQ(figure({"3", "57", "14"}, 3), legs) << "another row";
 
-  const QImage before = Seen(Find("StanceView"));
-  Box(1, 3).setText("N.OTHER");
-  EXPECT_EQ(Seen(Find("StanceView")), before);
-  Box(1, 2).setText("N.NEW");
-  EXPECT_NE(Seen(Find("StanceView")), before);
+  for (const int column : {1, 2, 3}) {
+    const QImage before = Seen(Find("StanceView"));
+    Box(column, 3).setText("77");
+    EXPECT_EQ(Seen(Find("StanceView")), before);
+    Box(column, 2).setText("77");
+    EXPECT_NE(Seen(Find("StanceView")), before) << column;
+    Box(column, 2).clear();
+    EXPECT_EQ(Figure(), legs) << column;
+  }
+}
+
+TEST_F(PaintedWindowTest, ThePlayerWearsTheColorsOfTheTeamInTheTitle) {
+  StartWithTeam();
+  const auto expect_club = [this](const char* when, bool is_braves) {
+    for (int column = 12; column <= 14; ++column) Box(column, 0).setText("3");
+    Box(12, 0).clearFocus();
+    Box(12, 0).setFocus();
+    const QImage figure = Figure();
+    EXPECT_EQ(CountOf(figure, kBravesNavy) > 40, is_braves) << when;
+    EXPECT_EQ(CountOf(figure, kOriolesOrange) > 40, !is_braves) << when;
+  };
+  expect_club("at first", true);
+  Click("Orioles");
+  expect_club("another team", false);
+  ChooseWith("mnuImport", TeamFile("J.SMITH"));
+  expect_club("after an import", false);
+  std::filesystem::remove(ImageFile());
+  Click("Braves");
+  EXPECT_EQ(LabelText("Label4(0)"), "BALTIMORE ORIOLES");
+  PutFile(ImageFile(), Sample());
+  Click("Braves");
+  expect_club("after a failed load and a good one", true);
+}
+
+TEST_F(PaintedWindowTest, EveryTileAndThePlayerHaveRoomOfTheirOwn) {
+  StartWithTeam();
+  for (const Chooser& chooser : kChoosers) {
+    Box(chooser.column, 0).setFocus();
+    QRegion taken(Find("StanceView").geometry());
+    for (const Tile& tile : TilesOf(chooser)) {
+      EXPECT_EQ(tile.button->visibleRegion(), tile.button->rect()) << chooser.pictures;
+      EXPECT_FALSE(taken.intersects(tile.button->geometry())) << chooser.pictures;
+      taken += tile.button->geometry();
+    }
+    EXPECT_TRUE(Find("StancePanel").rect().adjusted(3, 0, 0, 0).contains(taken.boundingRect()));
+  }
 }
 
 TEST_F(PaintedWindowTest, APickGoesToTheStanceRowAndMovesNothing) {

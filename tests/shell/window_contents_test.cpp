@@ -117,6 +117,12 @@ TEST_F(WindowContentsTest, ColumnHeadsAndTheBoxesBelow) {
 TEST_F(WindowContentsTest, NamesHintsAndTips) {
   Start(std::nullopt);
   EXPECT_EQ(LabelText("labelHint"), "Open a ROM with Ctrl+O");
+  user.paths = {ImagePath()};
+  Click("labelHint");
+  EXPECT_TRUE(IsShown("Toolbar1"));
+  const std::size_t questions = user.open_questions.size();
+  Click("labelHint");
+  EXPECT_EQ(user.open_questions.size(), questions) << "only who asks for an image opens one";
   EXPECT_EQ(Find("Label1").toolTip(),
             "This will edit the skin color and facial features of a player but not hair color. "
             "Click to make selection.");

@@ -1,0 +1,60 @@
+#include "shell/hint_label.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "art/title_art.h"
+#include "shell/theme.h"
+
+namespace morlek {
+namespace {
+
+constexpr int kWordsPixels = 15;
+constexpr int kWordsHeight = 28;
+constexpr int kIconSide = 96;
+constexpr int kGap = 18;
+constexpr QSize kSize(320, kIconSide + kGap + kWordsHeight);
+
+}  // namespace
+
+HintLabel::HintLabel(const QRect& area, QWidget* parent) : QLabel(parent) {
+  setObjectName("labelHint");
+  setAccessibleName("what to do next");
+  QRect place(QPoint(0, 0), kSize);
+  place.moveCenter(area.center());
+  setGeometry(place);
+  setFont(theme::Font(kWordsPixels));
+  setAttribute(Qt::WA_Hover);
+  setCursor(Qt::PointingHandCursor);
+  Say("Open a ROM with Ctrl+O");
+}
+
+void HintLabel::AskForTeam() {
+  asks_for_image_ = false;
+  unsetCursor();
+  Say("Pick a team above, or press Ctrl+Page Down");
+  show();
+}
+
+void HintLabel::Say(const QString& words) {
+  setText(words);
+  setAccessibleDescription(words);
+}
+
+void HintLabel::mouseReleaseEvent(QMouseEvent* event) {
+  const bool is_click = event->button() == Qt::LeftButton && rect().contains(event->pos());
+  if (asks_for_image_ && is_click) emit OpenRequested();
+}
+
+void HintLabel::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  const QRectF icon((width() - kIconSide) / 2.0, 0, kIconSide, kIconSide);
+  PaintAppIcon(painter, icon);
+  QFont words = font();
+  words.setUnderline(asks_for_image_ && underMouse());
+  painter.setFont(words);
+  painter.setPen(asks_for_image_ ? theme::kAccent : theme::kHeaderText);
+  painter.drawText(rect().adjusted(0, kIconSide + kGap, 0, 0), Qt::AlignCenter, text());
+}
+
+}  // namespace morlek
