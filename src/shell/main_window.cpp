@@ -4,26 +4,25 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
-#include <QLabel>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
 
 #include "shell/cls_on_top.h"
-#include "shell/code_page_text.h"
 #include "shell/content_area.h"
 #include "shell/dropped_file.h"
 #include "shell/help_pane.h"
 #include "shell/hint_label.h"
+#include "shell/identity_label.h"
 #include "shell/mark_text.h"
 #include "shell/menu_bar.h"
 #include "shell/roster_frame.h"
 #include "shell/stance_panel.h"
 #include "shell/status_line.h"
 #include "shell/team_toolbar.h"
-#include "shell/theme.h"
 #include "shell/twips.h"
+#include "shell/window_ground.h"
 #include "version.h"
 
 namespace morlek {
@@ -76,15 +75,7 @@ void MainWindow::BuildContent() {
   content_ = area_->widget();
   content_->installEventFilter(this);
 
-  identity_ = new QLabel(content_);
-  identity_->setObjectName("Label3");
-  identity_->setAccessibleName("identity byte");
-  identity_->setToolTip("identity byte of the last file opened");
-  identity_->setGeometry(FromTwips(6060), 635, FromTwips(555), 16);
-  identity_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  QPalette faint = palette();
-  faint.setColor(QPalette::WindowText, theme::kFaintText);
-  identity_->setPalette(faint);
+  identity_ = new IdentityLabel(content_);
 
   hint_ = new HintLabel({0, 0, FromTwips(kNarrowWidth), kHintBottom}, content_);
   connect(hint_, &HintLabel::OpenRequested, this, [this] { Run(Command::kOpen); });
@@ -137,6 +128,9 @@ void MainWindow::AddRoster() {
 
 void MainWindow::SetContentWidth(int twips) {
   if (roster_ != nullptr && twips == kNarrowWidth) roster_->ShowStanceRow(std::nullopt);
+  if (const QWindow* window = windowHandle()) {
+    SetWindowGround(*window, palette().color(QPalette::Window));
+  }
   area_->SetContentWidth(twips);
   FitToScreen();
 }
@@ -280,10 +274,7 @@ void MainWindow::HideRoster() {
   hint_->AskForTeam();
 }
 
-void MainWindow::ShowIdentity(std::string_view byte_text) {
-  identity_->setText(FromCodePage(byte_text));
-  identity_->setAccessibleDescription(identity_->text());
-}
+void MainWindow::ShowIdentity(std::string_view byte_text) { identity_->ShowByte(byte_text); }
 
 void MainWindow::ShowToolbar() {
   toolbar_->show();

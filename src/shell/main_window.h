@@ -7,13 +7,12 @@
 #include "shell/menu_table.h"
 #include "shell/user.h"
 
-class QLabel;
-
 namespace morlek {
 
 class ContentArea;
 class HelpPane;
 class HintLabel;
+class IdentityLabel;
 class MenuBar;
 class RosterFrame;
 class StancePanel;
@@ -80,7 +79,7 @@ class MainWindow : public QMainWindow, private EditorView {
   // There from the answer to the first question on, which is asked over the painted window.
   RosterFrame* roster_ = nullptr;
   StancePanel* stances_ = nullptr;
-  QLabel* identity_ = nullptr;
+  IdentityLabel* identity_ = nullptr;
   HintLabel* hint_ = nullptr;
   StatusLine* status_ = nullptr;
   RosterDocument::Subscription subscription_;

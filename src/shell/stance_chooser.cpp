@@ -23,7 +23,7 @@ QSize TileSize(StancePiece piece) {
 
 /// The part of a tile of this size that shows the picture: a square, as large as the tile allows.
 QRectF PictureArea(const QSize& tile) {
-  return tile.height() > tile.width() ? QRectF(1, 3, tile.width() - 2, tile.width() - 2)
+  return tile.height() > tile.width() ? QRectF(2, 4, tile.width() - 4, tile.width() - 4)
                                       : QRectF(2, 1, tile.height() - 2, tile.height() - 2);
 }
 

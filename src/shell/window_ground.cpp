@@ -1,0 +1,38 @@
+#include "shell/window_ground.h"
+
+#include <QColor>
+#include <QGuiApplication>
+#include <QLibrary>
+#include <QWindow>
+#include <cstdint>
+
+namespace morlek {
+
+#if QT_CONFIG(xcb)
+
+void SetWindowGround(const QWindow& window, const QColor& color) {
+  const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (x11 == nullptr) return;
+  // The toolkit has loaded the library by now, so the program need not depend on it as well.
+  struct Cookie {
+    unsigned sequence;
+  };
+  using ChangeAttributes = Cookie(xcb_connection_t * connection, std::uint32_t window,
+                                  std::uint32_t which, const std::uint32_t* values);
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): nothing else names its type.
+  auto* const change_attributes = reinterpret_cast<ChangeAttributes*>(
+      QLibrary::resolve("xcb", 1, "xcb_change_window_attributes"));
+  if (change_attributes == nullptr) return;
+  constexpr std::uint32_t kBackPixel = 2;
+  const std::uint32_t pixel = color.rgb();
+  change_attributes(x11->connection(), static_cast<std::uint32_t>(window.winId()), kBackPixel,
+                    &pixel);
+}
+
+#else
+
+void SetWindowGround(const QWindow& /*window*/, const QColor& /*color*/) {}
+
+#endif
+
+}  // namespace morlek
