@@ -43,7 +43,7 @@ void SetFont(const QTextBlock& line, qsizetype length, const QFont& font) {
 }  // namespace
 
 void ShowHeads(QTextDocument& document) {
-  static const QRegularExpression kHead("^(?:[A-Z ]+$|[A-Za-z ]+- )");
+  static const QRegularExpression head_start("^(?:[A-Z ]+$|[A-Za-z ]+- )");
   QFont bold = document.defaultFont();
   bold.setBold(true);
   for (QTextBlock line = document.begin(); line.isValid(); line = line.next()) {
@@ -53,7 +53,7 @@ void ShowHeads(QTextDocument& document) {
       const QString head = above.isEmpty() ? line.next().text() : above;
       SetFont(line, text.size(), RuleFont(document.defaultFont(), text, head));
     } else {
-      SetFont(line, kHead.match(text).capturedLength(), bold);
+      SetFont(line, head_start.match(text).capturedLength(), bold);
     }
   }
 }

@@ -11,8 +11,9 @@ namespace morlek {
 #if QT_CONFIG(xcb)
 
 void SetWindowGround(const QWindow& window, const QColor& color) {
+  // A platform without a screen can offer this as well, but its windows are not the server's.
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) return;
+  if (x11 == nullptr || QGuiApplication::platformName() != "xcb") return;
   // The toolkit has loaded the library by now, so the program need not depend on it as well.
   struct Cookie {
     unsigned sequence;
