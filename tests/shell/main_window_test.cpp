@@ -227,9 +227,11 @@ TEST_F(MainWindowTest, OpensWhereTheSplashStoodButWithinTheScreen) {
   window->show();
   EXPECT_LE((window->frameGeometry().center() - splash.frameGeometry().center()).manhattanLength(),
             2);
-  splash.move(-100, 600);
-  PlaceOver(*window, splash);
-  EXPECT_TRUE(splash.screen()->availableGeometry().contains(window->frameGeometry()));
+  for (const int x : {-100, 700}) {
+    splash.move(x, 600);
+    PlaceOver(*window, splash);
+    EXPECT_TRUE(splash.screen()->availableGeometry().contains(window->frameGeometry())) << x;
+  }
   splash.move(1400, 90);
   PlaceOver(*window, splash);
   EXPECT_EQ(window->y(), 0) << "on a screen lower than the window";
