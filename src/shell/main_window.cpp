@@ -134,9 +134,7 @@ QLabel* MainWindow::AddLabel(const char* name, const QRect& place) {
   auto* label = new QLabel(content_);
   label->setObjectName(name);
   label->setGeometry(place);
-  QPalette faint = palette();
-  faint.setColor(QPalette::WindowText, theme::kFaintText);
-  label->setPalette(faint);
+  label->setForegroundRole(QPalette::PlaceholderText);
   return label;
 }
 

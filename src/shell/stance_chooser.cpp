@@ -44,6 +44,7 @@ class StancePicture : public MarkedButton {
   void paintEvent(QPaintEvent* /*event*/) override {
     constexpr qreal kRadius = 4;
     constexpr int kCodePixels = 9;
+    const theme::Shades& shades = theme::ShadesOf(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled()) painter.setOpacity(0.5);
@@ -51,14 +52,14 @@ class StancePicture : public MarkedButton {
     const bool marked = is_marked();
     const bool lit = marked || underMouse();
     const qreal line = marked ? 2 : 1;
-    painter.setPen(QPen(lit ? theme::kAccent : theme::kLine, line));
-    painter.setBrush(marked || isDown() ? theme::kHover : theme::kBase);
+    painter.setPen(QPen(lit ? shades.accent : shades.line, line));
+    painter.setBrush(marked || isDown() ? shades.marked_tile : shades.tile);
     const QRectF tile = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
     painter.drawRoundedRect(tile, kRadius, kRadius);
 
     PaintPiece(painter, QRectF(2, 1, height() - 2, height() - 2), piece_, code_);
 
-    painter.setPen(marked ? theme::kAccent : theme::kHeaderText);
+    painter.setPen(marked ? shades.marked_tile_text : shades.tile_faint_text);
     painter.setFont(theme::Font(kCodePixels, marked ? QFont::Bold : QFont::Normal));
     painter.drawText(QRectF(rect()).adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
                      code_text_);
