@@ -27,8 +27,9 @@ void EvenOut(QMessageBox& box) {
   if (layout == nullptr) return;
   if (box.icon() == QMessageBox::NoIcon) {
     QLayoutItem* indent = layout->itemAtPosition(0, 0);
-    if (indent != nullptr && indent->spacerItem() != nullptr)
+    if (indent != nullptr && indent->spacerItem() != nullptr) {
       indent->spacerItem()->changeSize(0, 0);
+    }
     layout->setHorizontalSpacing(0);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   }

@@ -153,7 +153,9 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     };
     PaintScrollBar(*painter, *bar, place_of(SC_ScrollBarSlider));
     const bool upright = bar->orientation == Qt::Vertical;
-    QStyleOption arrow = *option;
+    QStyleOption arrow;
+    arrow.palette = option->palette;
+    arrow.state = option->state;
     arrow.rect = place_of(SC_ScrollBarSubLine);
     drawPrimitive(upright ? PE_IndicatorArrowUp : PE_IndicatorArrowLeft, &arrow, painter, widget);
     arrow.rect = place_of(SC_ScrollBarAddLine);
@@ -175,7 +177,7 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
 QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option,
                           const QWidget* widget) const {
   const QPalette colors = widget == nullptr ? QGuiApplication::palette() : widget->palette();
-  const QIcon own = DialogIcon(icon, theme::ShadesOf(colors));
+  QIcon own = DialogIcon(icon, theme::ShadesOf(colors));
   if (!own.isNull()) return own;
   // Every menu bar asks for it, for the case that it is too narrow, which ours is not.
   if (icon == SP_ToolBarHorizontalExtensionButton) return {};
