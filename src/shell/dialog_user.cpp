@@ -28,12 +28,14 @@ void EvenOut(QMessageBox& box) {
   if (box.icon() == QMessageBox::NoIcon) {
     QLayoutItem* indent = layout->itemAtPosition(0, 0);
     if (indent != nullptr && indent->spacerItem() != nullptr) {
-      indent->spacerItem()->changeSize(0, 0);
+      indent->spacerItem()->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
     }
     layout->setHorizontalSpacing(0);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   }
-  layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), layout->columnCount() - 1);
+  const int text_column = layout->columnCount() - 1;
+  layout->setColumnStretch(text_column, 1);
+  layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), text_column);
 }
 
 /// The toolkit's own dialog, where the system has none, cuts sizes and dates although it has room.
