@@ -18,12 +18,24 @@ DialogUser::DialogUser() {
 
 namespace {
 
-/// A box is as wide as its text by itself, and a short one then cuts its title.
-void MakeRoomForTitle(QMessageBox& box) {
+/// A box without an icon keeps more room left of its text than right of it, and is as wide as its
+/// text, so that a short one cuts its title.
+void EvenOut(QMessageBox& box) {
   constexpr int kWidth = 260;
+  constexpr int kMargin = 18;
   auto* layout = qobject_cast<QGridLayout*>(box.layout());
   if (layout == nullptr) return;
-  layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), 0, 1, layout->columnCount());
+  if (box.icon() == QMessageBox::NoIcon) {
+    QLayoutItem* indent = layout->itemAtPosition(0, 0);
+    if (indent != nullptr && indent->spacerItem() != nullptr) {
+      indent->spacerItem()->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
+    layout->setHorizontalSpacing(0);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  }
+  const int text_column = layout->columnCount() - 1;
+  layout->setColumnStretch(text_column, 1);
+  layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), text_column);
 }
 
 /// The toolkit's own dialog, where the system has none, cuts sizes and dates although it has room.
@@ -51,6 +63,7 @@ std::optional<QString> DialogUser::AskSavePath(const FileQuestion& question) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setLabelText(QFileDialog::LookIn, "Save in:");
   return Ask(dialog, question);
 }
 
@@ -58,11 +71,13 @@ std::optional<QString> DialogUser::Ask(QFileDialog& dialog, const FileQuestion& 
   dialog.setObjectName("CommonDialog1");
   dialog.setWindowTitle(question.title);
   dialog.setNameFilter(question.filter.section('|', 0, 0));
-  dialog.setDirectory(folder_);
+  const auto folder = folders_.find(question.filter);
+  dialog.setDirectory(folder == folders_.end() ? last_folder_ : folder->second);
   FitColumns(dialog);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const QString path = dialog.selectedFiles().value(0);
-  folder_ = QFileInfo(path).absolutePath();
+  last_folder_ = QFileInfo(path).absolutePath();
+  folders_[question.filter] = last_folder_;
   return path;
 }
 
@@ -77,7 +92,7 @@ void DialogUser::ShowMessage(const QString& text, const QString& title, Message:
   const auto shown = icon == Message::Icon::kCritical ? QMessageBox::Critical : QMessageBox::NoIcon;
   QMessageBox box(shown, title, text, QMessageBox::Ok, window_);
   box.setTextFormat(Qt::PlainText);
-  MakeRoomForTitle(box);
+  EvenOut(box);
   box.exec();
 }
 

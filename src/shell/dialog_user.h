@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QPointer>
 #include <QWidget>
+#include <map>
 
 #include "shell/user.h"
 
@@ -10,8 +11,9 @@ class QFileDialog;
 
 namespace morlek {
 
-/// The real user, asked by the toolkit's dialogs, all modal. File dialogs open in the folder that
-/// was used last, the first one in the working directory; nothing of it is kept between runs.
+/// The real user, asked by the toolkit's dialogs, all modal. A file dialog opens in the folder
+/// that was used last for files of its kind, else for any, the first one in the working directory;
+/// nothing of it is kept between runs.
 class DialogUser : public User {
  public:
   DialogUser();
@@ -28,7 +30,8 @@ class DialogUser : public User {
   [[nodiscard]] std::optional<QString> Ask(QFileDialog& dialog, const FileQuestion& question);
 
   QPointer<QWidget> window_;
-  QString folder_ = QDir::currentPath();
+  QString last_folder_ = QDir::currentPath();
+  std::map<QString, QString> folders_;  // by the filter of the question
 };
 
 }  // namespace morlek

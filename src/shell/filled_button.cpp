@@ -1,22 +1,26 @@
 #include "shell/filled_button.h"
 
 #include <QPainter>
+#include <QStyleOption>
 
 #include "shell/theme.h"
 
 namespace morlek {
 
-FilledButton::FilledButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
-  QPalette colors = palette();
-  colors.setColor(QPalette::Button, theme::kAccent);
-  colors.setColor(QPalette::ButtonText, theme::kBase);
-  setPalette(colors);
-}
+FilledButton::FilledButton(const QString& caption, QWidget* parent)
+    : QPushButton(caption, parent) {}
 
 void FilledButton::SetDotted(bool dotted) {
   if (dotted == is_dotted_) return;
   is_dotted_ = dotted;
   update();
+}
+
+void FilledButton::initStyleOption(QStyleOptionButton* option) const {
+  QPushButton::initStyleOption(option);
+  const theme::Shades& shades = theme::ShadesOf(palette());
+  option->palette.setColor(QPalette::Button, shades.fill);
+  option->palette.setColor(QPalette::ButtonText, shades.on_fill);
 }
 
 void FilledButton::paintEvent(QPaintEvent* event) {
@@ -28,7 +32,7 @@ void FilledButton::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(theme::kBase);
+  painter.setBrush(theme::ShadesOf(palette()).on_fill);
   painter.drawEllipse(QPointF(caption_end + kGap, height() / 2.0), kRadius, kRadius);
 }
 

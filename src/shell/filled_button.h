@@ -15,6 +15,7 @@ class FilledButton : public QPushButton {
   void SetDotted(bool dotted);
 
  protected:
+  void initStyleOption(QStyleOptionButton* option) const override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -53,7 +53,8 @@ void HintLabel::paintEvent(QPaintEvent* /*event*/) {
   QFont words = font();
   words.setUnderline(asks_for_image_ && underMouse());
   painter.setFont(words);
-  painter.setPen(asks_for_image_ ? theme::kAccent : theme::kHeaderText);
+  const theme::Shades& shades = theme::ShadesOf(palette());
+  painter.setPen(asks_for_image_ ? shades.accent : shades.header_text);
   painter.drawText(rect().adjusted(0, kIconSide + kGap, 0, 0), Qt::AlignCenter, text());
 }
 

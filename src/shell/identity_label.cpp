@@ -1,7 +1,6 @@
 #include "shell/identity_label.h"
 
 #include "shell/code_page_text.h"
-#include "shell/theme.h"
 #include "shell/twips.h"
 
 namespace morlek {
@@ -12,9 +11,7 @@ IdentityLabel::IdentityLabel(QWidget* parent) : QLabel(parent) {
   setToolTip("identity byte of the last file opened");
   setGeometry(FromTwips(6060), 635, FromTwips(555), 16);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  QPalette faint = palette();
-  faint.setColor(QPalette::WindowText, theme::kFaintText);
-  setPalette(faint);
+  setForegroundRole(QPalette::PlaceholderText);
 }
 
 void IdentityLabel::ShowByte(std::string_view byte_text) {

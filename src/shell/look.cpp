@@ -21,11 +21,9 @@ QIcon AppIcon() {
 }  // namespace
 
 void ApplyLook() {
-  constexpr int kFontPixels = 12;
   QApplication::setStyle(new Style);
-  QApplication::setPalette(theme::Palette());
   theme::LoadFonts();
-  QApplication::setFont(theme::Font(kFontPixels));
+  QApplication::setFont(theme::Font(theme::kFontPixels));
   QApplication::setWindowIcon(AppIcon());
 }
 

@@ -46,11 +46,11 @@ std::optional<std::filesystem::path> ToPath(const std::optional<QString>& path) 
 
 }  // namespace
 
-MainWindow::MainWindow(Editor& editor, User& user) : editor_(editor), user_(user) {
+MainWindow::MainWindow(Editor& editor, User& user)
+    : editor_(editor), user_(user), menus_(new MenuBar(this)) {
   setObjectName("Form1");
   setWindowTitle(kProgramTitle);
   setAccessibleName(kProgramTitle);
-  menus_ = new MenuBar(this);
   setMenuBar(menus_);
   connect(menus_, &MenuBar::Chosen, this, &MainWindow::Run);
   BuildContent();

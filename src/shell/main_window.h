@@ -72,7 +72,7 @@ class MainWindow : public QMainWindow, private EditorView {
   Editor& editor_;
   User& user_;
 
-  MenuBar* menus_ = nullptr;
+  MenuBar* menus_;
   ContentArea* area_ = nullptr;
   QWidget* content_ = nullptr;
   TeamToolbar* toolbar_ = nullptr;

@@ -12,10 +12,11 @@ class PaintedIconEngine : public QIconEngine {
  public:
   explicit PaintedIconEngine(PicturePainter paint) : paint_(std::move(paint)) {}
 
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/,
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
              QIcon::State /*state*/) override {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
+    if (mode == QIcon::Disabled) painter->setOpacity(kDisabledOpacity);
     paint_(*painter, rect);
     painter->restore();
   }
@@ -31,6 +32,8 @@ class PaintedIconEngine : public QIconEngine {
   [[nodiscard]] QIconEngine* clone() const override { return new PaintedIconEngine(paint_); }
 
  private:
+  static constexpr qreal kDisabledOpacity = 0.4;
+
   PicturePainter paint_;
 };
 

@@ -41,11 +41,12 @@ RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
     : QLineEdit(parent), column_(column.column), row_(row) {
   setObjectName(ObjectNameOf(column.column, row));
   setAccessibleName(AccessibleNameOf(column, row));
-  // Three digits then fit into the narrow columns.
-  setTextMargins(-2, 0, -2, 0);
   if (column.column == Column::kText1) {
     setTextMargins(2, 0, -2, 0);
   } else {
+    // Three digits then fit into the narrow columns; and the line editor keeps room for the caret
+    // on the right, which put them out of the middle.
+    setTextMargins(-2, 0, -4, 0);
     setAlignment(Qt::AlignCenter);
   }
   connect(this, &QLineEdit::textChanged, this, &RosterBox::KeepToCodePage);
@@ -64,15 +65,18 @@ void RosterBox::BeginVisit() {
 
 void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
   if (mark == mark_ && tip == toolTip()) return;
-  if (mark.is_unsaved != mark_.is_unsaved) {
-    QPalette colors;
-    if (mark.is_unsaved) colors.setColor(QPalette::Text, theme::kUnsavedText);
-    setPalette(colors);
-  }
+  const bool recolored = mark.is_unsaved != mark_.is_unsaved;
   mark_ = mark;
+  if (recolored) ColorText();
   setToolTip(PlainTip(tip));
   setAccessibleDescription(tip);
   update();
+}
+
+void RosterBox::ColorText() {
+  QPalette colors;
+  if (mark_.is_unsaved) colors.setColor(QPalette::Text, theme::ShadesOf(palette()).accent);
+  setPalette(colors);
 }
 
 void RosterBox::SetTint(Tint tint) {
@@ -87,36 +91,40 @@ void RosterBox::SelectForTyping() {
 }
 
 void RosterBox::PaintPanel(QPainter& painter) const {
-  painter.fillRect(rect(), Ground());
+  const theme::Shades& shades = theme::ShadesOf(palette());
   if (hasFocus()) {
-    FrameSnapped(painter, rect(), 2, theme::kAccent);
+    FrameSnapped(painter, rect(), 2, shades.accent, Ground());
   } else {
-    FrameSnapped(painter, rect(), 1, theme::kLine);
+    FrameSnapped(painter, rect(), 1, shades.line, Ground());
   }
 }
 
 QColor RosterBox::Ground() const {
-  if (hasFocus()) return theme::kBase;
-  if (tint_ == Tint::kStanceRow) return theme::kStanceRow;
-  if (tint_ == Tint::kFocusRow) return theme::kFocusRow;
+  const theme::Shades& shades = theme::ShadesOf(palette());
+  // The line editor's own ground of a selection is as high as the font, and so not in the middle.
+  if (hasSelectedText() && selectionLength() == text().size()) return shades.fill;
+  if (hasFocus()) return shades.base;
+  if (tint_ == Tint::kStanceRow) return shades.stance_row;
+  if (tint_ == Tint::kFocusRow) return shades.focus_row;
   const bool is_odd = (IsPitcher(row_) ? row_ - kBatterCount : row_) % 2 != 0;
-  return is_odd ? theme::kOddRow : theme::kBase;
+  return is_odd ? shades.odd_row : shades.base;
 }
 
 void RosterBox::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   if (!mark_.is_unkept) return;
-  // Over text and selection alike, with a light edge that parts it from both.
+  // Over text and selection alike, with an edge that parts it from both.
   constexpr qreal kSize = 7;
+  const theme::Shades& shades = theme::ShadesOf(palette());
   const QPointF corner(width() - 1, 1);
   const QPointF left = corner - QPointF(kSize, 0);
   const QPointF below = corner + QPointF(0, kSize);
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(theme::kUnkeptMark);
+  painter.setBrush(shades.unkept_mark);
   painter.drawPolygon(QPolygonF({left, corner, below}));
-  painter.setPen(QPen(theme::kBase, 1));
+  painter.setPen(QPen(shades.base, 1));
   painter.drawLine(QLineF(left - QPointF(0.5, -0.5), below - QPointF(0.5, -0.5)));
 }
 
@@ -130,6 +138,12 @@ bool RosterBox::event(QEvent* event) {
     }
   }
   return !LeaveToMenu(*event) && QLineEdit::event(event);
+}
+
+void RosterBox::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  // The desktop went from light to dark, or back.
+  if (event->type() == QEvent::PaletteChange && mark_.is_unsaved) ColorText();
 }
 
 void RosterBox::dragEnterEvent(QDragEnterEvent* event) {

@@ -62,6 +62,7 @@ class RosterBox : public QLineEdit {
 
  protected:
   bool event(QEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -76,6 +77,7 @@ class RosterBox : public QLineEdit {
 
  private:
   void PasteFrom(QClipboard::Mode mode);
+  void ColorText();
   [[nodiscard]] QColor Ground() const;
   void KeepToCodePage();
   /// A line break, which a dropped text or an input method can bring, would break an exported line

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QShortcut>
 #include <QToolTip>
 #include <algorithm>
@@ -12,6 +13,7 @@
 #include "shell/filled_button.h"
 #include "shell/mark_text.h"
 #include "shell/roster_box.h"
+#include "shell/snapped_lines.h"
 #include "shell/theme.h"
 #include "shell/twips.h"
 #include "team/accepted_texts.h"
@@ -25,6 +27,9 @@ constexpr int kPitcherHeaderTop = 5400;
 constexpr int kPitcherTop = 5760;
 constexpr int kRowStep = 300;
 constexpr int kBoxHeight = 315;  // neighbours share their border line
+
+/// Logical pixels above the band of a block's headers that stay free, so that the blocks are apart.
+constexpr int kHeaderGap = 4;
 
 constexpr int kFirstBatterHeader = 1;  // 0 is the team name
 constexpr int kFirstPitcherHeader = kFirstBatterHeader + kColumnCount;
@@ -115,11 +120,22 @@ bool RosterFrame::event(QEvent* event) {
   return QFrame::event(event);
 }
 
+void RosterFrame::paintEvent(QPaintEvent* event) {
+  QFrame::paintEvent(event);
+  QPainter painter(this);
+  const QColor color = theme::ShadesOf(palette()).header_band;
+  for (const auto& [columns, top] : {std::pair(&kBatterColumns, kBatterHeaderTop),
+                                     std::pair(&kPitcherColumns, kPitcherHeaderTop)}) {
+    const int left = columns->front().left;
+    const int right = columns->back().left + columns->back().width;
+    const QRect band = RectFromTwips(left, top, right - left, kBatterTop - kBatterHeaderTop)
+                           .adjusted(0, kHeaderGap, 0, 0);
+    FrameSnapped(painter, band, 1, color, color);
+  }
+}
+
 void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int top) {
   constexpr int kPixels = 11;
-  QPalette colors = palette();
-  colors.setColor(QPalette::Window, theme::kHeaderBand);
-  colors.setColor(QPalette::WindowText, theme::kHeaderText);
   int index = first_index;
   for (const GridColumn& column : columns) {
     auto* label = new QLabel(FromCodePage(column.caption), this);
@@ -131,10 +147,10 @@ void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int t
     label->setGeometry(
         RectFromTwips(column.left, top, column.width, kBatterTop - kBatterHeaderTop));
     label->setFont(theme::Font(kPixels, QFont::DemiBold));
-    label->setAutoFillBackground(true);
-    label->setPalette(colors);
+    label->setContentsMargins(0, kHeaderGap, 0, 0);
+    label->setForegroundRole(QPalette::Shadow);
     if (column.column == Column::kText1) {
-      label->setIndent(4);
+      label->setIndent(5);
     } else {
       label->setAlignment(Qt::AlignCenter);
     }

@@ -57,6 +57,7 @@ class RosterFrame : public QFrame {
 
  protected:
   bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void AddHeaders(const BlockColumns& columns, int first_index, int top);

@@ -1,14 +1,16 @@
 #pragma once
 
-class QColor;
+#include <QColor>
+
 class QPainter;
 class QRect;
 
 namespace morlek {
 
-/// Frames a rectangle inside its edge with lines of `width` logical pixels. Lines lie on whole
-/// pixels of the device, so that they stay even at fractional scale factors, and two rectangles
-/// that overlap by a line paint it in the same place.
-void FrameSnapped(QPainter& painter, const QRect& rect, int width, const QColor& color);
+/// Frames a rectangle inside its edge with lines of `width` logical pixels, and fills it as far as
+/// they reach. Lines lie on whole pixels of the device, so that they stay even at fractional scale
+/// factors, and two rectangles that overlap by a line paint it in the same place.
+void FrameSnapped(QPainter& painter, const QRect& rect, int width, const QColor& color,
+                  const QColor& ground = Qt::transparent);
 
 }  // namespace morlek

@@ -54,6 +54,7 @@ class StancePicture : public MarkedButton {
   void paintEvent(QPaintEvent* /*event*/) override {
     constexpr qreal kRadius = 4;
     const int code_pixels = height() > width() ? 11 : 9;
+    const theme::Shades& shades = theme::ShadesOf(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled()) painter.setOpacity(0.5);
@@ -61,14 +62,14 @@ class StancePicture : public MarkedButton {
     const bool marked = is_marked();
     const bool lit = marked || underMouse();
     const qreal line = marked ? 2 : 1;
-    painter.setPen(QPen(lit ? theme::kAccent : theme::kLine, line));
-    painter.setBrush(marked || isDown() ? theme::kHover : theme::kBase);
+    painter.setPen(QPen(lit ? shades.accent : shades.line, line));
+    painter.setBrush(marked || isDown() ? shades.marked_tile : shades.tile);
     const QRectF tile = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
     painter.drawRoundedRect(tile, kRadius, kRadius);
 
     PaintPiece(painter, PictureArea(size()), piece_, code_);
 
-    painter.setPen(marked ? theme::kAccent : theme::kHeaderText);
+    painter.setPen(marked ? shades.marked_tile_text : shades.tile_faint_text);
     painter.setFont(theme::Font(code_pixels, marked ? QFont::Bold : QFont::Normal));
     painter.drawText(QRectF(rect()).adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
                      code_text_);

@@ -101,10 +101,11 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
   constexpr qreal kRadius = 4;
   constexpr qreal kMargin = 2.5;
   const CardParts parts = PartsOf(rect());
+  const theme::Shades& shades = theme::ShadesOf(palette());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(theme::kLine);
-  painter.setBrush(theme::kBase);
+  painter.setPen(shades.line);
+  painter.setBrush(shades.tile);
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
   PaintStance(painter, parts.figure.adjusted(kMargin, kMargin, -kMargin, -kMargin), player_.codes,
               club_);
@@ -116,8 +117,8 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
     part.addRect(place);
     painter.fillPath(card.intersected(part), color);
   };
-  paint_part(parts.stripe, club_ ? club_->trim : theme::kHoverRing);
-  paint_part(parts.plate, club_ ? club_->main : theme::kAccent);
+  paint_part(parts.stripe, club_ ? club_->trim : shades.hover_ring);
+  paint_part(parts.plate, club_ ? club_->main : shades.fill);
   painter.setPen(Qt::white);
   PaintWords(painter, parts.plate, player_);
 }

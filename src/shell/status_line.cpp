@@ -25,7 +25,7 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
 }
 
 void StatusLine::ShowImage(const QString& path, const QString& summary) {
-  const QString tail = summary.isEmpty() ? QString() : QString::fromUtf8("  \u00b7  ") + summary;
+  const QString tail = summary.isEmpty() ? QString() : QString::fromUtf8(" \u00b7 ") + summary;
   const QFontMetrics metrics(font());
   const int room = std::max(width() - metrics.horizontalAdvance(tail), kSmallestNameWidth);
   const QString name = QFileInfo(path).fileName();

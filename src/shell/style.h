@@ -1,20 +1,35 @@
 #pragma once
 
+#include <QPalette>
 #include <QProxyStyle>
 
 namespace morlek {
 
-/// Fusion with flat buttons, one sheet of grid boxes, and message box icons of our own.
+/// Fusion in the program's own shades, with flat buttons, one sheet of grid boxes, plain scroll
+/// bars and menu bar, and icons of one hand.
 class Style : public QProxyStyle {
  public:
   Style();
 
+  /// Puts our shades in the place of the desktop's, dark ones for dark ones. The toolkit asks again
+  /// when the desktop changes.
+  void polish(QPalette& palette) override;
+  void polish(QWidget* widget) override;
+  using QProxyStyle::polish;
+
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
   [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                               QStyleHintReturn* result) const override;
   [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                                    const QWidget* widget) const override;
+
+ private:
+  QPalette first_guess_;
 };
 
 }  // namespace morlek

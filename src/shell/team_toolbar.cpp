@@ -34,15 +34,21 @@ class TeamButton : public MarkedButton {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     constexpr int kGap = 3;
+    const theme::Shades& shades = theme::ShadesOf(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (is_marked() || underMouse() || isDown()) {
       const bool is_strong = is_marked() || isDown();
-      painter.setPen(QPen(is_strong ? theme::kAccent : theme::kHoverRing, is_strong ? 2 : 1.5));
-      painter.setBrush(theme::kHover);
+      painter.setPen(QPen(is_strong ? shades.accent : shades.hover_ring, is_strong ? 2 : 1.5));
+      painter.setBrush(shades.hover);
       painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
     }
-    icon().paint(&painter, rect().adjusted(kGap, kGap, -kGap, -kGap));
+    const QRect badge = rect().adjusted(kGap, kGap, -kGap, -kGap);
+    // Many clubs wear colours that a dark window would swallow.
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(shades.badge_rim);
+    painter.drawRoundedRect(badge.adjusted(-1, -1, 1, 1), 4, 4);
+    icon().paint(&painter, badge);
   }
 };
 

@@ -34,7 +34,7 @@ class DialogUserTest : public ::testing::Test {
   TempDir folder;
 };
 
-TEST_F(DialogUserTest, OpenDialogGivesThePathAndLaterOnesStartInItsFolder) {
+TEST_F(DialogUserTest, OpenDialogGivesThePathAndLaterOnesForItsKindStartInItsFolder) {
   PutFile(folder / "game.smc", std::string("x"));
   const QString path = PathText(folder / "game.smc");
   AnswerNext<QFileDialog>([&](QFileDialog& dialog) {
@@ -44,6 +44,14 @@ TEST_F(DialogUserTest, OpenDialogGivesThePathAndLaterOnesStartInItsFolder) {
     TypeNameAndAccept(dialog, path);
   });
   EXPECT_EQ(user.AskOpenPath({"Some title", "SNES File (*.smc)|*.smc"}), path);
+
+  std::filesystem::create_directory(folder / "teams");
+  const QString team = PathText(folder / "teams" / "team.txt");
+  AnswerNext<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory().absolutePath(), QFileInfo(path).absolutePath());
+    TypeNameAndAccept(dialog, team);
+  });
+  EXPECT_EQ(user.AskSavePath({"A team", "Morlek Team Data File (*.txt)|*.txt"}), team);
 
   AnswerNext<QFileDialog>([&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.directory().absolutePath(), QFileInfo(path).absolutePath());

@@ -54,7 +54,7 @@ TEST_F(HonestMarksTest, TellBeforeSaveWhatALoadWillShow) {
     EXPECT_GE(CountOf(Seen(Box(cell.column, 1)), kRed), 12);
   }
   EXPECT_TRUE(Tip(3, 1).endsWith("\nNot saved yet; the image holds 44")) << Tip(3, 1).toStdString();
-  EXPECT_EQ(Status(), QString::fromUtf8("game.smc  ·  7 changes not saved · "
+  EXPECT_EQ(Status(), QString::fromUtf8("game.smc · 7 changes not saved · "
                                         "SAVE will not keep 7 cells (F8)"));
   EXPECT_EQ(Find("labelStatus").accessibleDescription(), Status());
   EXPECT_TRUE(Find("labelStatus").toolTip().endsWith("game.smc"));

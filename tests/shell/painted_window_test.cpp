@@ -4,6 +4,8 @@
 
 #include "shell/eye.h"
 #include "shell/splash_window.h"
+#include "shell/style.h"
+#include "shell/theme.h"
 #include "shell/window_fixture.h"
 
 namespace morlek {
@@ -64,29 +66,89 @@ class PaintedWindowTest : public WindowTest {
   }
 };
 
-TEST_F(PaintedWindowTest, TextStandsOutFromItsGround) {
+/// What must be told apart from what it stands on.
+struct Legible {
+  const char* what;
+  QColor theme::Shades::*ink;
+  std::vector<QColor theme::Shades::*> grounds;
+  double least = kReadable;
+};
+
+TEST(ShadesTest, EveryTextCanBeReadAndEveryLineThatTellsSomethingBeSeen) {
+  using S = theme::Shades;
+  const std::vector<QColor S::*> boxes = {&S::base, &S::odd_row, &S::focus_row, &S::stance_row};
+  const std::vector<Legible> table = {
+      {"text", &S::text, boxes},
+      {"text of windows", &S::text, {&S::window, &S::hover}},
+      {"text not saved", &S::accent, boxes},
+      {"link", &S::accent, {&S::window, &S::base}},
+      {"head", &S::header_text, {&S::header_band, &S::window}},
+      {"faint text", &S::faint_text, {&S::window, &S::base}},
+      {"selection, SAVE", &S::on_fill, {&S::fill, &S::critical}},
+      {"tip", &S::tip_text, {&S::tip}},
+      {"name at a picture", &S::tile_text, {&S::tile}},
+      {"code of a picture", &S::tile_faint_text, {&S::tile}},
+      {"code of the marked picture", &S::marked_tile_text, {&S::marked_tile}},
+      {"ring of the focus", &S::accent, {&S::base, &S::focus_row, &S::stance_row}, kPlain},
+      {"ring of a picked team or picture", &S::accent, {&S::window, &S::hover}, kPlain},
+      {"ring under the pointer", &S::hover_ring, {&S::window, &S::hover}, kPlain},
+      {"red corner", &S::unkept_mark, boxes, kPlain},
+      {"handle of a scroll bar", &S::faint_text, {&S::header_band}, kPlain},
+      {"SAVE itself", &S::fill, {&S::window}, kPlain}};
+  for (const theme::Shades& shades : {theme::kLight, theme::kDark}) {
+    for (const Legible& row : table) {
+      for (const auto ground : row.grounds) {
+        EXPECT_GE(Contrast(shades.*row.ink, shades.*ground), row.least)
+            << row.what << ", " << (shades.*row.ink).name().toStdString() << " on "
+            << (shades.*ground).name().toStdString();
+      }
+    }
+  }
+}
+
+TEST_F(PaintedWindowTest, TextStandsOutFromItsGroundAlsoAfterTheDesktopHasTurnedDark) {
   Start(std::nullopt);
   const QImage hint = Seen(Find("labelHint"));
   EXPECT_GE(ContrastIn(hint.copy(0, hint.height() - 24, hint.width(), 24)), kReadable);
-  const QImage bar = Seen(*window->menuBar());
-  EXPECT_GE(ContrastIn(bar.copy(0, 0, bar.width() / 4, bar.height())), kReadable);
   ChooseWith("mnuOpen", ImagePath());
   Click("Braves");
-  for (const char* name : {"Label4(0)", "Label4(1)", "Label4(28)", "Command1", "Text1(0)",
-                           "Text1(1)", "Text3(14)", "Text14(24)"}) {
-    EXPECT_GE(ContrastOf(name), kReadable) << name;
+  TypeInto(3, 14, "77");
+  const auto expect_readable = [this](bool dark) {
+    const auto expect = [dark](const QImage& seen, const char* what) {
+      EXPECT_GE(ContrastIn(seen), kReadable) << what << dark;
+      EXPECT_EQ(GroundOf(seen).lightness() < 128, dark) << what;
+    };
+    const auto inside = [this](const char* name, int margin = 3) {
+      const QImage seen = Seen(Find(name));
+      return seen.copy(seen.rect().adjusted(margin, margin, -margin, -margin));
+    };
+    expect(Seen(*window->menuBar()).copy(0, 0, 112, 20), "menu bar");
+    Box(1, 0).setFocus();
+    for (const char* name : {"Label4(0)", "Label4(1)", "Label4(28)", "Text1(1)", "Text3(14)",
+                             "Text14(24)", "Label3", "labelStatus"}) {
+      expect(inside(name, name[0] == 'T' ? 3 : 0), name);
+    }
+    EXPECT_GE(ContrastOf("Command1"), kReadable);
+    EXPECT_GE(ContrastIn(Seen(Box(1, 0)).copy(6, 6, 30, 9)), kReadable) << "selected text";
+    Box(12, 0).setFocus();
+    expect(inside("Label1", 0), "title of the choosers");
+    EXPECT_GE(ContrastIn(Seen(Find("StanceView")).copy(104, 30, 90, 40)), kReadable);
+    EXPECT_GE(ContrastIn(Seen(Find("Picture1(47)")).copy(37, 29, 11, 10)), kPlain);
+    Choose("mnuMorlekHELP");
+    expect(inside("Text15"), "help");
+    CloseHelp();
+  };
+  expect_readable(false);
+  for (const bool dark : {true, false}) {
+    QApplication::setPalette(dark ? theme::PaletteOf(theme::kDark) : QPalette());
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return (GroundOf(Seen(*window->menuBar())).lightness() < 128) == dark; }));
+    expect_readable(dark);
   }
-  Box(1, 0).setFocus();
-  EXPECT_GE(ContrastIn(Seen(Box(1, 0)).copy(6, 6, 30, 9)), kReadable) << "selected text";
-  Box(12, 0).setFocus();
-  for (const char* name : {"Label1", "Label3"}) EXPECT_GE(ContrastOf(name, 0), kReadable) << name;
-  EXPECT_GE(ContrastIn(Seen(Find("StanceView")).copy(104, 30, 90, 40)), kReadable);
-  EXPECT_GE(ContrastIn(Seen(Find("Picture1(47)")).copy(37, 29, 11, 10)), kPlain);
-  Choose("mnuMorlekHELP");
-  EXPECT_GE(ContrastOf("Text15"), kReadable);
-  const QPalette palette = QApplication::palette();
-  EXPECT_GE(Contrast(palette.color(QPalette::ToolTipText), palette.color(QPalette::ToolTipBase)),
-            kReadable);
+
+  QPalette desktop(QColor(0x30, 0x30, 0x30));
+  Style().polish(desktop);
+  EXPECT_EQ(desktop, theme::PaletteOf(theme::kDark)) << "what a dark desktop hands out";
 }
 
 TEST(SplashTest, ReadsWellAndStaysUntilAKeyOrAClickOnThePicture) {
