@@ -1,7 +1,6 @@
 #include "shell/main_window.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -17,13 +16,13 @@
 #include "shell/identity_label.h"
 #include "shell/mark_text.h"
 #include "shell/menu_bar.h"
+#include "shell/questions.h"
 #include "shell/roster_frame.h"
 #include "shell/stance_panel.h"
 #include "shell/status_line.h"
 #include "shell/team_toolbar.h"
 #include "shell/twips.h"
 #include "shell/window_ground.h"
-#include "version.h"
 
 namespace morlek {
 namespace {
@@ -32,12 +31,6 @@ constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
 constexpr int kHintBottom = 560;  // above the middle, in logical pixels
 constexpr int kRowMargin = 24;    // what stays in view around a box, likewise
-
-constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
-
-FileQuestion RomQuestion() {
-  return {"Open Dale Harrow Jr. Baseball Rom", "SNES File (*.smc)|*.smc"};
-}
 
 std::optional<std::filesystem::path> ToPath(const std::optional<QString>& path) {
   if (!path) return std::nullopt;
@@ -146,18 +139,17 @@ void MainWindow::Run(Command command) {
   if (roster_ == nullptr) return;
   switch (command) {
     case Command::kOpen:
-      editor_.OpenAnotherImage(ToPath(user_.AskOpenPath(RomQuestion())), *this);
+      editor_.OpenAnotherImage(ToPath(AskForImage(user_)), *this);
       RefreshMarks();
       break;
     case Command::kQuit:
-      Quit();
+      if (AskToQuit(user_)) close();
       break;
     case Command::kAbout:
-      ShowAbout();
+      TellAboutProgram(user_);
       break;
     case Command::kImport:
-      editor_.ImportTeam(
-          ToPath(user_.AskOpenPath({"Open Dale Harrow Jr. Baseball Team Data", kTeamDataFilter})));
+      editor_.ImportTeam(ToPath(AskForTeamToImport(user_)));
       break;
     case Command::kExport:
       ExportTeam();
@@ -180,18 +172,15 @@ void MainWindow::Run(Command command) {
 void MainWindow::OpenFirstImage() {
   // Only now is it known how much the system's borders take.
   FitToScreen();
-  const std::optional<QString> path = user_.AskOpenPath(RomQuestion());
+  const std::optional<QString> path = AskForImage(user_);
   AddRoster();
   editor_.OpenFirstImage(ToPath(path), *this);
   RefreshMarks();
 }
 
 void MainWindow::ExportTeam() {
-  const std::optional<QString> path =
-      user_.AskSavePath({"Save Dale Harrow Jr. Baseball Team Data", kTeamDataFilter});
-  if (!editor_.ExportTeam(ToPath(path))) return;
-  user_.ShowMessage("Your team data has been saved to " + QDir::toNativeSeparators(*path),
-                    kProgramTitle, Message::Icon::kNone);
+  const std::optional<QString> path = AskWhereToExport(user_);
+  if (editor_.ExportTeam(ToPath(path))) TellOfExport(user_, *path);
 }
 
 void MainWindow::SetAlwaysOnTop(bool on_top) {
@@ -215,19 +204,6 @@ void MainWindow::OpenHelp() {
   }
   area_->verticalScrollBar()->setValue(0);
   help_->Open();
-}
-
-void MainWindow::Quit() {
-  const bool yes = user_.AskYesNo(
-      "Are you sure you want to quit MORLEK EDITOR?\n\nIf not then click NO.", kProgramTitle);
-  if (yes) close();
-}
-
-void MainWindow::ShowAbout() {
-  const QString text =
-      "MORLEK EDITOR for SNES Dale Harrow Baseball.\n"
-      "Version %1, free software under the MIT licence; uses Qt under the LGPL version 3.";
-  user_.ShowMessage(text.arg(kVersion), kProgramTitle, Message::Icon::kNone);
 }
 
 void MainWindow::LoadTeam(std::string_view toolbar_key) {

@@ -55,8 +55,6 @@ class MainWindow : public QMainWindow, private EditorView {
   void ExportTeam();
   void SetAlwaysOnTop(bool on_top);
   void OpenHelp();
-  void Quit();
-  void ShowAbout();
   void LoadTeam(std::string_view toolbar_key);
 
   /// Shows afresh what is not saved and what SAVE will not keep.
