@@ -17,10 +17,10 @@ namespace {
 class HelpTextBox : public QPlainTextEdit {
  public:
   HelpTextBox(QWidget* parent, std::function<void()> double_clicked,
-              std::function<void()> key_pressed)
+              std::function<void()> cursor_moved)
       : QPlainTextEdit(HelpText(), parent),
         double_clicked_(std::move(double_clicked)),
-        key_pressed_(std::move(key_pressed)) {
+        cursor_moved_(std::move(cursor_moved)) {
     setObjectName("Text15");
     setAccessibleName("help");
     setReadOnly(true);
@@ -41,15 +41,17 @@ class HelpTextBox : public QPlainTextEdit {
 
   // It is read as a whole, so Home and End go to its ends and not to those of a line.
   void keyPressEvent(QKeyEvent* event) override {
+    const int before = textCursor().position();
     const bool is_plain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
-    if (is_plain && event->key() == Qt::Key_Home) {
-      moveCursor(QTextCursor::Start);
-    } else if (is_plain && event->key() == Qt::Key_End) {
-      moveCursor(QTextCursor::End);
+    const bool goes_to_end = is_plain && event->key() == Qt::Key_End;
+    const bool goes_to_start = is_plain && event->key() == Qt::Key_Home;
+    if (goes_to_start || goes_to_end) {
+      moveCursor(goes_to_end ? QTextCursor::End : QTextCursor::Start);
     } else {
       QPlainTextEdit::keyPressEvent(event);
     }
-    key_pressed_();
+    // Another key is not to take away what has been scrolled to by the wheel.
+    if (goes_to_start || goes_to_end || textCursor().position() != before) cursor_moved_();
   }
 
   void mouseDoubleClickEvent(QMouseEvent* event) override {
@@ -58,7 +60,7 @@ class HelpTextBox : public QPlainTextEdit {
 
  private:
   std::function<void()> double_clicked_;
-  std::function<void()> key_pressed_;
+  std::function<void()> cursor_moved_;
 };
 
 }  // namespace

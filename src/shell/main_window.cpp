@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
+#include <algorithm>
 
 #include "shell/cls_on_top.h"
 #include "shell/content_area.h"
@@ -133,6 +134,11 @@ void MainWindow::FitToScreen() {
   const int borders = frameGeometry().height() - height();
   const int room = screen()->availableGeometry().height() - borders - menu_height;
   setFixedSize(area_->FitInto(room) + QSize(0, menu_height));
+  if (!isVisible()) return;
+  // What the window has grown by is not to stand beyond the desktop.
+  const QRect desktop = screen()->availableVirtualGeometry();
+  const int beyond = frameGeometry().right() - desktop.right();
+  if (beyond > 0) move(std::max(x() - beyond, desktop.left()), y());
 }
 
 void MainWindow::Run(Command command) {

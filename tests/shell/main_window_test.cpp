@@ -112,6 +112,11 @@ TEST_F(MainWindowTest, TheWindowStaysWithinTheScreenAndItsContentKeepsItsWidth) 
         EXPECT_EQ(Find(foot).mapTo(window.get(), QPoint()).y(), window->height() - 18) << foot;
       }
     }
+    Choose("mnuMini");
+    const int desktop = screen->availableVirtualGeometry().right();
+    window->move(desktop - kNarrow, 0);
+    Box(12, 0).setFocus();
+    EXPECT_EQ(window->frameGeometry().right(), desktop) << "what it grew by is on the desktop";
   }
 }
 
@@ -185,6 +190,10 @@ TEST_F(MainWindowTest, TheGridScrollsWithTheFocusAndHelpBeginsWithItsFirstLine) 
   EXPECT_FALSE(is_seen({20, 15}));
   Press(Qt::Key_Home);
   EXPECT_TRUE(is_seen({20, 15}));
+  QScrollBar& bar = *Area().verticalScrollBar();
+  bar.setValue(bar.maximum());
+  Press(Qt::Key_Shift);
+  EXPECT_EQ(bar.value(), bar.maximum()) << "what is being read stays";
 }
 
 TEST_F(MainWindowTest, HeadsOfTheHelpAreBoldAndTheirRulesAsWide) {
