@@ -20,7 +20,8 @@ struct Ratio {
   double limit;
 };
 
-/// Collects the medians of a run, so that all ratios come from the same minutes of one machine.
+/// Collects the least times of a run, whose benchmarks run by turns: other work on the machine only
+/// ever adds.
 class LeastCollector : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context& /*context*/) override { return true; }

@@ -9,7 +9,7 @@
 namespace morlek::art {
 
 void PaintUnknown(QPainter& painter, const QRectF& room) {
-  constexpr QColor kGrey{0x7c, 0x87, 0x98};
+  constexpr QColor kGrey{0x5f, 0x6b, 0x7d};
   constexpr qreal kLineWidth = 2.4;
   constexpr qreal kCornerShare = 0.42;
   const qreal corner = std::min(room.width(), room.height()) * kCornerShare;

@@ -56,6 +56,7 @@ RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
 void RosterBox::ShowText(const QString& text) {
   setText(text);
   SelectForTyping();
+  if (!hasFocus()) home(false);
 }
 
 void RosterBox::BeginVisit() {
@@ -90,12 +91,14 @@ void RosterBox::SelectForTyping() {
   if (hasFocus()) selectAll();
 }
 
-void RosterBox::PaintPanel(QPainter& painter) const {
+void RosterBox::PaintPanel(QPainter& painter) const { PaintFrame(painter, Ground()); }
+
+void RosterBox::PaintFrame(QPainter& painter, const QColor& ground) const {
   const theme::Shades& shades = theme::ShadesOf(palette());
   if (hasFocus()) {
-    FrameSnapped(painter, rect(), 2, shades.accent, Ground());
+    FrameSnapped(painter, rect(), 2, shades.accent, ground);
   } else {
-    FrameSnapped(painter, rect(), 1, shades.line, Ground());
+    FrameSnapped(painter, rect(), 1, shades.line, ground);
   }
 }
 
@@ -112,6 +115,11 @@ QColor RosterBox::Ground() const {
 
 void RosterBox::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
+  // The margins let a text that is too long get over the lines.
+  if (fontMetrics().horizontalAdvance(text()) > width() - 2) {
+    QPainter painter(this);
+    PaintFrame(painter, Qt::transparent);
+  }
   if (!mark_.is_unkept) return;
   // Over text and selection alike, with an edge that parts it from both.
   constexpr qreal kSize = 7;
@@ -209,7 +217,10 @@ void RosterBox::focusOutEvent(QFocusEvent* event) {
   const bool is_short = IsShortAbsence(event->reason());
   if (is_short) left_selection_ = {selectionStart(), selectionLength()};
   QLineEdit::focusOutEvent(event);
-  if (!is_short) emit Left();
+  if (is_short) return;
+  // A text longer than the box shows how it begins.
+  home(false);
+  emit Left();
 }
 
 void RosterBox::hideEvent(QHideEvent* event) {

@@ -79,6 +79,7 @@ class RosterBox : public QLineEdit {
   void PasteFrom(QClipboard::Mode mode);
   void ColorText();
   [[nodiscard]] QColor Ground() const;
+  void PaintFrame(QPainter& painter, const QColor& ground) const;
   void KeepToCodePage();
   /// A line break, which a dropped text or an input method can bring, would break an exported line
   /// in two.

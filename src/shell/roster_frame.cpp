@@ -129,7 +129,7 @@ void RosterFrame::paintEvent(QPaintEvent* event) {
     const int left = columns->front().left;
     const int right = columns->back().left + columns->back().width;
     const QRect band = RectFromTwips(left, top, right - left, kBatterTop - kBatterHeaderTop)
-                           .adjusted(0, kHeaderGap, 0, 0);
+                           .adjusted(0, kHeaderGap, 0, 1);  // to the first row's line
     FrameSnapped(painter, band, 1, color, color);
   }
 }

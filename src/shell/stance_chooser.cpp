@@ -57,7 +57,6 @@ class StancePicture : public MarkedButton {
     const theme::Shades& shades = theme::ShadesOf(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled()) painter.setOpacity(0.5);
 
     const bool marked = is_marked();
     const bool lit = marked || underMouse();
@@ -73,6 +72,7 @@ class StancePicture : public MarkedButton {
     painter.setFont(theme::Font(code_pixels, marked ? QFont::Bold : QFont::Normal));
     painter.drawText(QRectF(rect()).adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
                      code_text_);
+    if (!isEnabled()) painter.fillRect(rect(), theme::VeilOf(palette()));
   }
 
  private:

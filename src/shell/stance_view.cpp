@@ -25,10 +25,12 @@ CardParts PartsOf(const QRectF& card) {
   if (card.height() > card.width()) {
     parts.plate.setTop(card.bottom() - kPlateHeight);
     parts.stripe.setTop(parts.plate.top() - kStripe);
+    parts.stripe.setBottom(parts.plate.top());
     parts.figure.setBottom(parts.stripe.top());
   } else {
     parts.plate.setLeft(card.right() - kPlateWidth);
     parts.stripe.setLeft(parts.plate.left() - kStripe);
+    parts.stripe.setRight(parts.plate.left());
     parts.figure.setRight(parts.stripe.left());
   }
   return parts;
@@ -121,6 +123,7 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
   paint_part(parts.plate, club_ ? club_->main : shades.fill);
   painter.setPen(Qt::white);
   PaintWords(painter, parts.plate, player_);
+  if (!isEnabled()) painter.fillRect(rect(), theme::VeilOf(palette()));
 }
 
 }  // namespace morlek

@@ -42,6 +42,12 @@ QPalette PaletteOf(const Shades& shades) {
   return palette;
 }
 
+QColor VeilOf(const QPalette& palette) {
+  QColor veil = ShadesOf(palette).window;
+  veil.setAlpha(0x88);
+  return veil;
+}
+
 void LoadFonts() {
   QFontDatabase::addApplicationFont(":/fonts/Roboto-Regular.ttf");
   QFontDatabase::addApplicationFont(":/fonts/Roboto-Bold.ttf");

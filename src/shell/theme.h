@@ -100,6 +100,9 @@ inline constexpr Shades kDark{
 /// The shades as the colours of every part of every window, dialogs and menus included.
 [[nodiscard]] QPalette PaletteOf(const Shades& shades);
 
+/// What is laid over a picture that cannot be reached.
+[[nodiscard]] QColor VeilOf(const QPalette& palette);
+
 /// Makes the embedded font known to the program; call once, before Font. Should that fail, texts
 /// stand in a font of the system.
 void LoadFonts();

@@ -128,7 +128,11 @@ TEST_F(PaintedWindowTest, TextStandsOutFromItsGroundAlsoAfterTheDesktopHasTurned
                              "Text14(24)", "Label3", "labelStatus"}) {
       expect(inside(name, name[0] == 'T' ? 3 : 0), name);
     }
-    EXPECT_GE(ContrastOf("Command1"), kReadable);
+    // Without the dot, which can be seen whatever the word looks like.
+    EXPECT_GE(ContrastIn(Seen(Find("Command1")).copy(59, 5, 18, 15)), kReadable);
+    const QPalette colors = QApplication::palette();
+    EXPECT_GE(Contrast(colors.color(QPalette::ToolTipText), colors.color(QPalette::ToolTipBase)),
+              kReadable);
     EXPECT_GE(ContrastIn(Seen(Box(1, 0)).copy(6, 6, 30, 9)), kReadable) << "selected text";
     Box(12, 0).setFocus();
     expect(inside("Label1", 0), "title of the choosers");
@@ -198,6 +202,20 @@ TEST_F(PaintedWindowTest, NoTwoPicturesAreAlikeAndAPickPutsItsCodeAndMarksItsTil
     different.insert(QByteArrayView(picture.constBits(), picture.sizeInBytes()).toByteArray());
   }
   EXPECT_EQ(different.size(), 28U + 48U + 48U + 10U);
+}
+
+TEST_F(PaintedWindowTest, ATextTooLongForItsBoxShowsHowItBeginsAndStaysWithinItsLines) {
+  StartWithTeam();
+  Box(10, 6).setFocus();
+  const auto far_line = [this] {
+    const QImage seen = Seen(Box(10, 3));
+    return seen.copy(seen.width() - 1, 0, 1, seen.height());
+  };
+  const QImage before = far_line();
+  TypeInto(10, 3, "88888888");
+  Box(10, 6).setFocus();
+  EXPECT_EQ(far_line(), before);
+  EXPECT_EQ(Box(10, 3).cursorPosition(), 0);
 }
 
 TEST_F(PaintedWindowTest, TheStanceShowsEachPieceOfItsRowInItsPlace) {
