@@ -103,7 +103,6 @@ void MainWindow::AddRoster() {
 
   stances_ = new StancePanel(editor_.document(), content_);
   // Who cannot reach the grid cannot pick into it either.
-  stances_->setEnabled(false);
   connect(roster_, &RosterFrame::ReachChanged, stances_, &QWidget::setEnabled);
   connect(stances_, &StancePanel::Picked, roster_, &RosterFrame::SelectForTyping);
   stances_->stackUnder(identity_);
@@ -215,7 +214,7 @@ void MainWindow::OpenHelp() {
 void MainWindow::LoadTeam(std::string_view toolbar_key) {
   editor_.LoadTeam(toolbar_key, *this);
   // New texts have no selection; typing is to replace the value, as after a visit.
-  if (roster_->isVisible()) roster_->BeginVisit();
+  roster_->BeginVisit();
   toolbar_->ShowPicked(roster_->isVisible());
   RefreshMarks();
 }

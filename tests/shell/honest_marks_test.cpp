@@ -2,6 +2,7 @@
 #include <QAccessibleActionInterface>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QToolTip>
 
 #include "shell/eye.h"
 #include "shell/window_fixture.h"
@@ -106,6 +107,7 @@ TEST_F(HonestMarksTest, F8GoesRoundTheCellsThatSaveWillNotKeep) {
   for (const char* next : {"Text2(0)", "Text2(4)", "Text2(17)", "Text2(0)"}) {
     Press(Qt::Key_F8);
     EXPECT_EQ(Focused(), next);
+    EXPECT_EQ(QToolTip::text(), Find(next).toolTip()) << "who comes by keys has no pointer";
   }
   Press(Qt::Key_F8, Qt::ShiftModifier);
   EXPECT_EQ(Focused(), "Text2(17)");
@@ -147,13 +149,18 @@ TEST_F(HonestMarksTest, TheWindowTellsWhereOneIs) {
   const QImage ringed = Seen(Find("Cubs"));
 
   Box(12, 3).setFocus();
+  const QString body = Box(13, 3).text();
   EXPECT_EQ(GroundOf(Seen(Box(1, 3))), QColor(0xff, 0xf5, 0xdb));
+  press("Picture2(5)");
+  EXPECT_EQ(Box(13, 3).text(), body) << "out of view";
   press("Picture1(5)");
   EXPECT_EQ(Box(12, 3).text(), "24");
   EXPECT_TRUE(is_checked("Picture1(5)") && !is_checked("Picture1(6)"));
   Box(2, 8).setFocus();
   EXPECT_EQ(GroundOf(Seen(Box(1, 8))), QColor(0xee, 0xf4, 0xff));
   Choose("mnuMini");
+  press("Picture1(6)");
+  EXPECT_EQ(Box(12, 3).text(), "24") << "right of the narrow window";
   EXPECT_EQ(GroundOf(Seen(Box(1, 3))), QColor(0xf7, 0xf9, 0xfc));
   Find("Command1").setFocus();
   EXPECT_EQ(GroundOf(Seen(Box(1, 8))), QColor(0xff, 0xff, 0xff));
