@@ -9,6 +9,7 @@
 #include "shell/look.h"
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
+#include "shell/theme.h"
 #include "silent_user.h"
 
 namespace {
@@ -44,6 +45,7 @@ int Run(morlek::User& user, bool with_team) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
+  const std::jthread fonts = morlek::theme::ReadSystemFonts();
   const QApplication application(argument_count, arguments);
   morlek::ApplyLook();
   if (argument_count > 1) {

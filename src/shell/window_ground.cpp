@@ -2,9 +2,10 @@
 
 #include <QColor>
 #include <QGuiApplication>
-#include <QLibrary>
 #include <QWindow>
 #include <cstdint>
+
+#include "shell/system_function.h"
 
 namespace morlek {
 
@@ -14,15 +15,13 @@ void SetWindowGround(const QWindow& window, const QColor& color) {
   // A platform without a screen can offer this as well, but its windows are not the server's.
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   if (x11 == nullptr || QGuiApplication::platformName() != "xcb") return;
-  // The toolkit has loaded the library by now, so the program need not depend on it as well.
   struct Cookie {
     unsigned sequence;
   };
   using ChangeAttributes = Cookie(xcb_connection_t * connection, std::uint32_t window,
                                   std::uint32_t which, const std::uint32_t* values);
-  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): nothing else names its type.
-  auto* const change_attributes = reinterpret_cast<ChangeAttributes*>(
-      QLibrary::resolve("xcb", 1, "xcb_change_window_attributes"));
+  auto* const change_attributes =
+      SystemFunction<ChangeAttributes>("xcb", 1, "xcb_change_window_attributes");
   if (change_attributes == nullptr) return;
   constexpr std::uint32_t kBackPixel = 2;
   const std::uint32_t pixel = color.rgb();
