@@ -1,12 +1,10 @@
-# add_layer(<folder> SOURCES <files> [LINKS <targets>] [PRECOMPILES <headers>])
+# add_layer(<folder> SOURCES <files> [LINKS <targets>])
 #
 # One static library a folder of src/, named morlek_<folder>. Its headers are included as
 # "<folder>/<header>". What it may include is what it links; a test reads every include and tells
-# when one goes against the direction of the layers. Headers of others that nearly all of its files
-# include are compiled once; each file includes them all the same, which clang-tidy's tree proves, where
-# nothing is precompiled.
+# when one goes against the direction of the layers.
 function(add_layer folder)
-  cmake_parse_arguments(LAYER "" "" "SOURCES;LINKS;PRECOMPILES" ${ARGN})
+  cmake_parse_arguments(LAYER "" "" "SOURCES;LINKS" ${ARGN})
   list(TRANSFORM LAYER_SOURCES PREPEND ${folder}/)
   add_library(morlek_${folder} STATIC ${LAYER_SOURCES})
   target_include_directories(morlek_${folder} PUBLIC ${PROJECT_SOURCE_DIR}/src)
@@ -14,9 +12,6 @@ function(add_layer folder)
     morlek_${folder}
     PUBLIC ${LAYER_LINKS}
     PRIVATE morlek_compiler)
-  if(LAYER_PRECOMPILES)
-    target_precompile_headers(morlek_${folder} PRIVATE ${LAYER_PRECOMPILES})
-  endif()
   # Not for tests: with every check inlined GCC sees null pointers there that cannot come.
   target_compile_options(morlek_${folder} PRIVATE -Wnull-dereference)
 endfunction()
