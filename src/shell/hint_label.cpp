@@ -1,5 +1,6 @@
 #include "shell/hint_label.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -11,7 +12,7 @@ namespace {
 
 constexpr int kWordsPixels = 15;
 constexpr int kWordsHeight = 28;
-constexpr int kIconSide = 96;
+constexpr int kIconSide = 64;
 constexpr int kGap = 18;
 constexpr QSize kSize(320, kIconSide + kGap + kWordsHeight);
 
@@ -49,7 +50,12 @@ void HintLabel::mouseReleaseEvent(QMouseEvent* event) {
 void HintLabel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QRectF icon((width() - kIconSide) / 2.0, 0, kIconSide, kIconSide);
-  PaintAppIcon(painter, icon);
+  if (devicePixelRatioF() > 1) {
+    PaintAppIcon(painter, icon);
+  } else {
+    // Painted already, and the start need not wait for it a second time.
+    painter.drawPixmap(icon.topLeft(), QApplication::windowIcon().pixmap(kIconSide, kIconSide));
+  }
   QFont words = font();
   words.setUnderline(asks_for_image_ && underMouse());
   painter.setFont(words);
