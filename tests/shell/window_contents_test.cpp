@@ -154,6 +154,7 @@ TEST_F(WindowContentsTest, EveryControlHasANameAndARole) {
         << widget->metaObject()->className() << " " << widget->objectName().toStdString();
   }
 
+  CloseHelp();
   // Where the focus has been, boxes are read in the order of the sheet all the same.
   for (const int row : {3, 17, 5, 24}) Box(1, row).setFocus();
   QStringList order;
