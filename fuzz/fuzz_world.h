@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <span>
 
 #include "editor/editor.h"
@@ -76,3 +78,6 @@ class World : private EditorView {
 };
 
 }  // namespace morlek::fuzz
+
+/// What each fuzz program does with one input, by the name that libFuzzer calls.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);

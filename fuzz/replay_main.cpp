@@ -1,6 +1,5 @@
 // Runs a fuzz program's check over every file of a corpus, with any compiler.
 
-#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -8,7 +7,7 @@
 #include <span>
 #include <vector>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+#include "fuzz/fuzz_world.h"
 
 int main(int argument_count, char** arguments) {
   int files = 0;

@@ -8,12 +8,12 @@
 namespace morlek {
 namespace {
 
-constexpr std::uint8_t kMarker = 0x30;
+constexpr std::uint8_t kBattingMarker = 0x30;
 
 }  // namespace
 
 const std::string& BattingAverageCodec::DecodeBattingAverage(std::string_view key) {
-  if (const auto number = NumberOfPairKey(key, kMarker)) {
+  if (const auto number = NumberOfPairKey(key, kBattingMarker)) {
     decoded_average_ = ThreeDigits(*number).insert(0, 1, '.');
   }
   return decoded_average_;
@@ -29,7 +29,7 @@ const std::string& BattingAverageCodec::EncodeBattingAverage(std::string_view te
 }
 
 std::uint8_t BattingAverageCodec::HighByte(std::string_view text) {
-  return text <= ".255" ? kMarker : kMarker + 1;
+  return text <= ".255" ? kBattingMarker : kBattingMarker + 1;
 }
 
 }  // namespace morlek

@@ -8,7 +8,7 @@
 namespace morlek {
 namespace {
 
-constexpr std::uint8_t kMarker = 0x20;
+constexpr std::uint8_t kEraMarker = 0x20;
 
 /// The hundredths of a text of one digit, a point and two digits; nothing for other text.
 std::optional<int> Hundredths(std::string_view text) {
@@ -19,7 +19,7 @@ std::optional<int> Hundredths(std::string_view text) {
 }  // namespace
 
 const std::string& EarnedRunAverageCodec::DecodeEarnedRunAverage(std::string_view key) {
-  if (const auto number = NumberOfPairKey(key, kMarker)) decoded_digits_ = ThreeDigits(*number);
+  if (const auto number = NumberOfPairKey(key, kEraMarker)) decoded_digits_ = ThreeDigits(*number);
   return decoded_digits_;
 }
 
@@ -32,7 +32,7 @@ const std::string& EarnedRunAverageCodec::EncodeEarnedRunAverage(std::string_vie
 }
 
 std::uint8_t EarnedRunAverageCodec::HighByte(std::string_view text) {
-  return text <= "2.55" ? kMarker : kMarker + 1;
+  return text <= "2.55" ? kEraMarker : kEraMarker + 1;
 }
 
 }  // namespace morlek

@@ -7,9 +7,7 @@
 namespace morlek {
 namespace {
 
-// In logical pixels.
-constexpr int kHeight = 653;
-constexpr int kFootHeight = 20;
+constexpr int kFootHeight = 20;  // of logical pixels
 
 }  // namespace
 
@@ -25,10 +23,12 @@ ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent) {
 
 void ContentArea::KeepInView(QWidget* foot) { feet_.push_back({foot, foot->y()}); }
 
-void ContentArea::SetContentWidth(int twips) { widget()->setFixedSize(FromTwips(twips), kHeight); }
+void ContentArea::SetContentWidth(int twips) {
+  widget()->setFixedSize(FromTwips(twips), kContentHeight);
+}
 
 QSize ContentArea::FitInto(int room) {
-  const bool fits = kHeight <= room;
+  const bool fits = kContentHeight <= room;
   // Never as needed: rounding at a fractional scale factor can make the content a pixel too high.
   setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
   setViewportMargins(0, 0, 0, fits ? 0 : kFootHeight);
@@ -36,7 +36,7 @@ QSize ContentArea::FitInto(int room) {
     MoveFeet(widget(), 0);
     return widget()->size();
   }
-  MoveFeet(this, room - kHeight);
+  MoveFeet(this, room - kContentHeight);
   return {widget()->width() + verticalScrollBar()->sizeHint().width(), room};
 }
 

@@ -5,6 +5,8 @@
 
 namespace morlek {
 
+constexpr int kContentHeight = 653;  // of logical pixels
+
 /// The content of the main window, of a height of its own, which scrolls on a screen that is too
 /// low for it. What stands at its foot stays in view there too.
 class ContentArea : public QScrollArea {

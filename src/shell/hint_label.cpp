@@ -13,15 +13,15 @@ namespace {
 constexpr int kWordsPixels = 15;
 constexpr int kWordsHeight = 28;
 constexpr int kIconSide = 64;
-constexpr int kGap = 18;
-constexpr QSize kSize(320, kIconSide + kGap + kWordsHeight);
+constexpr int kWordsGap = 18;
+constexpr QSize kHintSize(320, kIconSide + kWordsGap + kWordsHeight);
 
 }  // namespace
 
 HintLabel::HintLabel(const QRect& area, QWidget* parent) : QLabel(parent) {
   setObjectName("labelHint");
   setAccessibleName("what to do next");
-  QRect place(QPoint(0, 0), kSize);
+  QRect place(QPoint(0, 0), kHintSize);
   place.moveCenter(area.center());
   setGeometry(place);
   setFont(theme::Font(kWordsPixels));
@@ -61,7 +61,7 @@ void HintLabel::paintEvent(QPaintEvent* /*event*/) {
   painter.setFont(words);
   const theme::Shades& shades = theme::ShadesOf(palette());
   painter.setPen(asks_for_image_ ? shades.accent : shades.header_text);
-  painter.drawText(rect().adjusted(0, kIconSide + kGap, 0, 0), Qt::AlignCenter, text());
+  painter.drawText(rect().adjusted(0, kIconSide + kWordsGap, 0, 0), Qt::AlignCenter, text());
 }
 
 }  // namespace morlek

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kLeft = 8;  // the narrow layout ends 3 px inside the frame, where nothing may show
 constexpr int kTop = 26;
-constexpr int kGap = 2;
+constexpr int kTileGap = 2;
 
 /// The size of a chooser's tiles. The few legs have room for higher ones, with the code below.
 QSize TileSize(StancePiece piece) {
@@ -42,8 +42,8 @@ class StancePicture : public MarkedButton {
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
     const QSize size = TileSize(kind.piece);
-    setGeometry(QRect(QPoint(kLeft + (size.width() + kGap) * (index / kPictureRows),
-                             kTop + (size.height() + kGap) * (index % kPictureRows)),
+    setGeometry(QRect(QPoint(kLeft + (size.width() + kTileGap) * (index / kPictureRows),
+                             kTop + (size.height() + kTileGap) * (index % kPictureRows)),
                       size));
   }
 

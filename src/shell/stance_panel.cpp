@@ -7,6 +7,7 @@
 #include "image/team_directory.h"
 #include "shell/club_looks.h"
 #include "shell/code_page_text.h"
+#include "shell/content_area.h"
 #include "shell/stance_chooser.h"
 #include "shell/stance_view.h"
 #include "shell/twips.h"
@@ -15,7 +16,6 @@ namespace morlek {
 namespace {
 
 constexpr int kWidth = 222;
-constexpr int kHeight = 653;
 constexpr QRect kViewArea(8, 546, 206, 103);
 constexpr QRect kViewAreaBelowLegs(8, 246, 206, 403);  // of which there are few
 
@@ -40,7 +40,7 @@ StancePanel::StancePanel(RosterDocument& document, QWidget* parent)
     : QWidget(parent), document_(document) {
   setObjectName("StancePanel");
   setAccessibleName("batting stance choosers");
-  setGeometry(FromTwips(6660), 0, kWidth, kHeight);
+  setGeometry(FromTwips(6660), 0, kWidth, kContentHeight);
   for (std::size_t place = 0; place < kKinds.size(); ++place) AddChooser(place);
   view_ = new StanceView(this);
   view_->setGeometry(kViewArea);
