@@ -21,7 +21,7 @@ class AppearanceCodec {
   std::string skin_class_;
 };
 
-/// The byte that such a text is saved as; nothing when it has none and is passed over.
+/// The byte that such a text stands for; nothing when it stands for none.
 [[nodiscard]] std::optional<std::uint8_t> AppearanceByte(std::string_view text);
 
 }  // namespace morlek

@@ -36,7 +36,8 @@ class Editor {
   /// with what has been read so far in it.
   void LoadTeam(std::string_view toolbar_key, EditorView& view);
 
-  /// Saves the grid into the image and says so, whatever could be written.
+  /// Saves the grid into the image and says so, whatever could be written; a name that is too long
+  /// ends the save where it stands, and is told instead.
   void Save();
 
   /// Replaces the grid by a team data file, in one step. A failure is not told: a file that cannot

@@ -17,6 +17,7 @@ class File {
  public:
   virtual ~File() = default;
 
+  /// The bytes, for as long as the file lives.
   [[nodiscard]] virtual std::streambuf& bytes() = 0;
 
   /// False when the system tells that something written may be lost. Either way the file is closed.

@@ -33,6 +33,9 @@ constexpr int kWideWidth = 9990;
 constexpr int kHintBottom = 560;  // above the middle, in logical pixels
 constexpr int kRowMargin = 24;    // what stays in view around a box, likewise
 
+/// Whether a dialog stands over the window, which then does nothing else.
+bool IsAsking() { return QApplication::activeModalWidget() != nullptr; }
+
 std::optional<std::filesystem::path> ToPath(const std::optional<QString>& path) {
   if (!path) return std::nullopt;
   return QFileInfo(*path).filesystemFilePath();
@@ -92,8 +95,8 @@ void MainWindow::AddRoster() {
   status_->raise();
   roster_->hide();
   connect(roster_, &RosterFrame::SaveRequested, this, [this] {
-    // A hidden button can still be pressed by an assistive tool.
-    if (!roster_->isVisible()) return;
+    // A button that is hidden or behind a dialog can still be pressed by an assistive tool.
+    if (!roster_->isVisible() || IsAsking()) return;
     editor_.Save();
     RefreshMarks();
   });
@@ -141,7 +144,7 @@ void MainWindow::FitToScreen() {
 }
 
 void MainWindow::Run(Command command) {
-  if (roster_ == nullptr) return;
+  if (roster_ == nullptr || IsAsking()) return;
   switch (command) {
     case Command::kOpen:
       editor_.OpenAnotherImage(ToPath(AskForImage(user_)), *this);
@@ -228,7 +231,9 @@ void MainWindow::RefreshMarks() {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DroppedFile(*event->mimeData()) || !(event->possibleActions() & Qt::CopyAction)) return;
+  if (IsAsking() || !DroppedFile(*event->mimeData()) ||
+      !(event->possibleActions() & Qt::CopyAction))
+    return;
   // Never as a move, after which the other program would delete the file.
   event->setDropAction(Qt::CopyAction);
   event->accept();

@@ -1,6 +1,7 @@
 #include "shell/marked_button.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 
 namespace morlek {
 namespace {
@@ -25,10 +26,12 @@ class MarkedButtonInterface : public QAccessibleWidget {
   }
 
  private:
-  /// What a mouse cannot reach is not pressed either: hidden, or right of the narrow window.
+  /// What a mouse cannot reach is not pressed either: hidden, behind a dialog, or right of the
+  /// narrow window.
   [[nodiscard]] bool IsInReach() const {
     const QWidget& window = *button_.window();
     return button_.isEnabled() && button_.isVisible() &&
+           QApplication::activeModalWidget() == nullptr &&
            button_.mapTo(&window, QPoint(0, 0)).x() < window.width();
   }
 

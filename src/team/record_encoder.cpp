@@ -12,7 +12,7 @@ namespace {
 
 using enum Column;
 
-constexpr std::size_t kLongestName = 10;
+constexpr std::size_t kLongestName = kNameBytes + 1;  // with the period
 
 /// Assigns when there is a value. `Target` is a working value of the save or a kept one.
 template <typename Target>

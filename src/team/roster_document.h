@@ -23,7 +23,7 @@ struct CellChange {
 using GridChange = std::vector<CellChange>;
 
 /// Owns the roster grid. Every change goes through it, is told to all observers, and can be taken
-/// back unless it was a load.
+/// back unless it was a load or too much has been changed since.
 class RosterDocument {
  public:
   using Observer = std::function<void(const GridChange& change)>;

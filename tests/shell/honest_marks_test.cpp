@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QDialog>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QToolTip>
@@ -164,6 +165,18 @@ TEST_F(HonestMarksTest, TheWindowTellsWhereOneIs) {
   EXPECT_EQ(GroundOf(Seen(Box(1, 3))), QColor(0xf7, 0xf9, 0xfc));
   Find("Command1").setFocus();
   EXPECT_EQ(GroundOf(Seen(Box(1, 8))), QColor(0xff, 0xff, 0xff));
+
+  {
+    QDialog question;  // as one of the editor's own stands over the window
+    question.setModal(true);
+    question.show();
+    press("Mets");
+    press("Command1");
+    Choose("mnuAboutMorlek");
+    EXPECT_FALSE(Drop(*window, {QUrl::fromLocalFile(ImagePath())}));
+  }
+  EXPECT_EQ(Find("Label4(0)").accessibleDescription(), "CHICAGO CUBS");
+  EXPECT_TRUE(user.messages.empty());
 
   Click("Braves");
   EXPECT_NE(Seen(Find("Cubs")), ringed);
