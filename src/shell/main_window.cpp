@@ -33,9 +33,6 @@ constexpr int kWideWidth = 9990;
 constexpr int kHintBottom = 560;  // above the middle, in logical pixels
 constexpr int kRowMargin = 24;    // what stays in view around a box, likewise
 
-/// Whether a dialog stands over the window, which then does nothing else.
-bool IsAsking() { return QApplication::activeModalWidget() != nullptr; }
-
 std::optional<std::filesystem::path> ToPath(const std::optional<QString>& path) {
   if (!path) return std::nullopt;
   return QFileInfo(*path).filesystemFilePath();
@@ -96,7 +93,7 @@ void MainWindow::AddRoster() {
   roster_->hide();
   connect(roster_, &RosterFrame::SaveRequested, this, [this] {
     // A button that is hidden or behind a dialog can still be pressed by an assistive tool.
-    if (!roster_->isVisible() || IsAsking()) return;
+    if (!roster_->isVisible() || !IsListening()) return;
     editor_.Save();
     RefreshMarks();
   });
@@ -143,8 +140,12 @@ void MainWindow::FitToScreen() {
   if (beyond > 0) move(std::max(x() - beyond, desktop.left()), y());
 }
 
+bool MainWindow::IsListening() const {
+  return roster_ != nullptr && QApplication::activeModalWidget() == nullptr;
+}
+
 void MainWindow::Run(Command command) {
-  if (roster_ == nullptr || IsAsking()) return;
+  if (!IsListening()) return;
   switch (command) {
     case Command::kOpen:
       editor_.OpenAnotherImage(ToPath(AskForImage(user_)), *this);
@@ -231,7 +232,7 @@ void MainWindow::RefreshMarks() {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (IsAsking() || !DroppedFile(*event->mimeData()) ||
+  if (!IsListening() || !DroppedFile(*event->mimeData()) ||
       !(event->possibleActions() & Qt::CopyAction))
     return;
   // Never as a move, after which the other program would delete the file.

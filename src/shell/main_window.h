@@ -57,6 +57,10 @@ class MainWindow : public QMainWindow, private EditorView {
   void OpenHelp();
   void LoadTeam(std::string_view toolbar_key);
 
+  /// Whether the window does what it is told: once its first question was answered, and never while
+  /// a dialog stands over it.
+  [[nodiscard]] bool IsListening() const;
+
   /// Shows afresh what is not saved and what SAVE will not keep.
   void RefreshMarks();
 
