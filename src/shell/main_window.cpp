@@ -232,9 +232,8 @@ void MainWindow::RefreshMarks() {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!IsListening() || !DroppedFile(*event->mimeData()) ||
-      !(event->possibleActions() & Qt::CopyAction))
-    return;
+  if (!IsListening() || !DroppedFile(*event->mimeData())) return;
+  if (!(event->possibleActions() & Qt::CopyAction)) return;
   // Never as a move, after which the other program would delete the file.
   event->setDropAction(Qt::CopyAction);
   event->accept();
