@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
+#include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 
 namespace morlek {
 namespace {
@@ -28,23 +30,41 @@ const std::set<std::string> kKnowsQt = {"art", "shell"};
 const std::map<std::string, std::string> kSpecial = {{"\"version.h\"", "shell"},
                                                      {"<windows.h>", "shell"}};
 
+std::string_view AfterBlanks(std::string_view text) {
+  return text.substr(std::min(text.find_first_not_of(" \t"), text.size()));
+}
+
+/// The header that a line includes, between its quotes or brackets; empty when none follows,
+/// nothing when the line includes nothing.
+std::optional<std::string_view> Included(std::string_view line) {
+  constexpr std::string_view kInclude = "include";
+  std::string_view rest = AfterBlanks(line);
+  if (!rest.starts_with('#')) return std::nullopt;
+  rest = AfterBlanks(rest.substr(1));
+  if (!rest.starts_with(kInclude)) return std::nullopt;
+  rest = AfterBlanks(rest.substr(kInclude.size()));
+  return rest.substr(0, rest.find_first_of(">\"", 1) + 1);
+}
+
 /// Whether a file in `layer` may contain `line`; lines that include nothing always may stand.
-bool MayStand(const std::string& layer, const std::string& line) {
-  static const std::regex include(R"(\s*#\s*include\b\s*([<"][^>"]*[>"])?.*)");
-  static const std::regex standard("<[a-z_]+>");
-  static const std::regex toolkit("<Q[A-Za-z]+>");
-  static const std::regex ours(R"re("([a-z]+)/[a-z_]+\.h")re");
-  std::smatch match;
-  if (!std::regex_match(line, match, include)) return true;
-  const std::string header = match[1];
-  const auto special = kSpecial.find(header);
+bool MayStand(const std::string& layer, std::string_view line) {
+  const std::optional<std::string_view> header = Included(line);
+  if (!header) return true;
+  const auto special = kSpecial.find(std::string(*header));
   if (special != kSpecial.end()) return special->second == layer;
-  if (std::regex_match(header, standard)) return true;
-  if (std::regex_match(header, toolkit)) return kKnowsQt.contains(layer);
-  if (!std::regex_match(header, match, ours)) return false;
-  const std::string folder = match[1];
-  return (folder == layer || kBelow.at(layer).contains(folder)) &&
-         exists(kSources / header.substr(1, header.size() - 2));
+  if (header->size() < 3) return false;
+  const std::string_view name = header->substr(1, header->size() - 2);
+  if (header->starts_with('<')) {
+    const bool is_standard =
+        name.find_first_not_of("abcdefghijklmnopqrstuvwxyz_") == std::string_view::npos;
+    const bool is_toolkit =
+        name.starts_with('Q') && name.find_first_of("/.") == std::string_view::npos;
+    return is_standard || (is_toolkit && kKnowsQt.contains(layer));
+  }
+  const fs::path file = name;
+  const std::string folder = file.parent_path().string();
+  return header->starts_with('"') && (folder == layer || kBelow.at(layer).contains(folder)) &&
+         file.extension() == ".h" && exists(kSources / file);
 }
 
 TEST(Layers, EveryIncludeFollowsTheArrows) {
