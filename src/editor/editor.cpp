@@ -92,8 +92,8 @@ void Editor::LoadTeam(std::string_view toolbar_key, EditorView& view) {
 
 void Editor::Save() {
   const Rehearsal rehearsal = Rehearse();
-  const SavedBytes saved = TeamSaver(image_, kept_, messages_).Save(document_.grid());
-  knowledge_.LearnSave(saved, rehearsal);
+  const auto settled = [&](const SavedBytes& saved) { knowledge_.LearnSave(saved, rehearsal); };
+  TeamSaver(image_, kept_, messages_).Save(document_.grid(), settled);
 }
 
 void Editor::ImportTeam(const std::optional<std::filesystem::path>& chosen) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "codecs/message_port.h"
 #include "image/cartridge_image.h"
 #include "team/kept_state.h"
@@ -22,8 +24,12 @@ class TeamSaver {
       : image_(image), kept_(kept), messages_(messages) {}
 
   /// Saves the grid into the current record and says so, also when nothing could be written. A name
-  /// of more than 10 characters is told instead and ends the save; what was written stays.
-  SavedBytes Save(const RosterGrid& grid);
+  /// of more than 10 characters is told instead and ends the save; what was written stays. Either
+  /// way `settled` hears once what the image took, as soon as its file is closed: before the person
+  /// is told that the changes have been saved.
+  void Save(
+      const RosterGrid& grid,
+      const std::function<void(const SavedBytes&)>& settled = [](const SavedBytes&) {});
 
  private:
   CartridgeImage& image_;
