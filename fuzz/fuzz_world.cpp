@@ -51,7 +51,7 @@ void World::Save() {
   for (int round = 0; round < 3; ++round) {
     earlier.swap(disk_.writes);
     Forget();
-    editor_.Save();
+    editor_.Save(*this);
     Require(disk_.opened.empty() || disk_.opened == std::vector<std::filesystem::path>{kImage},
             "a save opens the image alone");
     CheckWrites();
@@ -62,7 +62,7 @@ void World::Save() {
 void World::SaveAsRehearsed() {
   if (!is_shown_ || disk_.open_files > 0) return;
   const Rehearsal rehearsal = editor_.Rehearse();
-  editor_.Save();
+  editor_.Save(*this);
   Require(editor_.knowledge().texts() == rehearsal.after(), "what was saved is known");
   Require(Load(team_->key), "a saved team loads");
   Require(editor_.document().grid() == rehearsal.after(), "a load shows what the rehearsal told");

@@ -63,6 +63,7 @@ class World : private EditorView {
   void ShowToolbar() override {}
   void HideRoster() override { is_shown_ = false; }
   void ShowNarrow() override {}
+  void RefreshMarks() override {}
 
   /// Empties the disk's records of what was done to it.
   void Forget();

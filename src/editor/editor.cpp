@@ -90,9 +90,12 @@ void Editor::LoadTeam(std::string_view toolbar_key, EditorView& view) {
   }
 }
 
-void Editor::Save() {
+void Editor::Save(EditorView& view) {
   const Rehearsal rehearsal = Rehearse();
-  const auto settled = [&](const SavedBytes& saved) { knowledge_.LearnSave(saved, rehearsal); };
+  const auto settled = [&](const SavedBytes& saved) {
+    knowledge_.LearnSave(saved, rehearsal);
+    view.RefreshMarks();
+  };
   TeamSaver(image_, kept_, messages_).Save(document_.grid(), settled);
 }
 

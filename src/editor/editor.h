@@ -36,9 +36,9 @@ class Editor {
   /// with what has been read so far in it.
   void LoadTeam(std::string_view toolbar_key, EditorView& view);
 
-  /// Saves the grid into the image and says so, whatever could be written; a name that is too long
-  /// ends the save where it stands, and is told instead.
-  void Save();
+  /// Saves the grid into the image and says so, whatever could be written, with the marks already
+  /// fresh; a name that is too long ends the save where it stands, and is told instead.
+  void Save(EditorView& view);
 
   /// Replaces the grid by a team data file, in one step. A failure is not told: a file that cannot
   /// be opened changes nothing, one that ends too soon leaves the grid in part filled, and channel

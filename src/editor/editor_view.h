@@ -20,6 +20,9 @@ class EditorView : public TeamView {
 
   /// Sets the narrow layout.
   virtual void ShowNarrow() = 0;
+
+  /// Shows the marks of the grid afresh, which a save has just changed.
+  virtual void RefreshMarks() = 0;
 };
 
 }  // namespace morlek

@@ -93,9 +93,7 @@ void MainWindow::AddRoster() {
   roster_->hide();
   connect(roster_, &RosterFrame::SaveRequested, this, [this] {
     // A button that is hidden or behind a dialog can still be pressed by an assistive tool.
-    if (!roster_->isVisible() || !IsListening()) return;
-    editor_.Save();
-    RefreshMarks();
+    if (roster_->isVisible() && IsListening()) editor_.Save(*this);
   });
 
   connect(roster_, &RosterFrame::BlockPasted, this,

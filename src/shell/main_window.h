@@ -61,13 +61,11 @@ class MainWindow : public QMainWindow, private EditorView {
   /// a dialog stands over it.
   [[nodiscard]] bool IsListening() const;
 
-  /// Shows afresh what is not saved and what SAVE will not keep.
-  void RefreshMarks();
-
   void ShowIdentity(std::string_view byte_text) override;
   void ShowToolbar() override;
   void HideRoster() override;
   void ShowNarrow() override;
+  void RefreshMarks() override;
   void ShowTeamName(std::string_view display_name) override;
   void PrepareView() override;
 

@@ -70,7 +70,7 @@ TEST_F(RehearsalTest, EveryTeamOfTheSampleIsKeptAsShownAndSavedAsItWas) {
   for (const Team& team : kTeamDirectory) {
     editor.LoadTeam(team.key, view);
     EXPECT_EQ(editor.Rehearse().after(), editor.document().grid()) << team.key;
-    editor.Save();
+    editor.Save(view);
     ASSERT_TRUE(file() == before) << team.key;
     EXPECT_EQ(messages.Texts(), std::vector<std::string>{kSaved}) << team.key;
     messages.shown.clear();
@@ -87,11 +87,11 @@ TEST_F(RehearsalTest, ACloseThatFailsLeavesTheMarks) {
   TypeInto({0, 3, "77"});
   EXPECT_EQ(editor.Marks().unsaved_count(), 1);
   disk.failing_access = 1000000;
-  editor.Save();
+  editor.Save(view);
   const int accesses = 1000000 - disk.failing_access;
   TypeInto({0, 3, "78"});
   disk.failing_access = accesses;  // the close
-  editor.Save();
+  editor.Save(view);
   EXPECT_EQ(disk.failed_closes, 1);
   EXPECT_EQ(editor.Marks().unsaved_count(), 1);
 }
@@ -102,10 +102,10 @@ TEST_F(RehearsalTest, WhatTheDiskRefusesIsNotKnownToBeThere) {
   TypeInto({0, 3, "77"});
   const std::vector<std::uint8_t> content = file();
   disk.files.clear();
-  editor.Save();
+  editor.Save(view);
   EXPECT_EQ(known(), "1");
   disk.files[kImage] = content;
-  editor.Save();
+  editor.Save(view);
   EXPECT_EQ(known(), "77");
   EXPECT_EQ(editor.Rehearse().after(), editor.document().grid());
 }
@@ -140,7 +140,7 @@ TEST_F(RehearsalTest, AgreesWithARealSaveAndLoadInRandomSessions) {
       const Rehearsal rehearsal = editor.Rehearse();
       const GridMarks marks = editor.Marks();
       const RosterGrid saved = editor.document().grid();
-      editor.Save();
+      editor.Save(view);
       if (random() % 2 == 0) continue;
       editor.LoadTeam(team.key, view);
       for (const Cell cell : kAllCells) {

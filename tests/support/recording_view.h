@@ -16,6 +16,7 @@ class RecordingView : public EditorView {
   void ShowToolbar() override { calls.emplace_back("toolbar"); }
   void HideRoster() override { calls.emplace_back("hide"); }
   void ShowNarrow() override { calls.emplace_back("narrow"); }
+  void RefreshMarks() override {}
 
   std::vector<std::string> calls;
   std::string identity;

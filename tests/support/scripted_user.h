@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -10,7 +11,7 @@
 namespace morlek {
 
 /// A user who answers from a script and notes what he was asked and told. Where the script ends he
-/// cancels a dialog and says No.
+/// cancels a dialog and says No. A test may look round while he is told something.
 class ScriptedUser : public User {
  public:
   struct Told {
@@ -23,6 +24,7 @@ class ScriptedUser : public User {
 
   std::deque<std::optional<QString>> paths;
   std::deque<bool> answers;
+  std::function<void()> while_told;
 
   std::vector<FileQuestion> open_questions;
   std::vector<FileQuestion> save_questions;
@@ -46,6 +48,7 @@ class ScriptedUser : public User {
 
   void ShowMessage(const QString& text, const QString& title, Message::Icon icon) override {
     messages.push_back({text, title, icon});
+    if (while_told) while_told();
   }
 
  private:
