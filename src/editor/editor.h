@@ -70,6 +70,10 @@ class Editor {
   /// What the image is known to hold of the team in the grid.
   [[nodiscard]] const ImageKnowledge& knowledge() const { return knowledge_; }
 
+  /// Whether a file that a failed step left open stands in the way: the next SAVE, load, export or
+  /// import does nothing then.
+  [[nodiscard]] bool IsFileLeftOpen() const { return channel_.is_open(); }
+
   /// The current image; empty before the first one.
   [[nodiscard]] const std::filesystem::path& image_path() const { return image_.path(); }
 

@@ -28,6 +28,7 @@
 namespace morlek {
 namespace {
 
+constexpr char kFileLeftOpen[] = "a file is still open and blocks SAVE (Ctrl+O, Cancel)";
 constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
 constexpr int kHintBottom = 560;  // above the middle, in logical pixels
@@ -147,7 +148,6 @@ void MainWindow::Run(Command command) {
   switch (command) {
     case Command::kOpen:
       editor_.OpenAnotherImage(ToPath(AskForImage(user_)), *this);
-      RefreshMarks();
       break;
     case Command::kQuit:
       if (AskToQuit(user_)) close();
@@ -174,6 +174,7 @@ void MainWindow::Run(Command command) {
       OpenHelp();
       break;
   }
+  RefreshMarks();
 }
 
 void MainWindow::OpenFirstImage() {
@@ -224,9 +225,9 @@ void MainWindow::LoadTeam(std::string_view toolbar_key) {
 void MainWindow::RefreshMarks() {
   const GridMarks marks = editor_.Marks();
   roster_->ShowMarks(marks);
+  const QString summary = editor_.IsFileLeftOpen() ? QString(kFileLeftOpen) : SummaryOf(marks);
   const std::u16string path = editor_.image_path().u16string();
-  status_->ShowImage(QString::fromStdU16String(path),
-                     roster_->isVisible() ? SummaryOf(marks) : QString());
+  status_->ShowImage(QString::fromStdU16String(path), roster_->isVisible() ? summary : QString());
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -148,10 +148,12 @@ TEST_F(FilesTest, FailedExportsAndImportsAreSilentAndACancelFreesAShortFile) {
   for (const char* cancelled : {"mnuOpen", "mnuImport", "mnuExport"}) {
     ChooseWith("mnuImport", PathOf("short.txt"));
     EXPECT_EQ(Box(1, 0).text(), "A.B");
+    EXPECT_TRUE(LabelText("labelStatus").contains("still open and blocks SAVE"));
     // While it is held no other file is made.
     ChooseWith("mnuExport", PathOf("new.txt"));
     EXPECT_FALSE(std::filesystem::exists(folder / "new.txt"));
     ChooseWith(cancelled, std::nullopt);
+    EXPECT_FALSE(LabelText("labelStatus").contains("still open"));
     Click("Braves");
     EXPECT_TRUE(user.messages.empty()) << cancelled;
     EXPECT_EQ(GridTexts(), before);
