@@ -20,6 +20,7 @@ class NoView : public EditorView {
   void ShowToolbar() override {}
   void HideRoster() override {}
   void ShowNarrow() override {}
+  void RefreshMarks() override {}
 };
 
 }  // namespace morlek
