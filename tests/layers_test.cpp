@@ -46,6 +46,10 @@ std::optional<std::string_view> Included(std::string_view line) {
   return rest.substr(0, rest.find_first_of(">\"", 1) + 1);
 }
 
+bool IsMadeOf(std::string_view text, std::string_view characters) {
+  return !text.empty() && text.find_first_not_of(characters) == std::string_view::npos;
+}
+
 /// Whether a file in `layer` may contain `line`; lines that include nothing always may stand.
 bool MayStand(const std::string& layer, std::string_view line) {
   const std::optional<std::string_view> header = Included(line);
@@ -54,17 +58,17 @@ bool MayStand(const std::string& layer, std::string_view line) {
   if (special != kSpecial.end()) return special->second == layer;
   if (header->size() < 3) return false;
   const std::string_view name = header->substr(1, header->size() - 2);
-  if (header->starts_with('<')) {
-    const bool is_standard =
-        name.find_first_not_of("abcdefghijklmnopqrstuvwxyz_") == std::string_view::npos;
+  const std::string small_letters = "abcdefghijklmnopqrstuvwxyz";
+  if (header->starts_with('<') && header->ends_with('>')) {
     const bool is_toolkit =
-        name.starts_with('Q') && name.find_first_of("/.") == std::string_view::npos;
-    return is_standard || (is_toolkit && kKnowsQt.contains(layer));
+        name.starts_with('Q') && IsMadeOf(name, small_letters + "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    return IsMadeOf(name, small_letters + "_") || (is_toolkit && kKnowsQt.contains(layer));
   }
   const fs::path file = name;
   const std::string folder = file.parent_path().string();
-  return header->starts_with('"') && (folder == layer || kBelow.at(layer).contains(folder)) &&
-         file.extension() == ".h" && exists(kSources / file);
+  return header->starts_with('"') && header->ends_with('"') &&
+         IsMadeOf(name, small_letters + "_/.") && file.extension() == ".h" &&
+         (folder == layer || kBelow.at(layer).contains(folder)) && exists(kSources / file);
 }
 
 TEST(Layers, EveryIncludeFollowsTheArrows) {

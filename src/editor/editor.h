@@ -70,9 +70,9 @@ class Editor {
   /// What the image is known to hold of the team in the grid.
   [[nodiscard]] const ImageKnowledge& knowledge() const { return knowledge_; }
 
-  /// Whether a file that a failed step left open stands in the way: the next SAVE, load, export or
-  /// import does nothing then.
-  [[nodiscard]] bool IsFileLeftOpen() const { return channel_.is_open(); }
+  /// Whether channel 1 is open. When no step is under way, one that failed has left it so, and
+  /// whichever step comes next cannot open its file.
+  [[nodiscard]] bool IsFileOpen() const { return channel_.is_open(); }
 
   /// The current image; empty before the first one.
   [[nodiscard]] const std::filesystem::path& image_path() const { return image_.path(); }

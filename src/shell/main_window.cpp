@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 
 #include "shell/cls_on_top.h"
 #include "shell/content_area.h"
@@ -174,7 +175,7 @@ void MainWindow::Run(Command command) {
       OpenHelp();
       break;
   }
-  RefreshMarks();
+  EndStep();
 }
 
 void MainWindow::OpenFirstImage() {
@@ -183,7 +184,7 @@ void MainWindow::OpenFirstImage() {
   const std::optional<QString> path = AskForImage(user_);
   AddRoster();
   editor_.OpenFirstImage(ToPath(path), *this);
-  RefreshMarks();
+  EndStep();
 }
 
 void MainWindow::ExportTeam() {
@@ -215,17 +216,25 @@ void MainWindow::OpenHelp() {
 }
 
 void MainWindow::LoadTeam(std::string_view toolbar_key) {
+  // A load that finds a file open fails, tells of it and closes it.
+  if (std::exchange(is_file_left_open_, false)) RefreshMarks();
   editor_.LoadTeam(toolbar_key, *this);
   // New texts have no selection; typing is to replace the value, as after a visit.
   roster_->BeginVisit();
   toolbar_->ShowPicked(roster_->isVisible());
+  EndStep();
+}
+
+void MainWindow::EndStep() {
+  is_file_left_open_ = editor_.IsFileOpen();
   RefreshMarks();
 }
 
 void MainWindow::RefreshMarks() {
   const GridMarks marks = editor_.Marks();
   roster_->ShowMarks(marks);
-  const QString summary = editor_.IsFileLeftOpen() ? QString(kFileLeftOpen) : SummaryOf(marks);
+  if (!editor_.IsFileOpen()) is_file_left_open_ = false;
+  const QString summary = is_file_left_open_ ? QString(kFileLeftOpen) : SummaryOf(marks);
   const std::u16string path = editor_.image_path().u16string();
   status_->ShowImage(QString::fromStdU16String(path), roster_->isVisible() ? summary : QString());
 }
@@ -246,7 +255,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   // From the event loop: whoever drops is not to wait for an answer to a message.
   QTimer::singleShot(0, this, [this, path] {
     editor_.TakeFile(*ToPath(path), *this);
-    RefreshMarks();
+    EndStep();
   });
 }
 

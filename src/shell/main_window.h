@@ -57,6 +57,9 @@ class MainWindow : public QMainWindow, private EditorView {
   void OpenHelp();
   void LoadTeam(std::string_view toolbar_key);
 
+  /// Shows what a step of the editor, which is over, has left.
+  void EndStep();
+
   /// Whether the window does what it is told: once its first question was answered, and never while
   /// a dialog stands over it.
   [[nodiscard]] bool IsListening() const;
@@ -82,6 +85,8 @@ class MainWindow : public QMainWindow, private EditorView {
   IdentityLabel* identity_ = nullptr;
   HintLabel* hint_ = nullptr;
   StatusLine* status_ = nullptr;
+  // As the last step left it, until the file is closed.
+  bool is_file_left_open_ = false;
   RosterDocument::Subscription subscription_;
   // Made when they are first needed: the start does not wait for them.
   HelpPane* help_ = nullptr;

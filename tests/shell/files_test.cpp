@@ -1,6 +1,8 @@
 #include <QAbstractButton>
 #include <QMenuBar>
 
+#include "image/record_layout.h"
+#include "image/team_directory.h"
 #include "shell/code_page_text.h"
 #include "shell/window_fixture.h"
 
@@ -15,6 +17,10 @@ class FilesTest : public WindowTest {
   /// What a dialog may answer that cannot be opened.
   const std::vector<std::optional<QString>> unopenable = {std::nullopt, PathOf("missing"),
                                                           PathOf(".")};
+
+  [[nodiscard]] bool IsOpenFileTold() const {
+    return LabelText("labelStatus").contains("a file is still open and blocks SAVE");
+  }
 };
 
 TEST_F(FilesTest, TheFirstImageIsAskedForOnceAndBeforeAnyCommand) {
@@ -148,16 +154,43 @@ TEST_F(FilesTest, FailedExportsAndImportsAreSilentAndACancelFreesAShortFile) {
   for (const char* cancelled : {"mnuOpen", "mnuImport", "mnuExport"}) {
     ChooseWith("mnuImport", PathOf("short.txt"));
     EXPECT_EQ(Box(1, 0).text(), "A.B");
-    EXPECT_TRUE(LabelText("labelStatus").contains("still open and blocks SAVE"));
     // While it is held no other file is made.
     ChooseWith("mnuExport", PathOf("new.txt"));
     EXPECT_FALSE(std::filesystem::exists(folder / "new.txt"));
     ChooseWith(cancelled, std::nullopt);
-    EXPECT_FALSE(LabelText("labelStatus").contains("still open"));
     Click("Braves");
     EXPECT_TRUE(user.messages.empty()) << cancelled;
     EXPECT_EQ(GridTexts(), before);
   }
+}
+
+TEST_F(FilesTest, AFileLeftOpenIsToldAtTheFootUntilItIsClosed) {
+  StartWithTeam();
+  PutFile(folder / "short.txt", std::string("A.B,P,\r\n"));
+  std::vector<bool> told_behind;
+  user.while_told = [&] { told_behind.push_back(IsOpenFileTold()); };
+  for (const char* way_out : {"mnuOpen", "Command1", "Mets"}) {
+    Click("Braves");
+    ChooseWith("mnuImport", PathOf("short.txt"));
+    EXPECT_TRUE(IsOpenFileTold());
+    told_behind.clear();
+    if (way_out == std::string("mnuOpen")) {
+      ChooseWith(way_out, std::nullopt);
+    } else {
+      Click(way_out);
+      EXPECT_FALSE(told_behind.back());
+    }
+    EXPECT_FALSE(IsOpenFileTold()) << way_out;
+  }
+
+  // A rating that ends the load, whose file is then still open, but will not stay so.
+  std::vector<std::uint8_t> image = Sample();
+  image.at(static_cast<std::size_t>(FindTeam("Mets")->base - 1 + offset::kFirstRatings)) = 0xAB;
+  PutFile(ImageFile(), image);
+  Click("Braves");
+  told_behind.clear();
+  Click("Mets");
+  EXPECT_EQ(told_behind, std::vector<bool>{false});
 }
 
 }  // namespace
