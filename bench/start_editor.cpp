@@ -9,8 +9,8 @@
 #include "shell/look.h"
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
-#include "shell/theme.h"
 #include "silent_user.h"
+#include "ui/theme.h"
 
 namespace {
 

@@ -24,11 +24,12 @@ const std::map<std::string, std::set<std::string>> kBelow = {
     {"textfile", {"image", "codecs", "team"}},
     {"editor", {"image", "codecs", "team", "textfile"}},
     {"art", {}},
-    {"shell", {"image", "codecs", "team", "textfile", "editor", "art"}}};
-const std::set<std::string> kKnowsQt = {"art", "shell"};
+    {"ui", {}},
+    {"shell", {"image", "codecs", "team", "textfile", "editor", "art", "ui"}}};
+const std::set<std::string> kKnowsQt = {"art", "ui", "shell"};
 // Headers that the build writes, or that only one system has.
 const std::map<std::string, std::string> kSpecial = {{"\"version.h\"", "shell"},
-                                                     {"<windows.h>", "shell"}};
+                                                     {"<windows.h>", "ui"}};
 
 std::string_view AfterBlanks(std::string_view text) {
   return text.substr(std::min(text.find_first_not_of(" \t"), text.size()));

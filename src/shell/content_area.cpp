@@ -2,7 +2,7 @@
 
 #include <QScrollBar>
 
-#include "shell/twips.h"
+#include "ui/twips.h"
 
 namespace morlek {
 namespace {

@@ -9,7 +9,7 @@
 #include "shell/help_heads.h"
 #include "shell/help_text.h"
 #include "shell/menu_table.h"
-#include "shell/twips.h"
+#include "ui/twips.h"
 
 namespace morlek {
 namespace {

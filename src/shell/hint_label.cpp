@@ -5,7 +5,7 @@
 #include <QPainter>
 
 #include "art/title_art.h"
-#include "shell/theme.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {

@@ -1,7 +1,7 @@
 #include "shell/identity_label.h"
 
 #include "shell/code_page_text.h"
-#include "shell/twips.h"
+#include "ui/twips.h"
 
 namespace morlek {
 

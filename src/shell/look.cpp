@@ -3,9 +3,9 @@
 #include <QApplication>
 
 #include "art/title_art.h"
-#include "shell/painted_icon.h"
-#include "shell/style.h"
-#include "shell/theme.h"
+#include "ui/painted_icon.h"
+#include "ui/style.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {

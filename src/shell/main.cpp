@@ -4,8 +4,8 @@
 #include "shell/look.h"
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
-#include "shell/theme.h"
-#include "shell/window_place.h"
+#include "ui/theme.h"
+#include "ui/window_place.h"
 
 int main(int argument_count, char** arguments) {
   const std::jthread fonts = morlek::theme::ReadSystemFonts();

@@ -10,9 +10,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "shell/cls_on_top.h"
 #include "shell/content_area.h"
-#include "shell/dropped_file.h"
 #include "shell/help_pane.h"
 #include "shell/hint_label.h"
 #include "shell/identity_label.h"
@@ -23,8 +21,10 @@
 #include "shell/stance_panel.h"
 #include "shell/status_line.h"
 #include "shell/team_toolbar.h"
-#include "shell/twips.h"
-#include "shell/window_ground.h"
+#include "ui/cls_on_top.h"
+#include "ui/dropped_file.h"
+#include "ui/twips.h"
+#include "ui/window_ground.h"
 
 namespace morlek {
 namespace {

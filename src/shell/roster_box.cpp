@@ -9,13 +9,13 @@
 #include <utility>
 
 #include "shell/code_page_text.h"
-#include "shell/dropped_file.h"
 #include "shell/mark_text.h"
 #include "shell/menu_table.h"
-#include "shell/snapped_lines.h"
-#include "shell/theme.h"
 #include "textfile/pasted_block.h"
 #include "textfile/team_import.h"
+#include "ui/dropped_file.h"
+#include "ui/snapped_lines.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {

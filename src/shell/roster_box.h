@@ -7,12 +7,13 @@
 #include <string>
 
 #include "editor/grid_marks.h"
+#include "ui/own_panel.h"
 
 namespace morlek {
 
 /// One text box of the roster grid. Receiving the focus selects its whole text, so that typing
 /// replaces the value; characters that the code page lacks become "?" at once.
-class RosterBox : public QLineEdit {
+class RosterBox : public QLineEdit, public OwnPanel {
   Q_OBJECT
 
  public:
@@ -41,7 +42,7 @@ class RosterBox : public QLineEdit {
   void SelectForTyping();
 
   /// Paints the box as a cell of the sheet: neighbours share their border lines.
-  void PaintPanel(QPainter& painter) const;
+  void PaintPanel(QPainter& painter) const override;
 
  signals:
   /// The focus came by keyboard, mouse or program, not by a return from a menu or another window;

@@ -10,13 +10,13 @@
 #include <utility>
 
 #include "shell/code_page_text.h"
-#include "shell/filled_button.h"
 #include "shell/mark_text.h"
 #include "shell/roster_box.h"
-#include "shell/snapped_lines.h"
-#include "shell/theme.h"
-#include "shell/twips.h"
 #include "team/accepted_texts.h"
+#include "ui/filled_button.h"
+#include "ui/snapped_lines.h"
+#include "ui/theme.h"
+#include "ui/twips.h"
 
 namespace morlek {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "codecs/hex_text.h"
 #include "shell/code_page_text.h"
-#include "shell/marked_button.h"
-#include "shell/theme.h"
-#include "shell/twips.h"
+#include "ui/marked_button.h"
+#include "ui/theme.h"
+#include "ui/twips.h"
 
 namespace morlek {
 namespace {

@@ -10,7 +10,7 @@
 #include "shell/content_area.h"
 #include "shell/stance_chooser.h"
 #include "shell/stance_view.h"
-#include "shell/twips.h"
+#include "ui/twips.h"
 
 namespace morlek {
 namespace {

@@ -4,7 +4,7 @@
 #include <QPainterPath>
 #include <algorithm>
 
-#include "shell/theme.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {

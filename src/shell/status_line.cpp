@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "shell/mark_text.h"
-#include "shell/theme.h"
-#include "shell/twips.h"
+#include "ui/theme.h"
+#include "ui/twips.h"
 
 namespace morlek {
 namespace {

@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "shell/club_looks.h"
-#include "shell/painted_icon.h"
-#include "shell/theme.h"
+#include "ui/painted_icon.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "image/team_directory.h"
 #include "shell/code_page_text.h"
-#include "shell/marked_button.h"
 #include "shell/team_badges.h"
-#include "shell/theme.h"
+#include "ui/marked_button.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {

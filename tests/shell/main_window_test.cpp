@@ -6,7 +6,7 @@
 
 #include "shell/eye.h"
 #include "shell/window_fixture.h"
-#include "shell/window_place.h"
+#include "ui/window_place.h"
 
 namespace morlek {
 namespace {

@@ -4,9 +4,9 @@
 
 #include "shell/eye.h"
 #include "shell/splash_window.h"
-#include "shell/style.h"
-#include "shell/theme.h"
 #include "shell/window_fixture.h"
+#include "ui/style.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {

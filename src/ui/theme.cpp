@@ -1,9 +1,9 @@
-#include "shell/theme.h"
+#include "ui/theme.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
 
-#include "shell/system_function.h"
+#include "ui/system_function.h"
 
 namespace morlek::theme {
 

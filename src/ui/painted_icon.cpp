@@ -1,4 +1,4 @@
-#include "shell/painted_icon.h"
+#include "ui/painted_icon.h"
 
 #include <QIconEngine>
 #include <QPainter>

@@ -1,11 +1,11 @@
-#include "shell/window_ground.h"
+#include "ui/window_ground.h"
 
 #include <QColor>
 #include <QGuiApplication>
 #include <QWindow>
 #include <cstdint>
 
-#include "shell/system_function.h"
+#include "ui/system_function.h"
 
 namespace morlek {
 

@@ -1,4 +1,4 @@
-#include "shell/dropped_file.h"
+#include "ui/dropped_file.h"
 
 #include <QFileInfo>
 #include <QMimeData>

@@ -1,4 +1,4 @@
-#include "shell/marked_button.h"
+#include "ui/marked_button.h"
 
 #include <QAccessibleWidget>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "shell/cls_on_top.h"
+#include "ui/cls_on_top.h"
 
 #include <QWindow>
 

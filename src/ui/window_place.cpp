@@ -1,4 +1,4 @@
-#include "shell/window_place.h"
+#include "ui/window_place.h"
 
 #include <QScreen>
 #include <QWidget>

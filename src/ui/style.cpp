@@ -1,4 +1,4 @@
-#include "shell/style.h"
+#include "ui/style.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -7,11 +7,11 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "shell/dialog_icons.h"
-#include "shell/filled_button.h"
-#include "shell/roster_box.h"
-#include "shell/snapped_lines.h"
-#include "shell/theme.h"
+#include "ui/dialog_icons.h"
+#include "ui/filled_button.h"
+#include "ui/own_panel.h"
+#include "ui/snapped_lines.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {
@@ -107,8 +107,8 @@ void Style::polish(QWidget* widget) {
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {
   if (element == PE_PanelLineEdit) {
-    if (const auto* box = qobject_cast<const RosterBox*>(widget)) {
-      box->PaintPanel(*painter);
+    if (const auto* panel = dynamic_cast<const OwnPanel*>(widget)) {
+      panel->PaintPanel(*painter);
       return;
     }
   }

@@ -1,12 +1,12 @@
-#include "shell/dialog_icons.h"
+#include "ui/dialog_icons.h"
 
 #include <QPainter>
 #include <QPolygonF>
 #include <algorithm>
 #include <array>
 
-#include "shell/painted_icon.h"
-#include "shell/theme.h"
+#include "ui/painted_icon.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {

@@ -1,9 +1,9 @@
-#include "shell/filled_button.h"
+#include "ui/filled_button.h"
 
 #include <QPainter>
 #include <QStyleOption>
 
-#include "shell/theme.h"
+#include "ui/theme.h"
 
 namespace morlek {
 

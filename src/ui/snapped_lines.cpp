@@ -1,4 +1,4 @@
-#include "shell/snapped_lines.h"
+#include "ui/snapped_lines.h"
 
 #include <QPainter>
 #include <algorithm>
