@@ -1,13 +1,11 @@
 #include "fuzz/fuzz_world.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <set>
 
 #include "image/team_directory.h"
 #include "sample_image.h"
-#include "textfile/team_import.h"
 
 namespace morlek::fuzz {
 namespace {
@@ -31,8 +29,8 @@ void Require(bool holds, const char* promise) {
 World::World() : editor_(messages_, disk_.Opener()) {
   static const std::vector<std::uint8_t> sample = MakeSampleImage();
   disk_.files[kImage] = sample;
-  editor_.OpenFirstImage(kImage, *this);
-  Require(editor_.image_path() == kImage, "the sample is accepted");
+  editor_.OpenFirstImage(kImage);
+  Require(editor_.state().place.image == kImage, "the sample is accepted");
 }
 
 std::span<std::uint8_t> World::Record(std::int64_t base) {
@@ -41,9 +39,11 @@ std::span<std::uint8_t> World::Record(std::int64_t base) {
 
 bool World::Load(std::string_view key) {
   Forget();
-  editor_.LoadTeam(key, *this);
+  const LoadResult result = editor_.LoadTeam(key);
   RequireNoWrites();
-  return is_shown_;
+  const bool loaded = result.outcome == LoadResult::Outcome::kLoaded;
+  Require(editor_.state().is_grid_shown == loaded, "what was loaded is shown, and nothing else");
+  return loaded;
 }
 
 void World::Save() {
@@ -51,7 +51,7 @@ void World::Save() {
   for (int round = 0; round < 3; ++round) {
     earlier.swap(disk_.writes);
     Forget();
-    editor_.Save(*this);
+    editor_.Save();
     Require(disk_.opened.empty() || disk_.opened == std::vector<std::filesystem::path>{kImage},
             "a save opens the image alone");
     CheckWrites();
@@ -59,18 +59,18 @@ void World::Save() {
   Require(disk_.writes == earlier, "equal saves write equal bytes");
 }
 
-void World::SaveAsRehearsed() {
-  if (!is_shown_ || disk_.open_files > 0) return;
-  const Rehearsal rehearsal = editor_.Rehearse();
-  editor_.Save(*this);
-  Require(editor_.knowledge().texts() == rehearsal.after(), "what was saved is known");
-  Require(Load(team_->key), "a saved team loads");
-  Require(editor_.document().grid() == rehearsal.after(), "a load shows what the rehearsal told");
+void World::SaveAsPreviewed() {
+  if (!editor_.state().is_grid_shown || disk_.open_files > 0) return;
+  const SavePreview preview = editor_.Preview();
+  editor_.Save();
+  Require(editor_.baseline()->texts() == preview.after(), "the baseline follows a save");
+  Require(Load(editor_.state().place.team->key), "a saved team loads");
+  Require(editor_.state().grid == preview.after(), "a load shows what the preview said");
 }
 
 bool World::Export() {
   Forget();
-  const bool succeeded = editor_.ExportTeam(kText);
+  const bool succeeded = editor_.ExportTeam(kText) == ExportResult::kWritten;
   Require(disk_.opened.empty() || disk_.opened == std::vector<std::filesystem::path>{kText},
           "an export opens its file alone");
   return succeeded;
@@ -81,24 +81,21 @@ bool World::Import(std::span<const std::uint8_t> file) {
   if (disk_.open_files == 0) disk_.files[kText].assign(file.begin(), file.end());
   Forget();
   const bool was_held = disk_.open_files > 0;
-  editor_.ImportTeam(kText);
+  const ImportResult result = editor_.ImportTeam(kText);
   RequireNoWrites();
-  // A file with too few lines holds the channel.
-  return !was_held && disk_.open_files == 0;
+  const bool is_read = result.outcome == ImportResult::Outcome::kRead;
+  Require(is_read == (!was_held && disk_.open_files == 0), "a file with too few lines is held");
+  return is_read;
 }
 
 std::string World::GridTexts() const {
   std::string texts;
   for (const Cell cell : kAllCells) {
-    const std::string& text = editor_.document().grid().Text(cell);
-    Require(text.size() <= kLongestField, "no text is longer than a box");
+    const std::string& text = editor_.state().grid.Text(cell);
+    Require(text.size() <= kLongestText, "no text is longer than a box");
     texts += std::to_string(text.size()) + ":" + text;
   }
   return texts;
-}
-
-void World::ShowTeamName(std::string_view display_name) {
-  team_ = std::ranges::find(kTeamDirectory, display_name, &Team::display_name);
 }
 
 void World::Forget() {
@@ -112,9 +109,10 @@ void World::RequireNoWrites() const {
 }
 
 void World::CheckWrites() const {
+  const Team* team = editor_.state().place.team;
   for (const ByteAccess& write : disk_.writes) {
-    Require(team_ != nullptr, "nothing is written before a team is loaded");
-    const std::int64_t place = write.position - team_->base;
+    Require(team != nullptr, "nothing is written before a team is loaded");
+    const std::int64_t place = write.position - team->base;
     Require(place >= 0 && place < 800, "writes stay inside the current record");
     Require(IsSaved(static_cast<int>(place / 32), static_cast<int>(place % 32)),
             "bytes that belong to the game alone are left alone");

@@ -18,7 +18,7 @@ inline constexpr char kText[] = "team.txt";
 void Require(bool holds, const char* promise);
 
 /// An editor with the sample image open in memory, that checks every save.
-class World : private EditorView {
+class World {
  public:
   World();
 
@@ -33,8 +33,8 @@ class World : private EditorView {
   void Save();
 
   /// Saves once and loads again, when a team is shown and the channel is free: the grid has to be
-  /// what a rehearsal told before.
-  void SaveAsRehearsed();
+  /// what a preview said before.
+  void SaveAsPreviewed();
 
   /// Exports the grid; true when it came through. The image must not be touched.
   bool Export();
@@ -43,7 +43,7 @@ class World : private EditorView {
   bool Import(std::span<const std::uint8_t> file);
 
   /// Closes the channel if a failure has left it open.
-  void FreeChannel() { editor_.OpenAnotherImage(std::nullopt, *this); }
+  void FreeChannel() { editor_.CancelDialog(); }
 
   /// All messages so far.
   [[nodiscard]] const std::vector<Message>& messages() const { return messages_.shown; }
@@ -57,14 +57,6 @@ class World : private EditorView {
   Editor& editor() { return editor_; }
 
  private:
-  void ShowTeamName(std::string_view display_name) override;
-  void PrepareView() override { is_shown_ = true; }
-  void ShowIdentity(std::string_view /*byte_text*/) override {}
-  void ShowToolbar() override {}
-  void HideRoster() override { is_shown_ = false; }
-  void ShowNarrow() override {}
-  void RefreshMarks() override {}
-
   /// Empties the disk's records of what was done to it.
   void Forget();
 
@@ -73,8 +65,6 @@ class World : private EditorView {
 
   MemoryDisk disk_;
   RecordingMessages messages_;
-  const Team* team_ = nullptr;
-  bool is_shown_ = false;
   Editor editor_;
 };
 

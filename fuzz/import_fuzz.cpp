@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   world.FreeChannel();
   const std::string imported = world.GridTexts();
   Require(world.Export(), "an export into a writable file succeeds");
-  world.editor().document().Type({morlek::Column::kText1, 0}, "other");
+  world.editor().Type({morlek::Column::kName, 0}, "other");
   const std::vector<std::uint8_t> exported = world.files().at(morlek::fuzz::kText);
   Require(world.Import(exported), "an exported file can be imported");
   Require(world.GridTexts() == imported, "an export and an import restore every text");

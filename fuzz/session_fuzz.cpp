@@ -32,8 +32,8 @@ class Script {
   std::span<const std::uint8_t> bytes_;
 };
 
-/// Plays a session in a world of its own, with or without a rehearsal after every step.
-std::unique_ptr<morlek::fuzz::World> Play(Script script, bool rehearses) {
+/// Plays a session in a world of its own, with or without a preview after every step.
+std::unique_ptr<morlek::fuzz::World> Play(Script script, bool previews) {
   auto world = std::make_unique<morlek::fuzz::World>();
   constexpr int kMostSteps = 40;
   for (int step = 0; step < kMostSteps && !script.is_over(); ++step) {
@@ -44,10 +44,10 @@ std::unique_ptr<morlek::fuzz::World> Play(Script script, bool rehearses) {
         break;
       case 1:
       case 2: {
-        const morlek::Cell cell{static_cast<morlek::Column>(script.Byte() % 14 + 1),
-                                script.Byte() % 25};
+        const morlek::Cell cell =
+            morlek::kAllCells.at((script.Byte() * 256U + script.Byte()) % 350U);
         const auto text = script.Bytes(script.Byte() % 16U);
-        world->editor().document().Type(cell, {text.begin(), text.end()});
+        world->editor().Type(cell, {text.begin(), text.end()});
         break;
       }
       case 3:
@@ -57,16 +57,16 @@ std::unique_ptr<morlek::fuzz::World> Play(Script script, bool rehearses) {
         world->Export();
         break;
       case 5:
-        world->SaveAsRehearsed();
+        world->SaveAsPreviewed();
         break;
       case 6:
-        world->editor().document().Undo();
+        world->editor().Undo();
         break;
       default:
         world->Import(script.Bytes(script.Byte() * std::size_t{4}));
         break;
     }
-    if (rehearses) static_cast<void>(world->editor().Rehearse());
+    if (previews) static_cast<void>(world->editor().Preview());
     // In half of the steps the next one finds what this one has left.
     if (what < 0x80) world->FreeChannel();
   }
@@ -79,8 +79,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using morlek::fuzz::Require;
   const Script script({data, size});
   const auto plain = Play(script, false);
-  const auto rehearsed = Play(script, true);
-  Require(plain->files() == rehearsed->files(), "a rehearsal changes no file");
-  Require(plain->messages() == rehearsed->messages(), "a rehearsal shows no message");
+  const auto previewed = Play(script, true);
+  Require(plain->files() == previewed->files(), "a preview changes no file");
+  Require(plain->messages() == previewed->messages(), "a preview shows no message");
   return 0;
 }

@@ -132,7 +132,7 @@ void PutTeam(std::span<std::uint8_t> record, Dice& dice) {
     slot.Put(offset::kFace, face);
     slot.Put(offset::kBody, PictureCode(dice));
     slot.Put(offset::kLegs, dice.OneOf(kLegs));
-    if (IsPitcher(row)) {
+    if (row >= kBatterCount) {
       PutPitcher(slot, dice, face);
     } else {
       PutBatter(slot, dice, row);

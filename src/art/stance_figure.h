@@ -29,6 +29,8 @@ struct StanceCodes {
   std::optional<int> face;
   std::optional<int> body;
   std::optional<int> legs;
+
+  friend bool operator==(const StanceCodes&, const StanceCodes&) = default;
 };
 
 /// A club dresses its players in these: cap and stockings in the main colour, the cap's bill in the
@@ -36,6 +38,8 @@ struct StanceCodes {
 struct ClubColors {
   QColor main;
   QColor trim;
+
+  friend bool operator==(const ClubColors&, const ClubColors&) = default;
 };
 
 /// Paints the batter put together as large as the target allows, in the middle; his width is

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "codecs/skin_class.h"
+
 namespace morlek {
 
 /// Face, body and legs codes as they are written.
@@ -14,11 +16,10 @@ class AppearanceCodec {
   /// the skin class.
   [[nodiscard]] std::string NormalizeAppearanceCode(std::string_view text);
 
-  /// "0", "3" or "5", by the last code that belongs to a class; empty before the first one.
-  [[nodiscard]] const std::string& skin_class() const { return skin_class_; }
+  [[nodiscard]] const SkinClass& skin_class() const { return skin_class_; }
 
  private:
-  std::string skin_class_;
+  SkinClass skin_class_;
 };
 
 /// The byte that such a text stands for; nothing when it stands for none.

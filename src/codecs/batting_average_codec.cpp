@@ -12,20 +12,22 @@ constexpr std::uint8_t kBattingMarker = 0x30;
 
 }  // namespace
 
-const std::string& BattingAverageCodec::DecodeBattingAverage(std::string_view key) {
+CodecAnswer BattingAverageCodec::DecodeBattingAverage(std::string_view key) {
+  std::optional<std::string> average;
   if (const auto number = NumberOfPairKey(key, kBattingMarker)) {
-    decoded_average_ = ThreeDigits(*number).insert(0, 1, '.');
+    average = ThreeDigits(*number).insert(0, 1, '.');
   }
-  return decoded_average_;
+  return decoded_average_.Answer(average);
 }
 
-const std::string& BattingAverageCodec::EncodeBattingAverage(std::string_view text) {
+CodecAnswer BattingAverageCodec::EncodeBattingAverage(std::string_view text) {
+  std::optional<std::string> low_byte;
   if (text.starts_with('.')) {
     if (const auto number = NumberOfThreeDigits(text.substr(1))) {
-      encoded_low_byte_ = ByteToTwoDigits(static_cast<std::uint8_t>(*number % 256));
+      low_byte = ByteToTwoDigits(static_cast<std::uint8_t>(*number % 256));
     }
   }
-  return encoded_low_byte_;
+  return encoded_low_byte_.Answer(low_byte);
 }
 
 std::uint8_t BattingAverageCodec::HighByte(std::string_view text) {

@@ -18,17 +18,19 @@ std::optional<int> Hundredths(std::string_view text) {
 
 }  // namespace
 
-const std::string& EarnedRunAverageCodec::DecodeEarnedRunAverage(std::string_view key) {
-  if (const auto number = NumberOfPairKey(key, kEraMarker)) decoded_digits_ = ThreeDigits(*number);
-  return decoded_digits_;
+CodecAnswer EarnedRunAverageCodec::DecodeEarnedRunAverage(std::string_view key) {
+  std::optional<std::string> digits;
+  if (const auto number = NumberOfPairKey(key, kEraMarker)) digits = ThreeDigits(*number);
+  return decoded_digits_.Answer(digits);
 }
 
-const std::string& EarnedRunAverageCodec::EncodeEarnedRunAverage(std::string_view text) {
+CodecAnswer EarnedRunAverageCodec::EncodeEarnedRunAverage(std::string_view text) {
+  std::optional<std::string> low_byte;
   if (const auto number = Hundredths(text)) {
     const auto low = static_cast<std::uint8_t>(*number % 256);
-    encoded_low_byte_ = *number < 256 ? ByteToText(low) : ByteToTwoDigits(low);
+    low_byte = *number < 256 ? ByteToText(low) : ByteToTwoDigits(low);
   }
-  return encoded_low_byte_;
+  return encoded_low_byte_.Answer(low_byte);
 }
 
 std::uint8_t EarnedRunAverageCodec::HighByte(std::string_view text) {

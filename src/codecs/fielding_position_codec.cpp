@@ -18,19 +18,20 @@ constexpr std::array<std::size_t, kPositions.size()> kFansOrder = {0, 1, 8, 7,  
 
 }  // namespace
 
-const std::string& FieldingPositionCodec::DecodeFieldingPosition(std::uint8_t code) {
+CodecAnswer FieldingPositionCodec::DecodeFieldingPosition(std::uint8_t code) {
+  std::optional<std::string> position;
   const std::size_t place = code / 2U;
-  if (code % 2 == 0 && place < kPositions.size()) decoded_position_ = kPositions.at(place);
-  return decoded_position_;
+  if (code % 2 == 0 && place < kPositions.size()) position = kPositions.at(place);
+  return decoded_position_.Answer(position);
 }
 
-const std::string& FieldingPositionCodec::EncodeFieldingPosition(std::string_view text) {
+CodecAnswer FieldingPositionCodec::EncodeFieldingPosition(std::string_view text) {
+  std::optional<std::string> code;
   const auto found = std::ranges::find(kPositions, UpperCase(text));
   if (found != kPositions.end()) {
-    encoded_position_code_ =
-        ByteToTwoDigits(static_cast<std::uint8_t>(2 * (found - kPositions.begin())));
+    code = ByteToTwoDigits(static_cast<std::uint8_t>(2 * (found - kPositions.begin())));
   }
-  return encoded_position_code_;
+  return encoded_position_code_.Answer(code);
 }
 
 std::string FieldingPositionCodec::Abbreviations() {

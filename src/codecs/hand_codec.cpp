@@ -1,5 +1,7 @@
 #include "codecs/hand_codec.h"
 
+#include <algorithm>
+#include <optional>
 #include <span>
 
 #include "codecs/code_page.h"
@@ -33,16 +35,16 @@ constexpr std::array<CodeText, 9> kMarks = {{{0x00, ""},
 constexpr std::array<TextCode, 6> kMarkCodes = {
     {{"", "00"}, {"S", "01"}, {"S<", "21"}, {"S>", "11"}, {"<", "20"}, {">", "10"}}};
 
-void DecodeInto(std::string& result, std::span<const CodeText> table, std::uint8_t byte) {
-  for (const CodeText& row : table) {
-    if (row.byte == byte) result = row.text;
-  }
+std::optional<std::string> TextOf(std::uint8_t byte, std::span<const CodeText> table) {
+  const auto found = std::ranges::find(table, byte, &CodeText::byte);
+  if (found == table.end()) return std::nullopt;
+  return std::string(found->text);
 }
 
-void EncodeInto(std::string& result, std::span<const TextCode> table, std::string_view text) {
-  for (const TextCode& row : table) {
-    if (row.text == text) result = row.byte_text;
-  }
+std::optional<std::string> ByteTextOf(std::string_view text, std::span<const TextCode> table) {
+  const auto found = std::ranges::find(table, text, &TextCode::text);
+  if (found == table.end()) return std::nullopt;
+  return std::string(found->byte_text);
 }
 
 std::string ListOf(std::span<const TextCode> table) {
@@ -58,24 +60,21 @@ bool IsHand(char letter) { return letter == 'R' || letter == 'L'; }
 
 }  // namespace
 
-const std::string& BattingSideCodec::DecodeBattingSide(std::uint8_t byte) {
-  DecodeInto(decoded_side_, kSides, byte);
-  return decoded_side_;
+CodecAnswer BattingSideCodec::DecodeBattingSide(std::uint8_t byte) {
+  return decoded_side_.Answer(TextOf(byte, kSides));
 }
 
-const std::string& BattingSideCodec::EncodeBattingSide(int slot, std::string_view text) {
-  std::string& encoded = encoded_sides_.at(static_cast<std::size_t>(slot));
-  EncodeInto(encoded, kSideCodes, UpperCase(text));
-  return encoded;
+CodecAnswer BattingSideCodec::EncodeBattingSide(int slot, std::string_view text) {
+  LastResult& encoded = encoded_sides_.at(static_cast<std::size_t>(slot));
+  return encoded.Answer(ByteTextOf(UpperCase(text), kSideCodes));
 }
 
 std::string BattingSideCodec::Letters() { return ListOf(kSideCodes); }
 
 std::string PitcherMarks() { return ListOf(std::span(kMarkCodes).subspan(1)); }
 
-const std::string& PitcherMarksCodec::DecodePitcherMarks(std::uint8_t byte) {
-  DecodeInto(decoded_marks_, kMarks, byte);
-  return decoded_marks_;
+CodecAnswer PitcherMarksCodec::DecodePitcherMarks(std::uint8_t byte) {
+  return decoded_marks_.Answer(TextOf(byte, kMarks));
 }
 
 std::string DecodeThrowingHand(std::uint8_t byte) { return byte < 0x10 ? "R" : "L"; }
@@ -84,22 +83,21 @@ std::string EncodePitcherSFlag(std::string_view text) {
   return text.size() > 1 && UpperCase(text[1]) == 'S' ? "01" : "00";
 }
 
-const std::string& PitcherHandEncoder::EncodeHandAndFace(std::string_view text,
-                                                         std::string_view face_code) {
+CodecAnswer PitcherHandEncoder::EncodeHandAndFace(std::string_view text,
+                                                  std::string_view face_code) {
+  std::optional<std::string> code;
   const char letter = text.empty() ? '\0' : UpperCase(text.front());
-  if (IsHand(letter)) {
-    hand_and_face_code_.assign(1, letter == 'R' ? '0' : '1');
-    hand_and_face_code_ += face_code.substr(0, 1);
-  }
-  return hand_and_face_code_;
+  if (IsHand(letter)) code = (letter == 'R' ? "0" : "1") + std::string(face_code.substr(0, 1));
+  return hand_and_face_code_.Answer(code);
 }
 
-const std::string& PitcherHandEncoder::EncodeMarks(std::string_view text) {
+CodecAnswer PitcherHandEncoder::EncodeMarks(std::string_view text) {
+  std::optional<std::string> code;
   const std::string capitals = UpperCase(text);
   if (!capitals.empty() && IsHand(capitals.front())) {
-    EncodeInto(marks_code_, kMarkCodes, std::string_view(capitals).substr(1));
+    code = ByteTextOf(std::string_view(capitals).substr(1), kMarkCodes);
   }
-  return marks_code_;
+  return marks_code_.Answer(code);
 }
 
 }  // namespace morlek

@@ -14,35 +14,32 @@ constexpr std::uint8_t kSmallCCode = 0x36;
 
 }  // namespace
 
-const std::string& NameLetterCodec::DecodeNameLetter(std::uint8_t code) {
+CodecAnswer NameLetterCodec::DecodeNameLetter(std::uint8_t code) {
+  std::optional<std::string> letter;
   if (code == kBlankCode || code == kOtherBlankCode) {
-    decoded_letter_.clear();
+    letter = "";
   } else if (code >= kCodeOfA && code < kCodeOfA + kAlphabet.size()) {
-    decoded_letter_ = kAlphabet[static_cast<std::size_t>(code - kCodeOfA)];
+    letter = kAlphabet.substr(static_cast<std::size_t>(code - kCodeOfA), 1);
   } else if (code == kSmallCCode) {
-    decoded_letter_ = 'c';
+    letter = "c";
   }
-  return decoded_letter_;
+  return decoded_letter_.Answer(letter);
 }
 
-const std::string& NameLetterCodec::EncodeNameLetter(std::string_view character,
-                                                     MessagePort& messages) {
+CodecAnswer NameLetterCodec::EncodeNameLetter(std::string_view character) {
   // A small "c" becomes a capital like every letter, so its own code is never written.
   const std::string capital = UpperCase(character);
   const std::size_t letter =
       capital.empty() ? std::string_view::npos : kAlphabet.find(capital.front());
+  std::optional<std::string> code;
   if (letter != std::string_view::npos) {
-    encoded_letter_code_ = ByteToTwoDigits(static_cast<std::uint8_t>(kCodeOfA + letter));
+    code = ByteToTwoDigits(static_cast<std::uint8_t>(kCodeOfA + letter));
   } else if (capital == ".") {
-    encoded_letter_code_.clear();
+    code = "";
   } else if (capital == " ") {
-    encoded_letter_code_ = ByteToTwoDigits(kBlankCode);
-  } else {
-    messages.Show(
-        {"You've used a letter that is not recognized by MORLEK EDITOR, change the letter and "
-         "save your edits again."});
+    code = ByteToTwoDigits(kBlankCode);
   }
-  return encoded_letter_code_;
+  return encoded_letter_code_.Answer(code);
 }
 
 }  // namespace morlek

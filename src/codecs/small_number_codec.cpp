@@ -19,22 +19,24 @@ std::optional<std::uint8_t> ShownNumber(std::string_view text) {
 
 }  // namespace
 
-const std::string& SmallNumberCodec::DecodeSmallNumber(int slot) {
+CodecAnswer SmallNumberCodec::DecodeSmallNumber(int slot) {
+  std::optional<std::string> text;
   const std::uint8_t number = number_bytes.at(static_cast<std::size_t>(slot));
-  if (number <= kLargestSmallNumber) number_text_ = std::to_string(number);
-  return number_text_;
+  if (number <= kLargestSmallNumber) text = std::to_string(number);
+  return number_text_.Answer(text);
 }
 
-const std::string& SmallNumberCodec::EncodeSmallNumber(int slot) {
+CodecAnswer SmallNumberCodec::EncodeSmallNumber(int slot) {
+  std::optional<std::string> text;
   const std::uint8_t number = number_bytes.at(static_cast<std::size_t>(slot));
-  if (number <= kLargestSmallNumber) number_text_ = ByteToTwoDigits(number);
-  return number_text_;
+  if (number <= kLargestSmallNumber) text = ByteToTwoDigits(number);
+  return number_text_.Answer(text);
 }
 
-const std::string& SmallNumberCodec::EncodeUniformNumber(int slot, std::string_view text) {
-  std::string& encoded = encoded_uniform_numbers_.at(static_cast<std::size_t>(slot));
-  if (const auto number = ShownNumber(text)) encoded = ByteToTwoDigits(*number);
-  return encoded;
+CodecAnswer SmallNumberCodec::EncodeUniformNumber(int slot, std::string_view text) {
+  std::optional<std::string> byte_text;
+  if (const auto number = ShownNumber(text)) byte_text = ByteToTwoDigits(*number);
+  return encoded_uniform_numbers_.at(static_cast<std::size_t>(slot)).Answer(byte_text);
 }
 
 }  // namespace morlek

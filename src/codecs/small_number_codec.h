@@ -2,9 +2,9 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
+#include "codecs/codec_answer.h"
 #include "image/record_layout.h"
 
 namespace morlek {
@@ -13,27 +13,27 @@ namespace morlek {
 inline constexpr std::uint8_t kLargestSmallNumber = 200;
 
 /// Whole numbers from 0 to 200 in one byte: uniform numbers and counting statistics. Larger bytes
-/// have no row, and the results below then stay as they were.
+/// are unknown.
 class SmallNumberCodec {
  public:
   /// The number byte buffer: the input of DecodeSmallNumber and EncodeSmallNumber, one byte a slot.
   /// Loader and saver share it, so a statistic that is no byte is saved as what it last held.
   std::array<std::uint8_t, kSlotCount> number_bytes{};
 
-  /// The number in the buffer at `slot` (0 to 24) in decimal. Its result is shared with
-  /// EncodeSmallNumber and kept for the whole run.
-  const std::string& DecodeSmallNumber(int slot);
+  /// The number in the buffer at `slot` (0 to 24) in decimal. Its last result is that of
+  /// EncodeSmallNumber, too.
+  CodecAnswer DecodeSmallNumber(int slot);
 
-  /// The number in the buffer at `slot` as a byte text of two digits; shares its result likewise.
-  const std::string& EncodeSmallNumber(int slot);
+  /// The number in the buffer at `slot` as a byte text of two digits; shares its last result.
+  CodecAnswer EncodeSmallNumber(int slot);
 
-  /// The byte text of a uniform number that is written exactly as it is shown ("07" is not). A text
-  /// that is none gives what this slot encoded last, whichever team that was.
-  const std::string& EncodeUniformNumber(int slot, std::string_view text);
+  /// The byte text of a uniform number that is written exactly as it is shown ("07" is not). Each
+  /// slot has a last result of its own, whichever team it came from.
+  CodecAnswer EncodeUniformNumber(int slot, std::string_view text);
 
  private:
-  std::string number_text_;
-  std::array<std::string, kSlotCount> encoded_uniform_numbers_;
+  LastResult number_text_;
+  std::array<LastResult, kSlotCount> encoded_uniform_numbers_;
 };
 
 }  // namespace morlek

@@ -1,149 +1,286 @@
 #include "editor/editor.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "codecs/code_page.h"
 #include "codecs/hex_text.h"
-#include "image/failure.h"
-#include "team/team_saver.h"
 #include "textfile/pasted_block.h"
-#include "textfile/team_export.h"
-#include "textfile/team_import.h"
 
 namespace morlek {
 namespace {
 
 constexpr char kImageFailureTitle[] = "Morlek Editor";
 
+/// Reports what of a name cannot be saved in a message box, which keeps the save waiting.
+class NameReporter : public EncodingListener {
+ public:
+  explicit NameReporter(MessagePort& messages) : messages_(messages) {}
+
+  void UnknownLetter(int /*row*/, std::string_view /*letter*/) override {
+    messages_.Show(
+        {"You've used a letter that is not recognized by MORLEK EDITOR, change the letter and "
+         "save your edits again."});
+  }
+  void NameTooLong(int /*row*/) override {
+    messages_.Show({"You are only allowed 10 player letters per name counting the period."});
+  }
+
+ private:
+  MessagePort& messages_;
+};
+
 }  // namespace
 
 Editor::Editor(MessagePort& messages, FileOpener opener)
     : messages_(messages), channel_(std::move(opener)) {}
 
-void Editor::OpenFirstImage(const std::optional<std::filesystem::path>& chosen, EditorView& view) {
-  const std::filesystem::path path = chosen.value_or(std::filesystem::path());
-  std::uint8_t identity = 0;
-  try {
-    identity = image_.ReadIdentityByte(path);
-  } catch (const OperationFailed&) {
-    image_.Close();
-  }
-  if (Judge(path, identity, view)) {
-    view.ShowToolbar();
-    return;
-  }
-  image_.Close();
-  messages_.Show({"You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
+Editor::Subscription Editor::Subscribe(Observer observer) {
+  auto subscription = std::make_shared<const Observer>(std::move(observer));
+  std::erase_if(observers_, [](const auto& each) { return each.expired(); });
+  observers_.emplace_back(subscription);
+  return subscription;
 }
 
-void Editor::OpenAnotherImage(const std::optional<std::filesystem::path>& chosen,
-                              EditorView& view) {
-  if (!chosen) {
-    image_.Close();
-    return;
+OpenResult Editor::OpenFirstImage(const std::filesystem::path& path) {
+  const std::optional<std::uint8_t> identity = image_.ReadIdentityByte(path);
+  const bool accepted = Accept(path, identity.value_or(0));
+  image_.Close();
+  const OpenResult result = accepted   ? OpenResult::kOpened
+                            : identity ? OpenResult::kRefused
+                                       : OpenResult::kNotOpened;
+  EndFileStep(result);
+  if (!accepted) {
+    messages_.Show({"You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
   }
-  std::uint8_t identity = 0;
-  try {
-    identity = image_.ReadIdentityByte(*chosen);
-  } catch (const OperationFailed&) {
-    // The image that was current stays so, and nobody is told.
-    return;
+  return result;
+}
+
+OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
+  const std::optional<std::uint8_t> identity = image_.ReadIdentityByte(path);
+  if (!identity) {
+    // The image that was current stays so, and nothing is reported.
+    EndFileStep(OpenResult::kNotOpened);
+    return OpenResult::kNotOpened;
   }
-  if (!Judge(*chosen, identity, view)) {
+  if (!Accept(path, *identity)) {
     image_.Close();
+    EndFileStep(OpenResult::kRefused);
     messages_.Show({"This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
-    return;
+    return OpenResult::kRefused;
   }
   // The grid keeps its texts, but they are no longer this image's.
-  knowledge_.Forget();
-  document_.ForgetHistory();
-  view.ShowToolbar();
-  view.HideRoster();
-  view.ShowNarrow();
+  history_.Clear();
+  state_.is_grid_shown = false;
+  baseline_ = nullptr;
+  RefreshMarks();
+  state_.layout = Layout::kNarrow;
+  EndFileStep(OpenResult::kOpened, {.layout_set = true});
+  return OpenResult::kOpened;
 }
 
-bool Editor::Judge(const std::filesystem::path& path, std::uint8_t identity, EditorView& view) {
-  const std::string text = ByteToText(identity);
-  view.ShowIdentity(text);
-  if (text != ByteToText(kIdentityByte)) return false;
-  image_.SetPath(path);
+void Editor::CancelDialog() {
+  image_.Close();
+  EndFileStep({});
+}
+
+bool Editor::Accept(const std::filesystem::path& path, std::uint8_t identity) {
+  state_.identity = ByteToText(identity);
+  if (state_.identity != ByteToText(kIdentityByte)) return false;
+  state_.place.image = path;
+  state_.picked = nullptr;
   return true;
 }
 
-void Editor::LoadTeam(std::string_view toolbar_key, EditorView& view) {
-  const bool was_held = channel_.is_open_for_text();
-  RosterGrid grid = document_.grid();
-  try {
-    const RecordBytes read = TeamLoader(image_, kept_).Load(toolbar_key, grid, view);
-    knowledge_.LearnLoad(read, grid);
-    document_.Restart(grid);
-  } catch (const OperationFailed& failure) {
-    knowledge_.Forget();
-    document_.Restart(grid);
-    messages_.Show({was_held ? "The team could not be loaded, because a team file was still "
-                               "open since an import or export failed. It is closed now, so pick "
-                               "the team again."
-                             : failure.what(),
-                    kProgramTitle, Message::Icon::kCritical});
-    image_.Close();
-    view.HideRoster();
+LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
+  const Team* team = FindTeam(toolbar_key);
+  if (team != nullptr) {
+    state_.picked = team;
+  } else {
+    team = state_.place.team;
   }
+  // A load that finds a file open fails, reports it and closes the file.
+  const bool was_held = channel_.is_open_for_text();
+  if (std::exchange(state_.is_file_held, false)) Publish();
+
+  RosterGrid grid = state_.grid;
+  const LoadResult result = morlek::LoadTeam(image_, LocationOf(team), codec_state_, grid);
+  state_.outcome = result;
+  history_.Clear();
+  baseline_ = nullptr;
+  if (result.outcome == LoadResult::Outcome::kNotOpened) {
+    AbandonLoad(was_held ? "The team could not be loaded, because a team file was still open since "
+                           "an import or export failed. It is closed now, so pick the team again."
+                         : result.failure);
+    return result;
+  }
+
+  const bool loaded = result.outcome == LoadResult::Outcome::kLoaded;
+  state_.place.team = team;
+  state_.is_grid_shown = true;
+  state_.layout = Layout::kNarrow;
+  if (loaded) {
+    baseline_ =
+        &baselines_.insert_or_assign(state_.place, Baseline(result.read, grid)).first->second;
+  }
+  const GridChange texts = ChangeBetween(state_.grid, grid);
+  state_.grid = std::move(grid);
+  RefreshMarks();
+  Publish({.texts = texts, .loaded = loaded, .layout_set = true});
+  if (!loaded) AbandonLoad(result.failure);
+  return result;
 }
 
-void Editor::Save(EditorView& view) {
-  const Rehearsal rehearsal = Rehearse();
-  const auto settled = [&](const SavedBytes& saved) {
-    knowledge_.LearnSave(saved, rehearsal);
-    view.RefreshMarks();
-  };
-  TeamSaver(image_, kept_, messages_).Save(document_.grid(), settled);
+void Editor::AbandonLoad(const std::string& failure) {
+  messages_.Show({failure, kProgramTitle, Message::Icon::kCritical});
+  image_.Close();
+  state_.is_grid_shown = false;
+  RefreshMarks();
+  Publish();
 }
 
-void Editor::ImportTeam(const std::optional<std::filesystem::path>& chosen) {
-  if (!chosen) {
-    image_.Close();
+void Editor::LoadTeamBeside(int places) {
+  constexpr int kTeams = kTeamDirectory.size();
+  int place = 0;
+  if (state_.picked != nullptr) {
+    place = (static_cast<int>(PlaceOf(*state_.picked)) + places + kTeams) % kTeams;
+  } else if (places < 0) {
     return;
   }
-  RosterGrid grid = document_.grid();
-  try {
-    ImportTeamData(channel_, *chosen, grid);
-  } catch (const OperationFailed&) {
-    // An import that fails ends where it is, and nobody is told.
-  }
-  document_.Replace(grid);
+  LoadTeam(kTeamDirectory.at(static_cast<std::size_t>(place)).key);
 }
 
-bool Editor::ExportTeam(const std::optional<std::filesystem::path>& chosen) {
-  if (!chosen) {
-    image_.Close();
-    return false;
-  }
-  try {
-    ExportTeamData(channel_, *chosen, document_.grid());
-  } catch (const OperationFailed&) {
-    // An export that fails ends where it is, and nobody is told.
-    return false;
-  }
-  return true;
+SaveResult Editor::Save() {
+  NameReporter reporter(messages_);
+  const SaveResult result =
+      SaveTeam(image_, LocationOf(state_.place.team), state_.grid, codec_state_, reporter);
+  if (baseline_ != nullptr) baseline_->FollowSave(result, *preview_);
+  RefreshMarks();
+  EndFileStep(result);
+  if (!result.end_row) messages_.Show({"Your changes have been saved."});
+  return result;
 }
 
-void Editor::TakeFile(const std::filesystem::path& path, EditorView& view) {
+ImportResult Editor::ImportTeam(const std::filesystem::path& path) {
+  RosterGrid grid = state_.grid;
+  const ImportResult result = ImportTeamData(channel_, path, grid);
+  EndFileStep(result, {.texts = Replace(grid)});
+  return result;
+}
+
+ExportResult Editor::ExportTeam(const std::filesystem::path& path) {
+  const ExportResult result = ExportTeamData(channel_, path, state_.grid);
+  EndFileStep(result);
+  return result;
+}
+
+void Editor::TakeFile(const std::filesystem::path& path) {
   if (UpperCase(path.extension().string()) == ".TXT") {
     ImportTeam(path);
   } else {
-    OpenAnotherImage(path, view);
+    OpenAnotherImage(path);
   }
 }
 
-void Editor::PasteBlock(Cell start, std::string_view block) {
-  document_.Replace(WithBlock(document_.grid(), start, block));
+void Editor::Visit(Cell cell) {
+  if (!IsFeature(cell.column)) return;
+  state_.stance_row = cell.row;
+  state_.chooser = cell.column;
+  state_.layout = Layout::kWide;
+  Publish({.layout_set = true});
 }
 
-Rehearsal Editor::Rehearse() const { return {document_.grid(), kept_, knowledge_.bytes()}; }
+void Editor::Type(Cell cell, std::string text) {
+  if (text.size() > kLongestText) text.resize(kLongestText);
+  if (text == state_.grid.Text(cell)) return;
+  const CellChange typed = {cell, state_.grid.Text(cell), std::move(text)};
+  history_.AddTyping(typed);
+  Apply({typed});
+  Publish({.texts = {typed}});
+}
 
-GridMarks Editor::Marks() const {
-  if (!knowledge_.is_known()) return {};
-  return {document_.grid(), Rehearse(), knowledge_};
+void Editor::Pick(Column feature, std::string code_text) {
+  RosterGrid grid = state_.grid;
+  const Cell cell{feature, state_.stance_row};
+  grid.SetText(cell, std::move(code_text));
+  Publish({.texts = Replace(grid), .picked_into = cell});
+}
+
+void Editor::PasteBlock(Cell start, std::string_view block) {
+  const GridChange texts = Replace(WithBlock(state_.grid, start, block));
+  if (!texts.empty()) Publish({.texts = texts});
+}
+
+std::optional<Cell> Editor::Undo() {
+  const std::optional<GridChange> texts = history_.Undo();
+  if (!texts) return std::nullopt;
+  Apply(*texts);
+  Publish({.texts = *texts});
+  return texts->front().cell;
+}
+
+std::optional<Cell> Editor::Redo() {
+  const std::optional<GridChange> texts = history_.Redo();
+  if (!texts) return std::nullopt;
+  Apply(*texts);
+  Publish({.texts = *texts});
+  return texts->front().cell;
+}
+
+void Editor::Minimize() {
+  state_.layout = Layout::kNarrow;
+  Publish({.layout_set = true});
+}
+
+SavePreview Editor::Preview() const {
+  return {state_.grid, codec_state_, baseline_ == nullptr ? RecordBytes() : baseline_->bytes()};
+}
+
+RecordLocation Editor::LocationOf(const Team* team) const {
+  RecordLocation location{state_.place.image, std::nullopt};
+  if (team != nullptr) location.base = team->base;
+  return location;
+}
+
+GridChange Editor::Replace(const RosterGrid& grid) {
+  history_.EndVisit();
+  GridChange texts = ChangeBetween(state_.grid, grid);
+  if (!texts.empty()) history_.Add(texts);
+  Apply(texts);
+  return texts;
+}
+
+void Editor::Apply(const GridChange& texts) {
+  if (texts.empty()) return;
+  for (const CellChange& part : texts) state_.grid.SetText(part.cell, part.after);
+  RefreshMarks();
+}
+
+void Editor::RefreshMarks() {
+  state_.is_loaded = baseline_ != nullptr;
+  if (baseline_ == nullptr) {
+    preview_.reset();
+    state_.marks = {};
+    return;
+  }
+  preview_ = Preview();
+  state_.marks = GridMarks(state_.grid, *preview_, *baseline_);
+}
+
+void Editor::EndFileStep(StepOutcome outcome, const StateChange& change) {
+  state_.outcome = std::move(outcome);
+  state_.is_file_held = channel_.is_open();
+  Publish(change);
+}
+
+void Editor::Publish(const StateChange& change) {
+  state_.can_undo = history_.can_undo();
+  state_.can_redo = history_.can_redo();
+  // An observer may end a subscription, its own too, or begin one.
+  const std::vector<std::weak_ptr<const Observer>> observers = observers_;
+  for (const std::weak_ptr<const Observer>& each : observers) {
+    if (const Subscription observer = each.lock()) (*observer)(state_, change);
+  }
 }
 
 }  // namespace morlek

@@ -1,93 +1,140 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
-#include "codecs/message_port.h"
-#include "editor/editor_view.h"
-#include "editor/grid_marks.h"
-#include "editor/image_knowledge.h"
+#include "editor/baseline.h"
+#include "editor/editor_state.h"
+#include "editor/history.h"
+#include "editor/message_port.h"
 #include "image/cartridge_image.h"
 #include "image/channel.h"
-#include "team/kept_state.h"
-#include "team/rehearsal.h"
-#include "team/roster_document.h"
+#include "team/codec_state.h"
 
 namespace morlek {
 
-/// The program without a window: the one file channel, the current image, what the codecs keep, the
-/// roster, and every step that a person can take. It outlives the windows that show it.
-/// A path that is nothing is a file dialog that was cancelled.
+/// The program without a window: the one file channel, what the codecs keep, how things stand, and
+/// every step that a person can take. Each step ends in one notification of all observers, or in
+/// none when it changed nothing. Before a message that a step shows, observers are notified of what
+/// the person is to see behind it.
 class Editor {
  public:
+  using Observer = std::function<void(const EditorState& state, const StateChange& change)>;
+
+  /// Keeps an observer subscribed; destroying it, before or after the editor, ends that.
+  using Subscription = std::shared_ptr<const Observer>;
+
   /// No image, no team, an empty grid. The message port outlives the object; `opener` opens files.
   explicit Editor(MessagePort& messages, FileOpener opener = OpenFile);
 
-  /// The first file of the run: takes it as the image when its identity byte is right, else tells
-  /// that an image must be opened. No file, and one that cannot be opened or read, count as wrong.
-  void OpenFirstImage(const std::optional<std::filesystem::path>& chosen, EditorView& view);
+  [[nodiscard]] const EditorState& state() const { return state_; }
 
-  /// A later file, likewise. A file that cannot be opened or read changes nothing and is not told;
-  /// one that was opened before its reading failed keeps channel 1. Cancelling frees channel 1.
-  void OpenAnotherImage(const std::optional<std::filesystem::path>& chosen, EditorView& view);
+  /// Calls `observer` after every change, as long as the subscription lives.
+  [[nodiscard]] Subscription Subscribe(Observer observer);
 
-  /// Loads the team with this toolbar key into the grid. A failure is told, and the grid hidden,
-  /// with what has been read so far in it.
-  void LoadTeam(std::string_view toolbar_key, EditorView& view);
+  /// The first file of the run, empty when the dialog was cancelled: becomes the image when its
+  /// identity byte is right, else a message says that an image must be opened.
+  OpenResult OpenFirstImage(const std::filesystem::path& path);
 
-  /// Saves the grid into the image and says so, whatever could be written, with the marks already
-  /// fresh; a name that is too long ends the save where it stands, and is told instead.
-  void Save(EditorView& view);
+  /// A later file, likewise. A file that cannot be opened or read changes nothing and is not
+  /// reported; one that was opened before its reading failed keeps channel 1.
+  OpenResult OpenAnotherImage(const std::filesystem::path& path);
 
-  /// Replaces the grid by a team data file, in one step. A failure is not told: a file that cannot
-  /// be opened changes nothing, one that ends too soon leaves the grid in part filled, and channel
-  /// 1 held. Cancelling frees channel 1.
-  void ImportTeam(const std::optional<std::filesystem::path>& chosen);
+  /// A later file dialog was cancelled: closes channel 1, whatever is open on it.
+  void CancelDialog();
 
-  /// Writes the grid to a team data file; true when that came through. A failure is not told, and
-  /// holds channel 1 when it came while the file was written. Cancelling frees channel 1.
-  [[nodiscard]] bool ExportTeam(const std::optional<std::filesystem::path>& chosen);
+  /// Loads the team with this toolbar key into the grid; an unknown key loads the current team
+  /// again. A failure is reported in a message, and the grid hidden, with what has been read in it.
+  LoadResult LoadTeam(std::string_view toolbar_key);
+
+  /// Loads the team so many places further in the directory, going round. Before any was picked,
+  /// forwards is the first one, and backwards does nothing.
+  void LoadTeamBeside(int places);
+
+  /// Saves the grid into the image and says so in a message, whatever could be written; a name that
+  /// is too long ends the save where it stands, and a message says that instead.
+  SaveResult Save();
+
+  /// Replaces the grid by a team data file, in one step. A failure is not reported.
+  ImportResult ImportTeam(const std::filesystem::path& path);
+
+  /// Writes the grid to a team data file. A failure is not reported.
+  ExportResult ExportTeam(const std::filesystem::path& path);
 
   /// Takes a file that was given without a question as if it had been chosen: a ".txt" to import,
   /// anything else as another image.
-  void TakeFile(const std::filesystem::path& path, EditorView& view);
+  void TakeFile(const std::filesystem::path& path);
+
+  /// The focus came to a cell: what is typed from now on is a step of its own.
+  void EndVisit() { history_.EndVisit(); }
+
+  /// The box of a cell was visited: for a features column shows its chooser in the wide layout and
+  /// makes the cell's row the stance row.
+  void Visit(Cell cell);
+
+  /// Puts what was typed into a cell, truncated to kLongestText.
+  void Type(Cell cell, std::string text);
+
+  /// Puts the code of a picked picture into a features column of the stance row, in one step.
+  void Pick(Column feature, std::string code_text);
 
   /// Lays a pasted block of cells into the grid from a cell on, in one step.
   void PasteBlock(Cell start, std::string_view block);
 
-  /// The roster, in which a window types, picks, undoes and redoes.
-  [[nodiscard]] RosterDocument& document() { return document_; }
-  [[nodiscard]] const RosterDocument& document() const { return document_; }
+  /// Takes the last step back, or makes it again. Gives the first cell that changed, or nothing
+  /// when there was no such step.
+  std::optional<Cell> Undo();
+  std::optional<Cell> Redo();
+
+  /// Asks for the narrow layout.
+  void Minimize();
 
   /// What SAVE would make of the grid as it stands.
-  [[nodiscard]] Rehearsal Rehearse() const;
+  [[nodiscard]] SavePreview Preview() const;
 
-  /// What a person should know of each cell before pressing SAVE; no cell is marked before a team
-  /// has been loaded.
-  [[nodiscard]] GridMarks Marks() const;
-
-  /// What the image is known to hold of the team in the grid.
-  [[nodiscard]] const ImageKnowledge& knowledge() const { return knowledge_; }
-
-  /// Whether channel 1 is open. When no step is under way, one that failed has left it so, and
-  /// whichever step comes next cannot open its file.
-  [[nodiscard]] bool IsFileOpen() const { return channel_.is_open(); }
-
-  /// The current image; empty before the first one.
-  [[nodiscard]] const std::filesystem::path& image_path() const { return image_.path(); }
+  /// What the image is known to hold of the team in the grid; null before a load came through.
+  [[nodiscard]] const Baseline* baseline() const { return baseline_; }
 
  private:
-  /// Takes the file as the image when its identity byte is right, and shows what it is either way.
-  [[nodiscard]] bool Judge(const std::filesystem::path& path, std::uint8_t identity,
-                           EditorView& view);
+  /// Makes the file the current image when its identity byte is right.
+  [[nodiscard]] bool Accept(const std::filesystem::path& path, std::uint8_t identity);
+
+  [[nodiscard]] RecordLocation LocationOf(const Team* team) const;
+
+  /// Ends a load that failed: reports why, closes channel 1 and hides the grid.
+  void AbandonLoad(const std::string& failure);
+
+  /// Replaces the grid in one step of the history; nothing when no text changes.
+  [[nodiscard]] GridChange Replace(const RosterGrid& grid);
+
+  /// Puts the texts of a change into the grid, and works out the marks afresh when there are any.
+  void Apply(const GridChange& texts);
+  void RefreshMarks();
+
+  /// Ends a step that had to do with a file.
+  void EndFileStep(StepOutcome outcome, const StateChange& change = {});
+
+  void Publish(const StateChange& change = {});
 
   MessagePort& messages_;
   Channel channel_;
   CartridgeImage image_{channel_};
-  KeptState kept_;
-  RosterDocument document_;
-  ImageKnowledge knowledge_;
+  CodecState codec_state_;
+  EditorState state_;
+  History history_;
+  // Of all places that were loaded in this run.
+  std::map<Place, Baseline> baselines_;
+  // That of the team in the grid, and what SAVE would make of the grid; null and nothing while no
+  // load has come through.
+  Baseline* baseline_ = nullptr;
+  std::optional<SavePreview> preview_;
+  std::vector<std::weak_ptr<const Observer>> observers_;
 };
 
 }  // namespace morlek

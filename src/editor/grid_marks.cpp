@@ -11,7 +11,7 @@ namespace morlek {
 namespace {
 
 /// The text without what makes no difference to the image.
-std::string Essence(Cell cell, std::string_view text) {
+std::string Canonical(Cell cell, std::string_view text) {
   if (IsFeature(cell.column)) {
     const std::size_t zeros = std::min(text.find_first_not_of('0'), text.size());
     // A zero alone stays.
@@ -21,46 +21,35 @@ std::string Essence(Cell cell, std::string_view text) {
 }
 
 bool IsSame(Cell cell, const std::string& one, const std::string& other) {
-  return one == other || Essence(cell, one) == Essence(cell, other);
+  return one == other || Canonical(cell, one) == Canonical(cell, other);
 }
-
-/// The cells as they stand on the screen.
-constexpr std::array<Cell, kCellCount> kCellsOnScreen = [] {
-  std::array<Cell, kCellCount> cells{};
-  std::size_t place = 0;
-  for (int row = 0; row < kSlotCount; ++row) {
-    for (const GridColumn& column : ColumnsOfRow(row)) cells.at(place++) = {column.column, row};
-  }
-  return cells;
-}();
 
 }  // namespace
 
-GridMarks::GridMarks(const RosterGrid& grid, const Rehearsal& rehearsal,
-                     const ImageKnowledge& knowledge)
-    : end_row_(rehearsal.end_row()) {
+GridMarks::GridMarks(const RosterGrid& grid, const SavePreview& preview, const Baseline& baseline)
+    : end_row_(preview.end_row()) {
   for (const Cell cell : kAllCells) {
     const std::string& text = grid.Text(cell);
-    const std::string& known = knowledge.texts().Text(cell);
-    const std::string& after = rehearsal.TextAfter(cell);
-    const bool is_unsaved = !IsSame(cell, text, known);
-    const bool is_unkept = text == known ? text != after : !IsSame(cell, text, after);
-    if (!is_unsaved && !is_unkept) continue;
-    marks_.at(IndexOf(cell)) = {is_unsaved, is_unkept, rehearsal.FateOf(cell), after, known};
-    unsaved_count_ += is_unsaved ? 1 : 0;
-    unkept_count_ += is_unkept ? 1 : 0;
+    const std::string& known = baseline.texts().Text(cell);
+    const std::string& after = preview.TextAfter(cell);
+    const bool is_modified = !IsSame(cell, text, known);
+    const bool is_lossy = text == known ? text != after : !IsSame(cell, text, after);
+    if (!is_modified && !is_lossy) continue;
+    marks_.at(IndexOf(cell)) = {is_modified, is_lossy, preview.FateOf(cell), after, known};
+    modified_count_ += is_modified ? 1 : 0;
+    lossy_count_ += is_lossy ? 1 : 0;
   }
 }
 
-std::optional<Cell> GridMarks::NextUnkept(std::optional<Cell> from, bool backwards) const {
-  const auto is_unkept = [this](Cell cell) { return At(cell).is_unkept; };
+std::optional<Cell> GridMarks::NextLossy(std::optional<Cell> from, bool backwards) const {
+  const auto is_lossy = [this](Cell cell) { return At(cell).is_lossy; };
   // Forwards or backwards, the search begins behind the cell and comes round to it last.
   std::vector<Cell> cells(kCellsOnScreen.begin(), kCellsOnScreen.end());
   if (backwards) std::ranges::reverse(cells);
   if (from) {
     std::rotate(cells.begin(), std::next(std::ranges::find(cells, *from)), cells.end());
   }
-  const auto found = std::ranges::find_if(cells, is_unkept);
+  const auto found = std::ranges::find_if(cells, is_lossy);
   if (found == cells.end()) return std::nullopt;
   return *found;
 }

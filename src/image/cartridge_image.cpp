@@ -4,16 +4,27 @@
 #include "image/record_layout.h"
 
 namespace morlek {
+namespace {
 
-std::uint8_t CartridgeImage::ReadIdentityByte(const std::filesystem::path& path) {
-  if (!channel_.OpenBinary(path)) throw OperationFailed("The file could not be opened.");
-  const std::uint8_t byte = channel_.ReadByte(kIdentityPosition);
-  channel_.Close();
-  return byte;
+std::int64_t FieldPosition(std::int64_t base, int slot, int offset) {
+  return base + std::int64_t{kSlotBytes} * slot + offset;
 }
 
-bool CartridgeImage::Open() {
-  opened_ = channel_.OpenBinary(path_);
+}  // namespace
+
+std::optional<std::uint8_t> CartridgeImage::ReadIdentityByte(const std::filesystem::path& path) {
+  if (!channel_.OpenBinary(path)) return std::nullopt;
+  try {
+    const std::uint8_t byte = channel_.ReadByte(kIdentityPosition);
+    channel_.Close();
+    return byte;
+  } catch (const OperationFailed&) {
+    return std::nullopt;
+  }
+}
+
+bool CartridgeImage::Open(const std::filesystem::path& path) {
+  opened_ = channel_.OpenBinary(path);
   return opened_;
 }
 
@@ -22,17 +33,14 @@ bool CartridgeImage::Close() {
   return channel_.Close();
 }
 
-std::uint8_t CartridgeImage::ReadField(int slot, int offset) {
-  if (!team_base_) throw OperationFailed("No team has been picked.");
-  return channel_.ReadByte(FieldPosition(slot, offset));
+std::uint8_t CartridgeImage::ReadField(std::optional<std::int64_t> base, int slot, int offset) {
+  if (!base) throw OperationFailed("No team has been picked.");
+  return channel_.ReadByte(FieldPosition(*base, slot, offset));
 }
 
-bool CartridgeImage::WriteField(int slot, int offset, std::uint8_t value) {
-  return opened_ && team_base_ && channel_.WriteByte(FieldPosition(slot, offset), value);
-}
-
-std::int64_t CartridgeImage::FieldPosition(int slot, int offset) const {
-  return *team_base_ + std::int64_t{kSlotBytes} * slot + offset;
+bool CartridgeImage::WriteField(std::optional<std::int64_t> base, int slot, int offset,
+                                std::uint8_t value) {
+  return opened_ && base && channel_.WriteByte(FieldPosition(*base, slot, offset), value);
 }
 
 }  // namespace morlek

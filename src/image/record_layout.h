@@ -10,9 +10,6 @@ inline constexpr int kSlotBytes = 32;
 /// The name field: an initial and up to 8 letters of the surname, one letter code a byte.
 inline constexpr int kNameBytes = 9;
 
-/// Whether a slot, 0 to 24, is a pitcher's.
-[[nodiscard]] constexpr bool IsPitcher(int slot) { return slot >= kBatterCount; }
-
 /// Where each field lies in a slot, counted from the slot's first byte. Two-byte fields have their
 /// low byte first. Bytes that stand nowhere here belong to the game alone.
 namespace offset {

@@ -46,6 +46,11 @@ inline constexpr std::array<Team, 28> kTeamDirectory = {{
     {"Blue Jays", "TORONTO BLUE JAYS", 1274785},
 }};
 
+/// The place of a club of the directory, from 0.
+[[nodiscard]] constexpr std::size_t PlaceOf(const Team& team) {
+  return static_cast<std::size_t>(&team - kTeamDirectory.data());
+}
+
 /// The club with exactly this toolbar key, or null.
 [[nodiscard]] constexpr const Team* FindTeam(std::string_view key) {
   for (const Team& team : kTeamDirectory) {

@@ -51,4 +51,9 @@ inline constexpr std::array<ClubLook, kTeamDirectory.size()> kClubLooks = {{
 static_assert(std::ranges::equal(kClubLooks, kTeamDirectory, {}, &ClubLook::key, &Team::key),
               "one look a team, in the directory's order");
 
+/// How a club of the directory is seen.
+[[nodiscard]] constexpr const ClubLook& LookOf(const Team& team) {
+  return kClubLooks.at(PlaceOf(team));
+}
+
 }  // namespace morlek

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "art/title_art.h"
+#include "editor/editor_state.h"
 #include "ui/theme.h"
 
 namespace morlek {
@@ -30,11 +31,13 @@ HintLabel::HintLabel(const QRect& area, QWidget* parent) : QLabel(parent) {
   Say("Open a ROM with Ctrl+O");
 }
 
-void HintLabel::AskForTeam() {
-  asks_for_image_ = false;
-  unsetCursor();
-  Say("Pick a team above, or press Ctrl+Page Down");
-  show();
+void HintLabel::Show(const EditorState& state) {
+  if (asks_for_image_ && !state.place.image.empty()) {
+    asks_for_image_ = false;
+    unsetCursor();
+    Say("Pick a team above, or press Ctrl+Page Down");
+  }
+  setVisible(!state.is_grid_shown);
 }
 
 void HintLabel::Say(const QString& words) {

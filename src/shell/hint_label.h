@@ -4,16 +4,19 @@
 
 namespace morlek {
 
+struct EditorState;
+
 /// What stands in the window while no team does: the program's icon, and below it what to do next.
 class HintLabel : public QLabel {
   Q_OBJECT
 
  public:
-  /// Stands in the middle of an area of its parent, and says how to open an image.
+  /// Stands in the middle of an area of its parent.
   HintLabel(const QRect& area, QWidget* parent);
 
-  /// Shows how to pick a team, from now on; pressing the words does nothing any more.
-  void AskForTeam();
+  /// Says how to open an image, or, once there is one, how to pick a team; clicking the words does
+  /// nothing then. Gone while a team is shown.
+  void Show(const EditorState& state);
 
  signals:
   /// The words that say how to open an image, or the icon above them, were clicked.

@@ -8,13 +8,11 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <algorithm>
-#include <utility>
 
 #include "shell/content_area.h"
 #include "shell/help_pane.h"
 #include "shell/hint_label.h"
 #include "shell/identity_label.h"
-#include "shell/mark_text.h"
 #include "shell/menu_bar.h"
 #include "shell/questions.h"
 #include "shell/roster_frame.h"
@@ -29,16 +27,12 @@
 namespace morlek {
 namespace {
 
-constexpr char kFileLeftOpen[] = "a file is still open and blocks SAVE (Ctrl+O, Cancel)";
 constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
 constexpr int kHintBottom = 560;  // above the middle, in logical pixels
 constexpr int kRowMargin = 24;    // what stays in view around a box, likewise
 
-std::optional<std::filesystem::path> ToPath(const std::optional<QString>& path) {
-  if (!path) return std::nullopt;
-  return QFileInfo(*path).filesystemFilePath();
-}
+std::filesystem::path ToPath(const QString& path) { return QFileInfo(path).filesystemFilePath(); }
 
 }  // namespace
 
@@ -50,7 +44,7 @@ MainWindow::MainWindow(Editor& editor, User& user)
   setMenuBar(menus_);
   connect(menus_, &MenuBar::Chosen, this, &MainWindow::Run);
   BuildContent();
-  SetContentWidth(kNarrowWidth);
+  SetLayout(Layout::kNarrow);
 }
 
 MainWindow::~MainWindow() = default;
@@ -83,48 +77,53 @@ void MainWindow::BuildContent() {
   toolbar_ = new TeamToolbar(content_);
   toolbar_->move(FromTwips(60), 1);
   toolbar_->hide();
-  connect(toolbar_, &TeamToolbar::TeamPicked, this, &MainWindow::LoadTeam);
+  connect(toolbar_, &TeamToolbar::TeamPicked, this, [this](auto key) { editor_.LoadTeam(key); });
+  connect(toolbar_, &TeamToolbar::StepRequested, this,
+          [this](int places) { editor_.LoadTeamBeside(places); });
 
   identity_->raise();
 }
 
 void MainWindow::AddRoster() {
-  roster_ = new RosterFrame(editor_.document(), content_);
+  roster_ = new RosterFrame(editor_, content_);
   roster_->stackUnder(identity_);
   status_->raise();
-  roster_->hide();
   connect(roster_, &RosterFrame::SaveRequested, this, [this] {
     // A button that is hidden or behind a dialog can still be pressed by an assistive tool.
-    if (roster_->isVisible() && IsListening()) editor_.Save(*this);
+    if (editor_.state().is_grid_shown && IsListening()) editor_.Save();
   });
-
-  connect(roster_, &RosterFrame::BlockPasted, this,
-          [this](Cell cell, const std::string& block) { editor_.PasteBlock(cell, block); });
-
-  stances_ = new StancePanel(editor_.document(), content_);
-  // Who cannot reach the grid cannot pick into it either.
-  connect(roster_, &RosterFrame::ReachChanged, stances_, &QWidget::setEnabled);
-  connect(stances_, &StancePanel::Picked, roster_, &RosterFrame::SelectForTyping);
-  stances_->stackUnder(identity_);
-  stances_->show();
   connect(roster_, &RosterFrame::CellVisited, this, [this](Cell cell) {
     // On a screen with less room than the window needs.
     area_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
-    if (!IsFeature(cell.column)) return;
-    stances_->Choose(cell);
-    SetContentWidth(kWideWidth);
-    roster_->ShowStanceRow(cell.row);
+    editor_.Visit(cell);
   });
-  subscription_ = editor_.document().Subscribe([this](const GridChange&) { RefreshMarks(); });
+
+  stances_ = new StancePanel(content_);
+  stances_->stackUnder(identity_);
+  connect(stances_, &StancePanel::Picked, this,
+          [this](Column feature, const std::string& code) { editor_.Pick(feature, code); });
+  stances_->show();
+
+  subscription_ = editor_.Subscribe(
+      [this](const EditorState& state, const StateChange& change) { Show(state, change); });
   setAcceptDrops(true);
 }
 
-void MainWindow::SetContentWidth(int twips) {
-  if (roster_ != nullptr && twips == kNarrowWidth) roster_->ShowStanceRow(std::nullopt);
+void MainWindow::Show(const EditorState& state, const StateChange& change) {
+  identity_->ShowByte(state.identity);
+  toolbar_->Show(state);
+  hint_->Show(state);
+  if (change.layout_set) SetLayout(state.layout);
+  roster_->Show(state, change);
+  stances_->Show(state);
+  status_->Show(state);
+}
+
+void MainWindow::SetLayout(Layout layout) {
   if (const QWindow* window = windowHandle()) {
     SetWindowGround(*window, palette().color(QPalette::Window));
   }
-  area_->SetContentWidth(twips);
+  area_->SetContentWidth(layout == Layout::kNarrow ? kNarrowWidth : kWideWidth);
   FitToScreen();
 }
 
@@ -148,7 +147,7 @@ void MainWindow::Run(Command command) {
   if (!IsListening()) return;
   switch (command) {
     case Command::kOpen:
-      editor_.OpenAnotherImage(ToPath(AskForImage(user_)), *this);
+      OpenAnotherImage();
       break;
     case Command::kQuit:
       if (AskToQuit(user_)) close();
@@ -157,13 +156,13 @@ void MainWindow::Run(Command command) {
       TellAboutProgram(user_);
       break;
     case Command::kImport:
-      editor_.ImportTeam(ToPath(AskForTeamToImport(user_)));
+      ImportTeam();
       break;
     case Command::kExport:
       ExportTeam();
       break;
     case Command::kMinimizeFeatures:
-      SetContentWidth(kNarrowWidth);
+      editor_.Minimize();
       break;
     case Command::kAlwaysOnTop:
       SetAlwaysOnTop(true);
@@ -175,21 +174,38 @@ void MainWindow::Run(Command command) {
       OpenHelp();
       break;
   }
-  EndStep();
 }
 
 void MainWindow::OpenFirstImage() {
   // Only now is it known how much the system's borders take.
   FitToScreen();
-  const std::optional<QString> path = AskForImage(user_);
+  const QString path = AskForImage(user_).value_or(QString());
   AddRoster();
-  editor_.OpenFirstImage(ToPath(path), *this);
-  EndStep();
+  editor_.OpenFirstImage(ToPath(path));
+}
+
+void MainWindow::OpenAnotherImage() {
+  if (const auto path = AskForImage(user_)) {
+    editor_.OpenAnotherImage(ToPath(*path));
+  } else {
+    editor_.CancelDialog();
+  }
+}
+
+void MainWindow::ImportTeam() {
+  if (const auto path = AskForTeamToImport(user_)) {
+    editor_.ImportTeam(ToPath(*path));
+  } else {
+    editor_.CancelDialog();
+  }
 }
 
 void MainWindow::ExportTeam() {
-  const std::optional<QString> path = AskWhereToExport(user_);
-  if (editor_.ExportTeam(ToPath(path))) TellOfExport(user_, *path);
+  if (const auto path = AskWhereToExport(user_)) {
+    if (editor_.ExportTeam(ToPath(*path)) == ExportResult::kWritten) TellOfExport(user_, *path);
+  } else {
+    editor_.CancelDialog();
+  }
 }
 
 void MainWindow::SetAlwaysOnTop(bool on_top) {
@@ -215,30 +231,6 @@ void MainWindow::OpenHelp() {
   help_->Open();
 }
 
-void MainWindow::LoadTeam(std::string_view toolbar_key) {
-  // A load that finds a file open fails, tells of it and closes it.
-  if (std::exchange(is_file_left_open_, false)) RefreshMarks();
-  editor_.LoadTeam(toolbar_key, *this);
-  // New texts have no selection; typing is to replace the value, as after a visit.
-  roster_->BeginVisit();
-  toolbar_->ShowPicked(roster_->isVisible());
-  EndStep();
-}
-
-void MainWindow::EndStep() {
-  is_file_left_open_ = editor_.IsFileOpen();
-  RefreshMarks();
-}
-
-void MainWindow::RefreshMarks() {
-  const GridMarks marks = editor_.Marks();
-  roster_->ShowMarks(marks);
-  if (!editor_.IsFileOpen()) is_file_left_open_ = false;
-  const QString summary = is_file_left_open_ ? QString(kFileLeftOpen) : SummaryOf(marks);
-  const std::u16string path = editor_.image_path().u16string();
-  status_->ShowImage(QString::fromStdU16String(path), roster_->isVisible() ? summary : QString());
-}
-
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
   if (!IsListening() || !DroppedFile(*event->mimeData())) return;
   if (!(event->possibleActions() & Qt::CopyAction)) return;
@@ -253,41 +245,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   event->setDropAction(Qt::CopyAction);
   event->accept();
   // From the event loop: whoever drops is not to wait for an answer to a message.
-  QTimer::singleShot(0, this, [this, path] {
-    editor_.TakeFile(*ToPath(path), *this);
-    EndStep();
-  });
-}
-
-void MainWindow::HideRoster() {
-  // A hidden widget that kept the focus would go on taking keys.
-  QWidget* focused = focusWidget();
-  if (focused != nullptr && roster_->isAncestorOf(focused)) focused->clearFocus();
-  roster_->hide();
-  toolbar_->ShowPicked(false);
-  hint_->AskForTeam();
-}
-
-void MainWindow::ShowIdentity(std::string_view byte_text) { identity_->ShowByte(byte_text); }
-
-void MainWindow::ShowToolbar() {
-  toolbar_->show();
-  toolbar_->Restart();
-  hint_->AskForTeam();
-}
-
-void MainWindow::ShowNarrow() { SetContentWidth(kNarrowWidth); }
-
-void MainWindow::ShowTeamName(std::string_view display_name) {
-  roster_->SetTeamName(display_name);
-  stances_->ShowTeam(display_name);
-}
-
-void MainWindow::PrepareView() {
-  toolbar_->show();
-  hint_->hide();
-  roster_->show();
-  SetContentWidth(kNarrowWidth);
+  QTimer::singleShot(0, this, [this, path] { editor_.TakeFile(ToPath(*path)); });
 }
 
 }  // namespace morlek

@@ -20,15 +20,15 @@ class StatusLine;
 class TeamToolbar;
 class clsOnTop;
 
-/// The main window: a view of the editor, which turns what the person does into the editor's steps.
-class MainWindow : public QMainWindow, private EditorView {
+/// The main window: it turns what the person does into the editor's steps, and hands the editor's
+/// state on to its parts.
+class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
   Q_DISABLE_COPY_MOVE(MainWindow)
 
-  /// The user is asked and told everything that a dialog is for. Editor and user outlive the
-  /// window.
+  /// `user` answers every dialog. Editor and user outlive the window.
   MainWindow(Editor& editor, User& user);
   ~MainWindow() override;
 
@@ -44,33 +44,26 @@ class MainWindow : public QMainWindow, private EditorView {
   /// which need not wait for them.
   void AddRoster();
 
-  /// Sets the width of the content in twips; what stands further right is out of view.
-  void SetContentWidth(int twips);
+  /// Shows how things stand now.
+  void Show(const EditorState& state, const StateChange& change);
+
+  /// Gives the content the width of a layout; what stands further right is out of view.
+  void SetLayout(Layout layout);
 
   /// Gives the window the size of its content, or as much of it as the screen has room for.
   void FitToScreen();
 
   void Run(Command command);
   void OpenFirstImage();
+  void OpenAnotherImage();
+  void ImportTeam();
   void ExportTeam();
   void SetAlwaysOnTop(bool on_top);
   void OpenHelp();
-  void LoadTeam(std::string_view toolbar_key);
-
-  /// Shows what a step of the editor, which is over, has left.
-  void EndStep();
 
   /// Whether the window does what it is told: once its first question was answered, and never while
   /// a dialog stands over it.
   [[nodiscard]] bool IsListening() const;
-
-  void ShowIdentity(std::string_view byte_text) override;
-  void ShowToolbar() override;
-  void HideRoster() override;
-  void ShowNarrow() override;
-  void RefreshMarks() override;
-  void ShowTeamName(std::string_view display_name) override;
-  void PrepareView() override;
 
   Editor& editor_;
   User& user_;
@@ -85,9 +78,7 @@ class MainWindow : public QMainWindow, private EditorView {
   IdentityLabel* identity_ = nullptr;
   HintLabel* hint_ = nullptr;
   StatusLine* status_ = nullptr;
-  // As the last step left it, until the file is closed.
-  bool is_file_left_open_ = false;
-  RosterDocument::Subscription subscription_;
+  Editor::Subscription subscription_;
   // Made when they are first needed: the start does not wait for them.
   HelpPane* help_ = nullptr;
   std::unique_ptr<clsOnTop> on_top_;

@@ -16,20 +16,20 @@ QString Quoted(const std::string& text) {
 QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
   const QString after = Quoted(mark.after);
   switch (mark.fate) {
-    case Rehearsal::Fate::kStored:
+    case SavePreview::Fate::kStored:
       return QString(mark.after == mark.known ? "SAVE stores %1; the image holds that already"
                                               : "SAVE stores %1")
           .arg(after);
-    case Rehearsal::Fate::kSkipped:
+    case SavePreview::Fate::kSkipped:
       return QString("SAVE skips this; the image keeps %1").arg(after);
-    case Rehearsal::Fate::kEndsSave:
+    case SavePreview::Fate::kEndsSave:
       return QString("SAVE ends here, because this name is too long; the image then holds %1")
           .arg(after);
-    case Rehearsal::Fate::kNotReached:
+    case SavePreview::Fate::kNotReached:
       break;
   }
   // Initials are saved before all else, so a name may change even so.
-  const bool is_name = cell.column == Column::kText1;
+  const bool is_name = cell.column == Column::kName;
   return QString("SAVE does not reach this, because the name of %1 is too long; the image %2 %3")
       .arg(FromCodePage(PlayerText(marks.end_row().value_or(cell.row))),
            is_name ? "then holds" : "keeps", after);
@@ -44,9 +44,9 @@ QString Counted(int count, const QString& one, const QString& many) {
 QString TipOf(const GridMarks& marks, Cell cell) {
   const CellMark& mark = marks.At(cell);
   QStringList lines;
-  if (mark.is_unkept) lines << WhatSaveDoes(marks, cell, mark);
-  const bool is_told = mark.is_unkept && mark.after == mark.known;
-  if (mark.is_unsaved && !is_told) {
+  if (mark.is_lossy) lines << WhatSaveDoes(marks, cell, mark);
+  const bool is_told = mark.is_lossy && mark.after == mark.known;
+  if (mark.is_modified && !is_told) {
     lines << QString("Not saved yet; the image holds %1").arg(Quoted(mark.known));
   }
   return lines.join('\n');
@@ -54,12 +54,12 @@ QString TipOf(const GridMarks& marks, Cell cell) {
 
 QString SummaryOf(const GridMarks& marks) {
   QStringList parts;
-  if (marks.unsaved_count() > 0) {
-    parts << Counted(marks.unsaved_count(), "change not saved", "changes not saved");
+  if (marks.modified_count() > 0) {
+    parts << Counted(marks.modified_count(), "change not saved", "changes not saved");
   }
-  if (marks.unkept_count() > 0) {
-    parts << QString("SAVE will not keep %1 (F8)")
-                 .arg(Counted(marks.unkept_count(), "cell", "cells"));
+  if (marks.lossy_count() > 0) {
+    parts
+        << QString("SAVE will not keep %1 (F8)").arg(Counted(marks.lossy_count(), "cell", "cells"));
   }
   return parts.join(QString::fromUtf8(" \u00b7 "));
 }

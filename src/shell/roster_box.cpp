@@ -9,20 +9,16 @@
 #include <utility>
 
 #include "shell/code_page_text.h"
+#include "shell/form_layout.h"
 #include "shell/mark_text.h"
 #include "shell/menu_table.h"
 #include "textfile/pasted_block.h"
-#include "textfile/team_import.h"
 #include "ui/dropped_file.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
 
 namespace morlek {
 namespace {
-
-QString ObjectNameOf(Column column, int row) {
-  return QString("Text%1(%2)").arg(static_cast<int>(column)).arg(row);
-}
 
 /// Whether the focus goes to a menu or another window, or comes back from there, which is no new
 /// visit.
@@ -31,17 +27,19 @@ bool IsShortAbsence(Qt::FocusReason reason) {
          reason == Qt::MenuBarFocusReason;
 }
 
-QString AccessibleNameOf(const GridColumn& column, int row) {
-  return QString("%1, %2").arg(FromCodePage(column.meaning), FromCodePage(PlayerText(row)));
+QString AccessibleNameOf(Cell cell) {
+  const Block& block = BlockOf(cell.row);
+  const BlockColumn& column = block.columns.at(block.PlaceOf(cell.column).value());
+  return QString("%1, %2").arg(FromCodePage(column.meaning), FromCodePage(PlayerText(cell.row)));
 }
 
 }  // namespace
 
-RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
-    : QLineEdit(parent), column_(column.column), row_(row) {
-  setObjectName(ObjectNameOf(column.column, row));
-  setAccessibleName(AccessibleNameOf(column, row));
-  if (column.column == Column::kText1) {
+RosterBox::RosterBox(Cell cell, QWidget* parent) : QLineEdit(parent), cell_(cell) {
+  setObjectName(BoxNameOf(cell));
+  setAccessibleName(AccessibleNameOf(cell));
+  setGeometry(BoxRectOf(cell));
+  if (cell.column == Column::kName) {
     setTextMargins(2, 0, -2, 0);
   } else {
     // Three digits then fit into the narrow columns; and the line editor keeps room for the caret
@@ -66,7 +64,7 @@ void RosterBox::BeginVisit() {
 
 void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
   if (mark == mark_ && tip == toolTip()) return;
-  const bool recolored = mark.is_unsaved != mark_.is_unsaved;
+  const bool recolored = mark.is_modified != mark_.is_modified;
   mark_ = mark;
   if (recolored) ColorText();
   setToolTip(PlainTip(tip));
@@ -76,7 +74,7 @@ void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
 
 void RosterBox::ColorText() {
   QPalette colors;
-  if (mark_.is_unsaved) colors.setColor(QPalette::Text, theme::ShadesOf(palette()).accent);
+  if (mark_.is_modified) colors.setColor(QPalette::Text, theme::ShadesOf(palette()).accent);
   setPalette(colors);
 }
 
@@ -109,7 +107,7 @@ QColor RosterBox::Ground() const {
   if (hasFocus()) return shades.base;
   if (tint_ == Tint::kStanceRow) return shades.stance_row;
   if (tint_ == Tint::kFocusRow) return shades.focus_row;
-  const bool is_odd = (IsPitcher(row_) ? row_ - kBatterCount : row_) % 2 != 0;
+  const bool is_odd = (cell_.row - BlockOf(cell_.row).first_row) % 2 != 0;
   return is_odd ? shades.odd_row : shades.base;
 }
 
@@ -120,7 +118,7 @@ void RosterBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     PaintFrame(painter, Qt::transparent);
   }
-  if (!mark_.is_unkept) return;
+  if (!mark_.is_lossy) return;
   // Over text and selection alike, with an edge that parts it from both.
   constexpr qreal kSize = 7;
   const theme::Shades& shades = theme::ShadesOf(palette());
@@ -151,7 +149,7 @@ bool RosterBox::event(QEvent* event) {
 void RosterBox::changeEvent(QEvent* event) {
   QLineEdit::changeEvent(event);
   // The desktop went from light to dark, or back.
-  if (event->type() == QEvent::PaletteChange && mark_.is_unsaved) ColorText();
+  if (event->type() == QEvent::PaletteChange && mark_.is_modified) ColorText();
 }
 
 void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
@@ -288,7 +286,7 @@ void RosterBox::PasteFrom(QClipboard::Mode mode) {
   if (IsBlock(pasted)) {
     emit BlockPasted(pasted);
   } else {
-    insert(FromCodePage(WithoutLastLineBreak(pasted).substr(0, kLongestField)));
+    insert(FromCodePage(WithoutLastLineBreak(pasted).substr(0, kLongestText)));
   }
 }
 

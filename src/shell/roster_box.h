@@ -17,11 +17,10 @@ class RosterBox : public QLineEdit, public OwnPanel {
   Q_OBJECT
 
  public:
-  /// An empty box of this column, whose texts are literals, in row 0 to 24.
-  RosterBox(const GridColumn& column, int row, QWidget* parent);
+  /// The empty box of a cell, in its place within the frame of the roster.
+  RosterBox(Cell cell, QWidget* parent);
 
-  [[nodiscard]] Column column() const { return column_; }
-  [[nodiscard]] int row() const { return row_; }
+  [[nodiscard]] Cell cell() const { return cell_; }
 
   /// Shows a text that was not typed here. Typing replaces it, now or when the focus returns, as
   /// after a visit.
@@ -94,8 +93,7 @@ class RosterBox : public QLineEdit, public OwnPanel {
     int length = 0;
   };
 
-  Column column_;
-  int row_;
+  Cell cell_;
   CellMark mark_;
   Tint tint_ = Tint::kNone;
   QString entry_text_;

@@ -72,7 +72,6 @@ class StancePicture : public MarkedButton {
     painter.setFont(theme::Font(code_pixels, marked ? QFont::Bold : QFont::Normal));
     painter.drawText(QRectF(rect()).adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
                      code_text_);
-    if (!isEnabled()) painter.fillRect(rect(), theme::VeilOf(palette()));
   }
 
  private:

@@ -1,10 +1,9 @@
 #include "shell/stance_panel.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "codecs/appearance_codec.h"
-#include "image/team_directory.h"
+#include "editor/editor_state.h"
 #include "shell/club_looks.h"
 #include "shell/code_page_text.h"
 #include "shell/content_area.h"
@@ -19,9 +18,7 @@ constexpr int kWidth = 222;
 constexpr QRect kViewArea(8, 546, 206, 103);
 constexpr QRect kViewAreaBelowLegs(8, 246, 206, 403);  // of which there are few
 
-constexpr std::array<Column, 3> kFeatures = {Column::kText12, Column::kText13, Column::kText14};
-
-constexpr std::array<ChooserKind, 3> kKinds = {{
+constexpr std::array<ChooserKind, kFeatures.size()> kKinds = {{
     {StancePiece::kFace, "Frame2", "Picture1", "Label1", "Face",
      "This will edit the skin color and facial features of a player but not hair color. Click to "
      "make selection."},
@@ -36,40 +33,13 @@ QRect ViewAreaBelow(StancePiece piece) {
 
 }  // namespace
 
-StancePanel::StancePanel(RosterDocument& document, QWidget* parent)
-    : QWidget(parent), document_(document) {
+StancePanel::StancePanel(QWidget* parent) : QWidget(parent) {
   setObjectName("StancePanel");
   setAccessibleName("batting stance choosers");
   setGeometry(FromTwips(6660), 0, kWidth, kContentHeight);
   for (std::size_t place = 0; place < kKinds.size(); ++place) AddChooser(place);
   view_ = new StanceView(this);
   view_->setGeometry(kViewArea);
-  ShowStanceRow();
-  subscription_ = document_.Subscribe([this](const GridChange& change) {
-    const auto is_in_stance_row = [this](const CellChange& part) {
-      return part.cell.row == stance_row_;
-    };
-    if (std::ranges::any_of(change, is_in_stance_row)) ShowStanceRow();
-  });
-}
-
-void StancePanel::Choose(Cell cell) {
-  stance_row_ = cell.row;
-  for (std::size_t place = 0; place < choosers_.size(); ++place) {
-    const bool is_chosen = kFeatures.at(place) == cell.column;
-    choosers_.at(place)->setVisible(is_chosen);
-    if (is_chosen) view_->setGeometry(ViewAreaBelow(kKinds.at(place).piece));
-  }
-  ShowStanceRow();
-}
-
-void StancePanel::ShowTeam(std::string_view display_name) {
-  const auto team = std::ranges::find(kTeamDirectory, display_name, &Team::display_name);
-  std::optional<ClubColors> colors;
-  if (team != kTeamDirectory.end()) {
-    colors = kClubLooks.at(static_cast<std::size_t>(team - kTeamDirectory.begin())).colors;
-  }
-  view_->ShowClub(colors);
 }
 
 void StancePanel::AddChooser(std::size_t place) {
@@ -77,31 +47,30 @@ void StancePanel::AddChooser(std::size_t place) {
   chooser->setGeometry(0, 0, kWidth, ViewAreaBelow(kKinds.at(place).piece).top());
   chooser->hide();
   connect(chooser, &StanceChooser::CodePicked, this, [this, place](const QString& code_text) {
-    document_.Put({kFeatures.at(place), stance_row_}, ToCodePage(code_text));
-    emit Picked({kFeatures.at(place), stance_row_});
+    emit Picked(kFeatures.at(place), ToCodePage(code_text));
   });
   choosers_.at(place) = chooser;
 }
 
-void StancePanel::ShowStanceRow() {
-  const auto code_of = [this](Column column) {
-    return AppearanceByte(document_.grid().Text({column, stance_row_}));
+void StancePanel::Show(const EditorState& state) {
+  const auto text_of = [&state](Column column) -> const std::string& {
+    return state.grid.Text({column, state.stance_row});
   };
+  std::array<std::optional<int>, kFeatures.size()> pieces;
   for (std::size_t place = 0; place < choosers_.size(); ++place) {
-    choosers_.at(place)->Mark(code_of(kFeatures.at(place)));
+    const Column column = kFeatures.at(place);
+    const bool is_chosen = state.chooser == column;
+    choosers_.at(place)->setVisible(is_chosen);
+    if (is_chosen) view_->setGeometry(ViewAreaBelow(kKinds.at(place).piece));
+    const std::optional<int> code = AppearanceByte(text_of(column));
+    choosers_.at(place)->Mark(code);
+    if (!text_of(column).empty()) pieces.at(place) = code.value_or(kUnknownCode);
   }
-  const auto piece_of = [&](Column column) -> std::optional<int> {
-    if (document_.grid().Text({column, stance_row_}).empty()) return std::nullopt;
-    return code_of(column).value_or(kUnknownCode);
-  };
-  const auto text_of = [this](Column column) {
-    return FromCodePage(document_.grid().Text({column, stance_row_}));
-  };
-  view_->ShowPlayer(
-      {.name = text_of(Column::kText1),
-       .number = text_of(Column::kText3),
-       .position = text_of(Column::kText2),
-       .codes = {piece_of(kFeatures[0]), piece_of(kFeatures[1]), piece_of(kFeatures[2])}});
+  if (state.place.team != nullptr) view_->ShowClub(LookOf(*state.place.team).colors);
+  view_->ShowPlayer({.name = FromCodePage(text_of(Column::kName)),
+                     .number = FromCodePage(text_of(Column::kUniformNumber)),
+                     .position = FromCodePage(text_of(Column::kPosition)),
+                     .codes = {pieces[0], pieces[1], pieces[2]}});
 }
 
 }  // namespace morlek

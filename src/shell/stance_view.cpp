@@ -89,12 +89,14 @@ StanceView::StanceView(QWidget* parent) : QWidget(parent) {
 }
 
 void StanceView::ShowPlayer(const ShownPlayer& player) {
+  if (player == player_) return;
   player_ = player;
   setAccessibleDescription(player.name);
   update();
 }
 
 void StanceView::ShowClub(const std::optional<ClubColors>& club) {
+  if (club == club_) return;
   club_ = club;
   update();
 }
@@ -123,7 +125,6 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
   paint_part(parts.plate, club_ ? club_->main : shades.fill);
   painter.setPen(Qt::white);
   PaintWords(painter, parts.plate, player_);
-  if (!isEnabled()) painter.fillRect(rect(), theme::VeilOf(palette()));
 }
 
 }  // namespace morlek

@@ -13,6 +13,8 @@ struct ShownPlayer {
   QString number;
   QString position;
   StanceCodes codes;
+
+  friend bool operator==(const ShownPlayer&, const ShownPlayer&) = default;
 };
 
 /// A card with one player: his face, body and legs put together in his club's colours, and a plate

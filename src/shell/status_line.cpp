@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "editor/editor_state.h"
 #include "shell/mark_text.h"
 #include "ui/theme.h"
 #include "ui/twips.h"
@@ -11,6 +12,7 @@
 namespace morlek {
 namespace {
 
+constexpr char kFileHeld[] = "a file is still open and blocks SAVE (Ctrl+O, Cancel)";
 constexpr int kPixels = 11;
 constexpr int kSmallestNameWidth = 60;
 
@@ -24,7 +26,12 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
 }
 
-void StatusLine::ShowImage(const QString& path, const QString& summary) {
+void StatusLine::Show(const EditorState& state) {
+  const QString path = QString::fromStdU16String(state.place.image.u16string());
+  QString summary;
+  if (state.is_grid_shown) {
+    summary = state.is_file_held ? QString(kFileHeld) : SummaryOf(state.marks);
+  }
   const QString tail = summary.isEmpty() ? QString() : QString::fromUtf8(" \u00b7 ") + summary;
   const QFontMetrics metrics(font());
   const int room = std::max(width() - metrics.horizontalAdvance(tail), kSmallestNameWidth);

@@ -4,6 +4,8 @@
 
 namespace morlek {
 
+struct EditorState;
+
 /// The line at the foot of the window: the file name of the image, and how things stand with SAVE.
 class StatusLine : public QLabel {
   Q_OBJECT
@@ -11,9 +13,9 @@ class StatusLine : public QLabel {
  public:
   explicit StatusLine(QWidget* parent);
 
-  /// Shows the file name of a path (all of it in the tool tip), shortened where it has to be, and a
-  /// summary behind it, which may be empty. Without a path the line is empty.
-  void ShowImage(const QString& path, const QString& summary);
+  /// Shows the file name of the image (its whole path in the tool tip), shortened where it has to
+  /// be, and behind it how things stand. Without an image the line is empty.
+  void Show(const EditorState& state);
 };
 
 }  // namespace morlek

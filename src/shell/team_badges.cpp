@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <QPainterPath>
-#include <algorithm>
 
 #include "shell/club_looks.h"
 #include "ui/painted_icon.h"
@@ -40,10 +39,8 @@ void PaintBadge(QPainter& painter, const QRectF& target, const ClubLook& look) {
 TeamBadges::TeamBadges(QObject* parent) : QObject(parent) { setObjectName("ImageList1"); }
 
 // NOLINTNEXTLINE(readability-convert-member-functions-to-static): the list is asked as an object.
-QIcon TeamBadges::Badge(std::string_view toolbar_key) const {
-  const auto found = std::ranges::find(kClubLooks, toolbar_key, &ClubLook::key);
-  if (found == kClubLooks.end()) return {};
-  return MakePaintedIcon([look = *found](QPainter& painter, const QRectF& target) {
+QIcon TeamBadges::Badge(const Team& team) const {
+  return MakePaintedIcon([&look = LookOf(team)](QPainter& painter, const QRectF& target) {
     PaintBadge(painter, target, look);
   });
 }

@@ -2,9 +2,10 @@
 
 #include <QIcon>
 #include <QObject>
-#include <string_view>
 
 namespace morlek {
+
+struct Team;
 
 /// The pictures of the team buttons: badges with a club's letters on its two colours.
 class TeamBadges : public QObject {
@@ -13,9 +14,8 @@ class TeamBadges : public QObject {
  public:
   explicit TeamBadges(QObject* parent);
 
-  /// The badge of the club with this toolbar key; an empty icon for any other key. Icons outlive
-  /// the list.
-  [[nodiscard]] QIcon Badge(std::string_view toolbar_key) const;
+  /// The badge of a club of the directory. Icons outlive the list.
+  [[nodiscard]] QIcon Badge(const Team& team) const;
 };
 
 }  // namespace morlek

@@ -2,8 +2,9 @@
 
 #include <QPainter>
 #include <QShortcut>
+#include <utility>
 
-#include "image/team_directory.h"
+#include "editor/editor_state.h"
 #include "shell/code_page_text.h"
 #include "shell/team_badges.h"
 #include "ui/marked_button.h"
@@ -62,41 +63,24 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
   const auto* badges = new TeamBadges(this);
   int place = 0;
   for (const Team& team : kTeamDirectory) {
-    auto* button = new TeamButton(team, badges->Badge(team.key), this);
+    auto* button = new TeamButton(team, badges->Badge(team), this);
     button->setGeometry(place % kButtonsInRow * kButtonWidth, place / kButtonsInRow * kButtonHeight,
                         kButtonWidth, kButtonHeight);
-    connect(button, &QAbstractButton::clicked, this, [this, place] { Pick(place); });
+    connect(button, &QAbstractButton::clicked, this, [this, &team] { emit TeamPicked(team.key); });
     buttons_.push_back(button);
     ++place;
   }
 
-  connect(new QShortcut(Qt::CTRL | Qt::Key_PageDown, this), &QShortcut::activated, this,
-          [this] { Step(+1); });
-  connect(new QShortcut(Qt::CTRL | Qt::Key_PageUp, this), &QShortcut::activated, this,
-          [this] { Step(-1); });
-}
-
-void TeamToolbar::Restart() {
-  ShowPicked(false);
-  picked_.reset();
-}
-
-void TeamToolbar::ShowPicked(bool on_screen) {
-  for (int place = 0; place < kTeams; ++place) {
-    buttons_.at(static_cast<std::size_t>(place))->SetMarked(on_screen && place == picked_);
+  for (const auto& [key, places] : {std::pair(Qt::Key_PageDown, +1), {Qt::Key_PageUp, -1}}) {
+    connect(new QShortcut(Qt::CTRL | key, this), &QShortcut::activated, this,
+            [this, places = places] { emit StepRequested(places); });
   }
 }
 
-void TeamToolbar::Pick(int place) {
-  picked_ = place;
-  emit TeamPicked(kTeamDirectory.at(static_cast<std::size_t>(place)).key);
-}
-
-void TeamToolbar::Step(int places) {
-  if (picked_) {
-    Pick((*picked_ + places + kTeams) % kTeams);
-  } else if (places > 0) {
-    Pick(0);
+void TeamToolbar::Show(const EditorState& state) {
+  setVisible(!state.place.image.empty());
+  for (const Team& team : kTeamDirectory) {
+    buttons_.at(PlaceOf(team))->SetMarked(state.is_loaded && state.place.team == &team);
   }
 }
 

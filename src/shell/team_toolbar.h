@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QWidget>
-#include <optional>
 #include <string_view>
 #include <vector>
 
 namespace morlek {
 
 class MarkedButton;
+struct EditorState;
 
 /// The team buttons, two rows of fourteen in the team directory's order. They take no keyboard
 /// focus; Ctrl+Page Down and Ctrl+Page Up pick the next and the previous team instead.
@@ -17,25 +17,18 @@ class TeamToolbar : public QWidget {
  public:
   explicit TeamToolbar(QWidget* parent);
 
-  /// Begins anew with the first team, for another image.
-  void Restart();
-
-  /// Whether the team that was picked last is on the screen: its badge then has a ring.
-  void ShowPicked(bool on_screen);
+  /// Stands in the window once there is an image. The badge of the team on the screen has a ring.
+  void Show(const EditorState& state);
 
  signals:
-  /// The team with this toolbar key, which is one of the directory and lives on, was picked by its
-  /// button or by key.
+  /// The team with this toolbar key, which is one of the directory and lives on, was picked.
   void TeamPicked(std::string_view toolbar_key);
 
+  /// A key asked for the next team (+1) or the previous one (-1).
+  void StepRequested(int places);
+
  private:
-  void Pick(int place);
-
-  /// Picks the next team, or the previous one, going round.
-  void Step(int places);
-
   std::vector<MarkedButton*> buttons_;  // in the directory's order
-  std::optional<int> picked_;           // place in the directory
 };
 
 }  // namespace morlek

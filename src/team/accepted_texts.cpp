@@ -29,33 +29,41 @@ std::string Averages(std::size_t digits_before_point) {
 
 }  // namespace
 
-std::string AcceptedTexts(Column column, bool is_pitcher) {
+std::string AcceptedTexts(Column column) {
   using enum Column;
   switch (column) {
-    case kText1:
+    case kName:
       return "an initial, a period and up to " + std::to_string(kNameBytes - 1) + " letters A to Z";
-    case kText2:
+    case kPosition:
       return FieldingPositionCodec::Abbreviations();
-    case kText4:
-      return is_pitcher ? "R or L, alone or with " + PitcherMarks() + " behind it"
-                        : BattingSideCodec::Letters();
-    case kText5:
+    case kBattingSide:
+      return BattingSideCodec::Letters();
+    case kThrowingHand:
+      return "R or L, alone or with " + PitcherMarks() + " behind it";
+    case kBatting:
+    case kPitchSpeed:
+    case kSpeed:
       return Numbers(1, kLargestFirstRating);
-    case kText6:
+    case kPower:
+    case kControl:
+    case kFielding:
       return Numbers(1, kLargestSecondRating);
-    case kText7:
-      return Numbers(1, is_pitcher ? kLargestSingleRating : kLargestFirstRating);
-    case kText8:
-      return is_pitcher ? Numbers(0, kLargestSmallNumber) : Numbers(1, kLargestSecondRating);
-    case kText9:
-      return Averages(is_pitcher ? 1 : 0);
-    case kText3:
-    case kText10:
-    case kText11:
+    case kFatigue:
+      return Numbers(1, kLargestSingleRating);
+    case kBattingAverage:
+      return Averages(0);
+    case kEarnedRunAverage:
+      return Averages(1);
+    case kUniformNumber:
+    case kHomeRuns:
+    case kRunsBattedIn:
+    case kWins:
+    case kLosses:
+    case kSaves:
       return Numbers(0, kLargestSmallNumber);
-    case kText12:
-    case kText13:
-    case kText14:
+    case kFace:
+    case kBody:
+    case kLegs:
       return FromTo(ByteToText(0x00), ByteToText(0xFF)) +
              " in hexadecimal; click a box to pick from pictures";
   }

@@ -3,11 +3,11 @@
 #include <array>
 #include <cstddef>
 
-#include "team/grid_columns.h"
+#include "team/blocks.h"
 
 namespace morlek {
 
-/// One cell of the roster grid; row 0 to 24.
+/// One cell of the roster grid; row 0 to 24, and a column of that row's block.
 struct Cell {
   Column column;
   int row;
@@ -18,21 +18,43 @@ struct Cell {
 /// How many cells the grid has.
 inline constexpr std::size_t kCellCount = std::size_t{kSlotCount} * kColumnCount;
 
-/// The place of a cell in a table of all cells, row by row in the order of the arrays' numbers.
-[[nodiscard]] constexpr std::size_t IndexOf(Cell cell) {
-  return static_cast<std::size_t>(cell.row * kColumnCount + static_cast<int>(cell.column) - 1);
-}
-
-/// All cells in that order.
+/// All cells, row by row, within a row in the order of their columns' list.
 inline constexpr std::array<Cell, kCellCount> kAllCells = [] {
   std::array<Cell, kCellCount> cells{};
+  std::size_t index = 0;
   for (int row = 0; row < kSlotCount; ++row) {
-    for (int column = 1; column <= kColumnCount; ++column) {
-      const Cell cell{static_cast<Column>(column), row};
-      cells.at(IndexOf(cell)) = cell;
+    for (std::size_t kind = 0; kind < kColumnKinds; ++kind) {
+      const auto column = static_cast<Column>(kind);
+      if (BlockOf(row).PlaceOf(column)) cells.at(index++) = {column, row};
     }
   }
   return cells;
 }();
+
+/// All cells as they stand on the screen, row by row from left to right.
+inline constexpr std::array<Cell, kCellCount> kCellsOnScreen = [] {
+  std::array<Cell, kCellCount> cells{};
+  std::size_t index = 0;
+  for (int row = 0; row < kSlotCount; ++row) {
+    for (const BlockColumn& each : BlockOf(row).columns) cells.at(index++) = {each.column, row};
+  }
+  return cells;
+}();
+
+/// The place of a cell in kAllCells; kCellCount for a cell that the grid does not have.
+[[nodiscard]] constexpr std::size_t IndexOf(Cell cell) {
+  constexpr auto kPlaces = [] {
+    std::array<std::array<std::size_t, kColumnKinds>, kSlotCount> places{};
+    for (auto& row : places) row.fill(kCellCount);
+    for (std::size_t index = 0; index < kCellCount; ++index) {
+      const Cell each = kAllCells.at(index);
+      places.at(static_cast<std::size_t>(each.row)).at(static_cast<std::size_t>(each.column)) =
+          index;
+    }
+    return places;
+  }();
+  const auto row = static_cast<std::size_t>(cell.row);
+  return row < kPlaces.size() ? kPlaces[row].at(static_cast<std::size_t>(cell.column)) : kCellCount;
+}
 
 }  // namespace morlek

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 
 #include "image/record_layout.h"
 
@@ -16,6 +18,11 @@ class RecordBytes {
     return bytes_.at(Index(row, offset));
   }
   void Put(int row, int offset, std::uint8_t byte) { bytes_.at(Index(row, offset)) = byte; }
+
+  /// Whether a byte is there at any of these offsets of a row.
+  [[nodiscard]] bool HasAny(int row, std::span<const int> offsets) const {
+    return std::ranges::any_of(offsets, [&](int offset) { return At(row, offset).has_value(); });
+  }
 
   /// Puts every byte that is there in `others`.
   void PutAll(const RecordBytes& others) {

@@ -1,12 +1,13 @@
 #include "team/record_decoder.h"
 
 #include <string>
+#include <string_view>
 
 #include "codecs/average_word.h"
 #include "codecs/hex_text.h"
 #include "codecs/rating_digit_codec.h"
 #include "image/failure.h"
-#include "image/record_layout.h"
+#include "team/column_bytes.h"
 
 namespace morlek {
 namespace {
@@ -19,164 +20,155 @@ std::string WhereText(int row, int offset) {
 }
 
 /// The first character, a point, and the rest: the form of names and earned run averages.
-std::string WithPoint(const std::string& text) {
-  return text.substr(0, 1) + "." + (text.empty() ? "" : text.substr(1));
+std::string WithPoint(std::string_view text) {
+  return std::string(text.substr(0, 1)) + "." + std::string(text.empty() ? "" : text.substr(1));
 }
 
-/// One run over the record, a pass for each field.
+/// One run over the record, a pass for each field. Every pass reads and decodes the bytes of all
+/// rows, because decoders keep their results, but shows them only in rows that have the column.
 class RecordDecoder {
  public:
-  RecordDecoder(const RecordSource& source, KeptState& kept, RosterGrid& grid)
-      : source_(source), kept_(kept), grid_(grid) {}
+  RecordDecoder(const RecordSource& source, CodecState& state, RosterGrid& grid)
+      : source_(source), state_(state), grid_(grid) {}
 
   void LoadAll();
 
  private:
   void LoadNames();
   void LoadFieldingPositions();
-  void LoadUniformNumbers();
   void LoadHands();
   void LoadPitcherMarks();
-  void LoadFirstRatings();
-  void LoadSecondRatings();
-  void LoadAppearance(Column column, int offset);
+  void LoadRatingPairs(const Block& block, Column first, Column second);
+  void LoadFatigueRatings();
+  void LoadAppearance(Column column);
   void LoadBattingAverages();
   void LoadEarnedRunAverages();
+  void LoadNumbers(Column column);
 
-  /// Which block of the grid shows what a pass has decoded.
-  enum class Rows { kAll, kBatters, kPitchers };
-  void LoadNumbers(Column column, Rows rows, int offset);
-
-  void ShowRating(Column column, int row, int offset, std::string_view digits);
+  void Show(Cell cell, std::string_view text);
+  void ShowRating(Cell cell, std::string_view digits);
   [[nodiscard]] std::uint8_t Read(int row, int offset);
+  [[nodiscard]] std::uint8_t Read(Cell cell) { return Read(cell.row, OffsetOf(cell.column)); }
+  [[nodiscard]] std::string ReadPairKey(Cell cell);
+  /// The digits of the rating byte of a cell. Both bytes of a slot have the same form.
+  [[nodiscard]] std::string RatingDigits(Cell cell) {
+    return FormatRatingBytes({.first = Read(cell)}).first;
+  }
 
   const RecordSource& source_;
-  KeptState& kept_;
+  CodecState& state_;
   RosterGrid& grid_;
 };
 
 void RecordDecoder::LoadAll() {
   LoadNames();
   LoadFieldingPositions();
-  LoadUniformNumbers();
+  LoadNumbers(kUniformNumber);
   LoadHands();
   LoadPitcherMarks();
-  LoadFirstRatings();
-  LoadSecondRatings();
-  LoadAppearance(kText12, offset::kFace);
-  LoadAppearance(kText13, offset::kBody);
-  LoadAppearance(kText14, offset::kLegs);
+  LoadRatingPairs(kBatters, kBatting, kPower);
+  LoadRatingPairs(kPitchers, kPitchSpeed, kControl);
+  LoadRatingPairs(kBatters, kSpeed, kFielding);
+  LoadFatigueRatings();
+  for (const Column column : kFeatures) LoadAppearance(column);
   LoadBattingAverages();
   LoadEarnedRunAverages();
-  LoadNumbers(kText10, Rows::kBatters, offset::kHomeRuns);
-  LoadNumbers(kText11, Rows::kBatters, offset::kRunsBattedIn);
-  LoadNumbers(kText8, Rows::kPitchers, offset::kWins);
-  LoadNumbers(kText10, Rows::kPitchers, offset::kLosses);
-  LoadNumbers(kText11, Rows::kPitchers, offset::kSaves);
+  for (const Column column : {kHomeRuns, kRunsBattedIn, kWins, kLosses, kSaves}) {
+    LoadNumbers(column);
+  }
 }
 
 void RecordDecoder::LoadNames() {
   for (int row = 0; row < kSlotCount; ++row) {
     std::string letters;
-    for (int letter = 0; letter < kNameBytes; ++letter) {
-      letters += kept_.name_letter.DecodeNameLetter(Read(row, offset::kName + letter));
+    for (const int offset : BytesOf(kName)) {
+      letters += state_.name_letter.DecodeNameLetter(Read(row, offset)).text;
     }
-    grid_.SetText({kText1, row}, WithPoint(letters));
+    Show({kName, row}, WithPoint(letters));
   }
 }
 
 void RecordDecoder::LoadFieldingPositions() {
   for (int row = 0; row < kSlotCount; ++row) {
-    const std::uint8_t code = Read(row, offset::kFieldingPosition);
-    grid_.SetText({kText2, row}, kept_.fielding_position.DecodeFieldingPosition(code));
+    const Cell cell{kPosition, row};
+    Show(cell, state_.fielding_position.DecodeFieldingPosition(Read(cell)).text);
   }
 }
 
-void RecordDecoder::LoadUniformNumbers() {
-  LoadNumbers(kText3, Rows::kAll, offset::kUniformNumber);
-}
-
 void RecordDecoder::LoadHands() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    grid_.SetText({kText4, row},
-                  IsPitcher(row)
-                      ? DecodeThrowingHand(Read(row, offset::kThrowingHand))
-                      : kept_.batting_side.DecodeBattingSide(Read(row, offset::kBattingSide)));
+  for (int row = kBatters.first_row; row < kBatters.end_row; ++row) {
+    const Cell cell{kBattingSide, row};
+    Show(cell, state_.batting_side.DecodeBattingSide(Read(cell)).text);
+  }
+  for (int row = kPitchers.first_row; row < kPitchers.end_row; ++row) {
+    const Cell cell{kThrowingHand, row};
+    Show(cell, DecodeThrowingHand(Read(cell)));
   }
 }
 
 void RecordDecoder::LoadPitcherMarks() {
   for (int row = 0; row < kSlotCount; ++row) {
-    const std::uint8_t byte = Read(row, offset::kPitcherMarks);
-    const std::string& marks = kept_.pitcher_marks.DecodePitcherMarks(byte);
-    if (IsPitcher(row)) grid_.SetText({kText4, row}, grid_.Text({kText4, row}) + marks);
+    const std::uint8_t byte = Read(row, BytesOf(kThrowingHand).back());
+    const std::string_view marks = state_.pitcher_marks.DecodePitcherMarks(byte).text;
+    if (!kPitchers.Contains(row)) continue;
+    const Cell cell{kThrowingHand, row};
+    Show(cell, grid_.Text(cell) + std::string(marks));
   }
 }
 
-void RecordDecoder::LoadFirstRatings() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const std::string digits = FormatRatingBytes({.first = Read(row, offset::kFirstRatings)}).first;
-    ShowRating(kText5, row, offset::kFirstRatings, digits.substr(0, 1));
-    ShowRating(kText6, row, offset::kFirstRatings, digits.substr(1));
+void RecordDecoder::LoadRatingPairs(const Block& block, Column first, Column second) {
+  for (int row = block.first_row; row < block.end_row; ++row) {
+    const std::string digits = RatingDigits({first, row});
+    ShowRating({first, row}, digits.substr(0, 1));
+    ShowRating({second, row}, digits.substr(1));
   }
 }
 
-void RecordDecoder::LoadSecondRatings() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const std::string digits =
-        FormatRatingBytes({.second = Read(row, offset::kSecondRatings)}).second;
-    if (IsPitcher(row)) {
-      ShowRating(kText7, row, offset::kSecondRatings, digits);
-    } else {
-      ShowRating(kText7, row, offset::kSecondRatings, digits.substr(0, 1));
-      ShowRating(kText8, row, offset::kSecondRatings, digits.substr(1));
-    }
+void RecordDecoder::LoadFatigueRatings() {
+  for (int row = kPitchers.first_row; row < kPitchers.end_row; ++row) {
+    ShowRating({kFatigue, row}, RatingDigits({kFatigue, row}));
   }
 }
 
-void RecordDecoder::LoadAppearance(Column column, int offset) {
-  for (int row = 0; row < kSlotCount; ++row) {
-    grid_.SetText({column, row}, ByteToText(Read(row, offset)));
-  }
+void RecordDecoder::LoadAppearance(Column column) {
+  for (int row = 0; row < kSlotCount; ++row) Show({column, row}, ByteToText(Read({column, row})));
 }
 
 void RecordDecoder::LoadBattingAverages() {
   for (int row = 0; row < kSlotCount; ++row) {
-    const std::uint8_t low = Read(row, offset::kBattingAverage);
-    const std::uint8_t high = Read(row, offset::kBattingAverage + 1);
-    const std::string& average = kept_.batting_average.DecodeBattingAverage(PairKey(low, high));
-    if (!IsPitcher(row)) grid_.SetText({kText9, row}, average);
+    const Cell cell{kBattingAverage, row};
+    Show(cell, state_.batting_average.DecodeBattingAverage(ReadPairKey(cell)).text);
   }
 }
 
 void RecordDecoder::LoadEarnedRunAverages() {
   for (int row = 0; row < kSlotCount; ++row) {
-    const std::uint8_t low = Read(row, offset::kEarnedRunAverage);
-    const std::uint8_t high = Read(row, offset::kEarnedRunAverage + 1);
-    const std::string& digits = kept_.earned_run_average.DecodeEarnedRunAverage(PairKey(low, high));
-    if (!IsPitcher(row)) continue;
-    grid_.SetText({kText9, row}, WithPoint(digits));
+    const Cell cell{kEarnedRunAverage, row};
+    const std::string key = ReadPairKey(cell);
+    Show(cell, WithPoint(state_.earned_run_average.DecodeEarnedRunAverage(key).text));
   }
 }
 
-void RecordDecoder::LoadNumbers(Column column, Rows rows, int offset) {
+void RecordDecoder::LoadNumbers(Column column) {
   for (int row = 0; row < kSlotCount; ++row) {
-    SmallNumberCodec& codec = kept_.small_number;
-    codec.number_bytes.at(static_cast<std::size_t>(row)) = Read(row, offset);
-    const std::string& number = codec.DecodeSmallNumber(row);
-    if (rows == Rows::kAll || IsPitcher(row) == (rows == Rows::kPitchers)) {
-      grid_.SetText({column, row}, number);
-    }
+    SmallNumberCodec& codec = state_.small_number;
+    codec.number_bytes.at(static_cast<std::size_t>(row)) = Read({column, row});
+    Show({column, row}, codec.DecodeSmallNumber(row).text);
   }
 }
 
-void RecordDecoder::ShowRating(Column column, int row, int offset, std::string_view digits) {
+void RecordDecoder::Show(Cell cell, std::string_view text) {
+  if (IndexOf(cell) < kCellCount) grid_.SetText(cell, std::string(text));
+}
+
+void RecordDecoder::ShowRating(Cell cell, std::string_view digits) {
   const std::optional<std::string> shown = ShownRating(digits);
   if (!shown) {
     throw OperationFailed("The team could not be loaded, because the rating" +
-                          WhereText(row, offset) + " holds a digit that is no number.");
+                          WhereText(cell.row, OffsetOf(cell.column)) +
+                          " holds a digit that is no number.");
   }
-  grid_.SetText({column, row}, *shown);
+  Show(cell, *shown);
 }
 
 std::uint8_t RecordDecoder::Read(int row, int offset) {
@@ -188,10 +180,15 @@ std::uint8_t RecordDecoder::Read(int row, int offset) {
   }
 }
 
+std::string RecordDecoder::ReadPairKey(Cell cell) {
+  const std::uint8_t low = Read(cell);
+  return PairKey(low, Read(cell.row, OffsetOf(cell.column) + 1));
+}
+
 }  // namespace
 
-void DecodeRecord(const RecordSource& source, KeptState& kept, RosterGrid& grid) {
-  RecordDecoder(source, kept, grid).LoadAll();
+void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid) {
+  RecordDecoder(source, state, grid).LoadAll();
 }
 
 }  // namespace morlek

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "team/kept_state.h"
+#include "team/codec_state.h"
 #include "team/roster_grid.h"
 
 namespace morlek {
@@ -13,10 +13,10 @@ namespace morlek {
 using RecordSource = std::function<std::uint8_t(int row, int offset)>;
 
 /// Turns the bytes of a record into the texts of the grid, one field at a time across the whole
-/// roster. What a decoder does not know shows its previous result, so the order of the passes is
-/// part of what a load does.
-/// Throws OperationFailed when the source does or when a rating shows no number, and tells where;
+/// roster. A byte that a decoder does not know shows its previous result, so the order of the
+/// passes is part of what a load does.
+/// Throws OperationFailed when the source does or when a rating shows no number, and says where;
 /// the grid is then filled up to that field.
-void DecodeRecord(const RecordSource& source, KeptState& kept, RosterGrid& grid);
+void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid);
 
 }  // namespace morlek

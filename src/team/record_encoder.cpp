@@ -6,6 +6,7 @@
 #include "codecs/number_text.h"
 #include "codecs/rating_digit_codec.h"
 #include "image/record_layout.h"
+#include "team/column_bytes.h"
 
 namespace morlek {
 namespace {
@@ -20,7 +21,7 @@ void Assign(Target& target, std::optional<std::int32_t> converted) {
   if (converted) target = *converted;
 }
 
-/// What the conversions of one save have given last, carried from row to row. Initial and surname
+/// Results of the last conversions of one save, carried from row to row. Initial and surname
 /// letters share a value, and so do wins and saves.
 struct WorkingValues {
   std::int32_t letter = 0;
@@ -45,9 +46,9 @@ struct WorkingValues {
 /// One run over the grid.
 class RecordEncoder {
  public:
-  RecordEncoder(const RosterGrid& grid, KeptState& kept, const RecordSink& sink,
-                MessagePort& messages)
-      : grid_(grid), kept_(kept), sink_(sink), messages_(messages) {}
+  RecordEncoder(const RosterGrid& grid, CodecState& state, const RecordSink& sink,
+                EncodingListener& listener)
+      : grid_(grid), state_(state), sink_(sink), listener_(listener) {}
 
   void SaveInitials();
 
@@ -56,214 +57,220 @@ class RecordEncoder {
 
  private:
   [[nodiscard]] bool SaveName(int row);
+  void SaveLetter(int row, int letter, std::string_view character);
   void SavePosition(int row);
   void SaveUniformNumber(int row);
+  void SaveBatter(int row);
+  void SavePitcher(int row);
   void SaveBattingSide(int row);
   void SavePitcherSFlag(int row);
-  void SaveFirstRatings(int row);
+  void SaveFirstRatings(Cell first, Cell second);
   void SaveSecondRatings(int row);
-  void SaveBattingAverage(int row);
-  void SaveEarnedRunAverage(int row);
-  void SaveCounts(int row);
+  void SaveSecondRating(int row);
+  void SaveAverage(Cell source, CodecAnswer low, std::int32_t& value, std::uint8_t high);
   void SaveFace(int row);
   void SaveThrowingHand(int row);
   void SavePitcherMarks(int row);
-  void SaveBodyAndLegs(int row);
+  void SaveAppearance(Cell source, std::int32_t& value);
 
   /// Passes a count through the number byte buffer and the encoder.
-  [[nodiscard]] std::optional<std::int32_t> EncodeCount(Cell source);
+  void EncodeCount(Cell source, std::int32_t& value);
+  void SaveCount(Cell source, std::int32_t& value);
+
+  [[nodiscard]] const std::string& Text(Cell cell) const { return grid_.Text(cell); }
 
   /// Offers a value that fits into a byte to the sink when the cell that it stands for is filled.
   void WriteFilled(Cell source, int offset, std::int32_t value);
-  void Write(Cell source, int offset, std::int32_t value);
+  void WriteFilled(Cell source, std::int32_t value) {
+    WriteFilled(source, OffsetOf(source.column), value);
+  }
+  void Write(int row, int offset, std::int32_t value);
 
   const RosterGrid& grid_;
-  KeptState& kept_;
+  CodecState& state_;
   const RecordSink& sink_;
-  MessagePort& messages_;
+  EncodingListener& listener_;
   WorkingValues values_;
 };
 
 void RecordEncoder::SaveInitials() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const std::string initial = grid_.Text({kText1, row}).substr(0, 1);
-    Assign(values_.letter,
-           ByteTextToNumber(kept_.name_letter.EncodeNameLetter(initial, messages_)));
-    WriteFilled({kText1, row}, offset::kName, values_.letter);
-  }
+  for (int row = 0; row < kSlotCount; ++row) SaveLetter(row, 0, Text({kName, row}).substr(0, 1));
 }
 
 bool RecordEncoder::SaveRow(int row) {
   if (!SaveName(row)) return false;
   SavePosition(row);
   SaveUniformNumber(row);
-  if (IsPitcher(row)) {
-    SavePitcherSFlag(row);
+  if (kBatters.Contains(row)) {
+    SaveBatter(row);
   } else {
-    SaveBattingSide(row);
+    SavePitcher(row);
   }
-  SaveFirstRatings(row);
-  SaveSecondRatings(row);
-  if (IsPitcher(row)) {
-    SaveEarnedRunAverage(row);
-  } else {
-    SaveBattingAverage(row);
-  }
-  SaveCounts(row);
-  SaveFace(row);
-  if (IsPitcher(row)) {
-    SaveThrowingHand(row);
-    SavePitcherMarks(row);
-  }
-  SaveBodyAndLegs(row);
+  SaveAppearance({kBody, row}, values_.body);
+  SaveAppearance({kLegs, row}, values_.legs);
   return true;
 }
 
 bool RecordEncoder::SaveName(int row) {
-  std::string name = grid_.Text({kText1, row});
-  if (name.size() > kLongestName) return false;
+  std::string name = Text({kName, row});
+  if (name.size() > kLongestName) {
+    listener_.NameTooLong(row);
+    return false;
+  }
   name.resize(kLongestName, ' ');
-
   for (int letter = 1; letter < kNameBytes; ++letter) {
     // The second character, where the period stands, has no letter code.
-    const std::string character = name.substr(static_cast<std::size_t>(letter) + 1, 1);
-    Assign(values_.letter,
-           ByteTextToNumber(kept_.name_letter.EncodeNameLetter(character, messages_)));
-    WriteFilled({kText1, row}, offset::kName + letter, values_.letter);
+    SaveLetter(row, letter, std::string_view(name).substr(static_cast<std::size_t>(letter) + 1, 1));
   }
   return true;
 }
 
+void RecordEncoder::SaveLetter(int row, int letter, std::string_view character) {
+  const CodecAnswer code = state_.name_letter.EncodeNameLetter(character);
+  if (!code.is_known) listener_.UnknownLetter(row, character);
+  Assign(values_.letter, ByteTextToNumber(code.text));
+  WriteFilled({kName, row}, OffsetOf(kName) + letter, values_.letter);
+}
+
 void RecordEncoder::SavePosition(int row) {
-  FieldingPositionCodec& codec = kept_.fielding_position;
+  const Cell cell{kPosition, row};
   Assign(values_.position,
-         ByteTextToNumber(codec.EncodeFieldingPosition(grid_.Text({kText2, row}))));
-  WriteFilled({kText2, row}, offset::kFieldingPosition, values_.position);
+         ByteTextToNumber(state_.fielding_position.EncodeFieldingPosition(Text(cell)).text));
+  WriteFilled(cell, values_.position);
 }
 
 void RecordEncoder::SaveUniformNumber(int row) {
-  SmallNumberCodec& codec = kept_.small_number;
-  Assign(kept_.uniform_number,
-         ByteTextToNumber(codec.EncodeUniformNumber(row, grid_.Text({kText3, row}))));
-  if (kept_.uniform_number) {
-    WriteFilled({kText3, row}, offset::kUniformNumber, *kept_.uniform_number);
-  }
+  const Cell cell{kUniformNumber, row};
+  Assign(state_.uniform_number,
+         ByteTextToNumber(state_.small_number.EncodeUniformNumber(row, Text(cell)).text));
+  if (state_.uniform_number) WriteFilled(cell, *state_.uniform_number);
+}
+
+void RecordEncoder::SaveBatter(int row) {
+  SaveBattingSide(row);
+  SaveFirstRatings({kBatting, row}, {kPower, row});
+  SaveSecondRatings(row);
+  const std::string& average = Text({kBattingAverage, row});
+  SaveAverage({kBattingAverage, row}, state_.batting_average.EncodeBattingAverage(average),
+              values_.batting_average_low, BattingAverageCodec::HighByte(average));
+  // Four counts pass through the shared number text in every row, written or not: what one leaves
+  // there the next one may fall back on.
+  SaveCount({kHomeRuns, row}, values_.home_runs_or_losses);
+  SaveCount({kRunsBattedIn, row}, values_.runs_batted_in);
+  EncodeCount({kFielding, row}, values_.wins_or_saves);
+  EncodeCount({kRunsBattedIn, row}, values_.wins_or_saves);
+  SaveFace(row);
+}
+
+void RecordEncoder::SavePitcher(int row) {
+  SavePitcherSFlag(row);
+  SaveFirstRatings({kPitchSpeed, row}, {kControl, row});
+  SaveSecondRating(row);
+  const std::string& average = Text({kEarnedRunAverage, row});
+  SaveAverage({kEarnedRunAverage, row}, state_.earned_run_average.EncodeEarnedRunAverage(average),
+              values_.earned_run_average_low, EarnedRunAverageCodec::HighByte(average));
+  SaveCount({kLosses, row}, values_.home_runs_or_losses);
+  EncodeCount({kSaves, row}, values_.runs_batted_in);
+  SaveCount({kWins, row}, values_.wins_or_saves);
+  SaveCount({kSaves, row}, values_.wins_or_saves);
+  SaveFace(row);
+  SaveThrowingHand(row);
+  SavePitcherMarks(row);
 }
 
 void RecordEncoder::SaveBattingSide(int row) {
-  BattingSideCodec& codec = kept_.batting_side;
+  const Cell cell{kBattingSide, row};
   Assign(values_.batting_side,
-         ByteTextToNumber(codec.EncodeBattingSide(row, grid_.Text({kText4, row}))));
-  WriteFilled({kText4, row}, offset::kBattingSide, values_.batting_side);
+         ByteTextToNumber(state_.batting_side.EncodeBattingSide(row, Text(cell)).text));
+  WriteFilled(cell, values_.batting_side);
 }
 
 void RecordEncoder::SavePitcherSFlag(int row) {
-  const std::optional<std::int32_t> flag =
-      ByteTextToNumber(EncodePitcherSFlag(grid_.Text({kText4, row})));
+  const auto flag = ByteTextToNumber(EncodePitcherSFlag(Text({kThrowingHand, row})));
   // Written for an empty cell too.
-  if (flag) Write({kText4, row}, offset::kPitcherSFlag, *flag);
+  if (flag) Write(row, offset::kPitcherSFlag, *flag);
 }
 
-void RecordEncoder::SaveFirstRatings(int row) {
-  Assign(kept_.first_ratings, PackRatings(grid_.Text({kText5, row}), grid_.Text({kText6, row})));
-  if (kept_.first_ratings) WriteFilled({kText5, row}, offset::kFirstRatings, *kept_.first_ratings);
+void RecordEncoder::SaveFirstRatings(Cell first, Cell second) {
+  Assign(state_.first_ratings, PackRatings(Text(first), Text(second)));
+  if (state_.first_ratings) WriteFilled(first, *state_.first_ratings);
 }
 
 void RecordEncoder::SaveSecondRatings(int row) {
-  if (IsPitcher(row)) {
-    Assign(values_.pitcher_second_rating, PackSingleRating(grid_.Text({kText7, row})));
-    WriteFilled({kText7, row}, offset::kSecondRatings, values_.pitcher_second_rating);
-  } else {
-    Assign(values_.batter_second_ratings,
-           PackRatings(grid_.Text({kText7, row}), grid_.Text({kText8, row})));
-    WriteFilled({kText7, row}, offset::kSecondRatings, values_.batter_second_ratings);
-  }
+  const Cell first{kSpeed, row};
+  Assign(values_.batter_second_ratings, PackRatings(Text(first), Text({kFielding, row})));
+  WriteFilled(first, values_.batter_second_ratings);
 }
 
-void RecordEncoder::SaveBattingAverage(int row) {
-  const std::string& average = grid_.Text({kText9, row});
-  Assign(values_.batting_average_low,
-         ByteTextToNumber(kept_.batting_average.EncodeBattingAverage(average)));
-  WriteFilled({kText9, row}, offset::kBattingAverage, values_.batting_average_low);
-  WriteFilled({kText9, row}, offset::kBattingAverage + 1, BattingAverageCodec::HighByte(average));
+void RecordEncoder::SaveSecondRating(int row) {
+  const Cell cell{kFatigue, row};
+  Assign(values_.pitcher_second_rating, PackSingleRating(Text(cell)));
+  WriteFilled(cell, values_.pitcher_second_rating);
 }
 
-void RecordEncoder::SaveEarnedRunAverage(int row) {
-  const std::string& average = grid_.Text({kText9, row});
-  Assign(values_.earned_run_average_low,
-         ByteTextToNumber(kept_.earned_run_average.EncodeEarnedRunAverage(average)));
-  WriteFilled({kText9, row}, offset::kEarnedRunAverage, values_.earned_run_average_low);
-  WriteFilled({kText9, row}, offset::kEarnedRunAverage + 1,
-              EarnedRunAverageCodec::HighByte(average));
-}
-
-void RecordEncoder::SaveCounts(int row) {
-  // All four pass through the shared number text in every row; what one leaves there the next one
-  // may fall back on.
-  Assign(values_.home_runs_or_losses, EncodeCount({kText10, row}));
-  WriteFilled({kText10, row}, offset::kHomeRuns, values_.home_runs_or_losses);
-
-  Assign(values_.runs_batted_in, EncodeCount({kText11, row}));
-  if (!IsPitcher(row)) WriteFilled({kText11, row}, offset::kRunsBattedIn, values_.runs_batted_in);
-
-  Assign(values_.wins_or_saves, EncodeCount({kText8, row}));
-  if (IsPitcher(row)) WriteFilled({kText8, row}, offset::kWins, values_.wins_or_saves);
-
-  Assign(values_.wins_or_saves, EncodeCount({kText11, row}));
-  if (IsPitcher(row)) WriteFilled({kText11, row}, offset::kSaves, values_.wins_or_saves);
+void RecordEncoder::SaveAverage(Cell source, CodecAnswer low, std::int32_t& value,
+                                std::uint8_t high) {
+  Assign(value, ByteTextToNumber(low.text));
+  WriteFilled(source, value);
+  WriteFilled(source, OffsetOf(source.column) + 1, high);
 }
 
 void RecordEncoder::SaveFace(int row) {
-  values_.face_code = kept_.appearance.NormalizeAppearanceCode(grid_.Text({kText12, row}));
+  const Cell cell{kFace, row};
+  values_.face_code = state_.appearance.NormalizeAppearanceCode(Text(cell));
   Assign(values_.face, ByteTextToNumber(values_.face_code));
-  WriteFilled({kText12, row}, offset::kFace, values_.face);
+  WriteFilled(cell, values_.face);
 }
 
 void RecordEncoder::SaveThrowingHand(int row) {
-  Assign(values_.hand, ByteTextToNumber(values_.hand_encoder.EncodeHandAndFace(
-                           grid_.Text({kText4, row}), values_.face_code)));
+  Assign(values_.hand,
+         ByteTextToNumber(
+             values_.hand_encoder.EncodeHandAndFace(Text({kThrowingHand, row}), values_.face_code)
+                 .text));
   // The hand shares its byte with the face, so it is written when the face is filled.
-  WriteFilled({kText12, row}, offset::kThrowingHand, values_.hand);
+  WriteFilled({kFace, row}, OffsetOf(kThrowingHand), values_.hand);
 }
 
 void RecordEncoder::SavePitcherMarks(int row) {
-  Assign(values_.marks,
-         ByteTextToNumber(values_.hand_encoder.EncodeMarks(grid_.Text({kText4, row}))));
-  WriteFilled({kText4, row}, offset::kPitcherMarks, values_.marks);
+  const Cell cell{kThrowingHand, row};
+  Assign(values_.marks, ByteTextToNumber(values_.hand_encoder.EncodeMarks(Text(cell)).text));
+  WriteFilled(cell, BytesOf(kThrowingHand).back(), values_.marks);
 }
 
-void RecordEncoder::SaveBodyAndLegs(int row) {
-  AppearanceCodec& codec = kept_.appearance;
-  Assign(values_.body, ByteTextToNumber(codec.NormalizeAppearanceCode(grid_.Text({kText13, row}))));
-  WriteFilled({kText13, row}, offset::kBody, values_.body);
-  Assign(values_.legs, ByteTextToNumber(codec.NormalizeAppearanceCode(grid_.Text({kText14, row}))));
-  WriteFilled({kText14, row}, offset::kLegs, values_.legs);
+void RecordEncoder::SaveAppearance(Cell source, std::int32_t& value) {
+  Assign(value, ByteTextToNumber(state_.appearance.NormalizeAppearanceCode(Text(source))));
+  WriteFilled(source, value);
 }
 
-std::optional<std::int32_t> RecordEncoder::EncodeCount(Cell source) {
-  SmallNumberCodec& codec = kept_.small_number;
-  if (const auto count = TextToByte(grid_.Text(source))) {
+void RecordEncoder::EncodeCount(Cell source, std::int32_t& value) {
+  SmallNumberCodec& codec = state_.small_number;
+  if (const auto count = TextToByte(Text(source))) {
     codec.number_bytes.at(static_cast<std::size_t>(source.row)) = *count;
   }
-  return ByteTextToNumber(codec.EncodeSmallNumber(source.row));
+  Assign(value, ByteTextToNumber(codec.EncodeSmallNumber(source.row).text));
+}
+
+void RecordEncoder::SaveCount(Cell source, std::int32_t& value) {
+  EncodeCount(source, value);
+  WriteFilled(source, value);
 }
 
 void RecordEncoder::WriteFilled(Cell source, int offset, std::int32_t value) {
-  if (!grid_.Text(source).empty()) Write(source, offset, value);
+  if (!Text(source).empty()) Write(source.row, offset, value);
 }
 
-void RecordEncoder::Write(Cell source, int offset, std::int32_t value) {
+void RecordEncoder::Write(int row, int offset, std::int32_t value) {
   constexpr std::int32_t kLargestByte = 255;
   if (value < 0 || value > kLargestByte) return;
   // A write that fails is skipped like every other step.
-  static_cast<void>(sink_(source, offset, static_cast<std::uint8_t>(value)));
+  static_cast<void>(sink_(row, offset, static_cast<std::uint8_t>(value)));
 }
 
 }  // namespace
 
-std::optional<int> EncodeRecord(const RosterGrid& grid, KeptState& kept, const RecordSink& sink,
-                                MessagePort& messages) {
-  RecordEncoder encoder(grid, kept, sink, messages);
+std::optional<int> EncodeRecord(const RosterGrid& grid, CodecState& state, const RecordSink& sink,
+                                EncodingListener& listener) {
+  RecordEncoder encoder(grid, state, sink, listener);
   encoder.SaveInitials();
   for (int row = 0; row < kSlotCount; ++row) {
     if (!encoder.SaveRow(row)) return row;

@@ -3,23 +3,41 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string_view>
 
-#include "codecs/message_port.h"
-#include "team/kept_state.h"
+#include "team/codec_state.h"
 #include "team/roster_grid.h"
 
 namespace morlek {
 
-/// Takes the byte that a cell (by itself or with others of its row) has become, for an offset (0 to
-/// 31) in the cell's row; false when it could not.
-using RecordSink = std::function<bool(Cell cell, int offset, std::uint8_t byte)>;
+/// Takes the byte that a cell (by itself or with others of its row) has become, for a row (0 to 24)
+/// and an offset (0 to 31) of the record; false when it could not.
+using RecordSink = std::function<bool(int row, int offset, std::uint8_t byte)>;
+
+/// Hears, at the moment it is found, what of a name cannot be encoded. It may keep the encoder
+/// waiting, as a message box does.
+class EncodingListener {
+ public:
+  virtual ~EncodingListener() = default;
+
+  /// The name of this row has a letter that the game lacks; an empty name has the empty letter.
+  virtual void UnknownLetter(int row, std::string_view letter) = 0;
+
+  /// The name of this row has more than 10 characters, so the encoder ends here.
+  virtual void NameTooLong(int row) = 0;
+
+ protected:
+  EncodingListener() = default;
+  EncodingListener(const EncodingListener&) = default;
+  EncodingListener& operator=(const EncodingListener&) = default;
+};
 
 /// Turns the texts of the grid into the bytes of a record: the initials of all names first, then
 /// row by row. It skips a step that fails and goes on with the next one: a conversion that fails
 /// leaves its working value as it was, so the following write repeats what the same field had in
 /// the row before; a byte that the sink does not take is not offered again.
 /// A name of more than 10 characters ends it; the result is then that row, else nothing.
-std::optional<int> EncodeRecord(const RosterGrid& grid, KeptState& kept, const RecordSink& sink,
-                                MessagePort& messages);
+std::optional<int> EncodeRecord(const RosterGrid& grid, CodecState& state, const RecordSink& sink,
+                                EncodingListener& listener);
 
 }  // namespace morlek

@@ -11,8 +11,8 @@ void RosterGrid::SetText(Cell cell, std::string text) {
 }
 
 std::string PlayerText(int row) {
-  return IsPitcher(row) ? "pitcher " + std::to_string(row - kBatterCount + 1)
-                        : "batter " + std::to_string(row + 1);
+  const Block& block = BlockOf(row);
+  return std::string(block.player) + " " + std::to_string(row - block.first_row + 1);
 }
 
 }  // namespace morlek

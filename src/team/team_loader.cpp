@@ -1,32 +1,34 @@
 #include "team/team_loader.h"
 
 #include "image/failure.h"
-#include "image/team_directory.h"
 #include "team/record_decoder.h"
 
 namespace morlek {
 
-RecordBytes TeamLoader::Load(std::string_view toolbar_key, RosterGrid& grid, TeamView& view) {
-  if (!image_.Open()) {
-    throw OperationFailed(
+LoadResult LoadTeam(CartridgeImage& image, const RecordLocation& location, CodecState& state,
+                    RosterGrid& grid) {
+  using enum LoadResult::Outcome;
+  LoadResult result;
+  if (!image.Open(location.image)) {
+    result.outcome = kNotOpened;
+    result.failure =
         "The team could not be loaded, because the image could not be opened for reading and "
-        "writing.");
+        "writing.";
+    return result;
   }
-  if (const Team* team = FindTeam(toolbar_key)) {
-    view.ShowTeamName(team->display_name);
-    image_.SetTeamBase(team->base);
-  }
-  view.PrepareView();
-
-  RecordBytes read;
-  const auto source = [this, &read](int row, int offset) {
-    const std::uint8_t byte = image_.ReadField(row, offset);
-    read.Put(row, offset, byte);
+  const auto source = [&](int row, int offset) {
+    const std::uint8_t byte = image.ReadField(location.base, row, offset);
+    result.read.Put(row, offset, byte);
     return byte;
   };
-  DecodeRecord(source, kept_, grid);
-  image_.Close();
-  return read;
+  try {
+    DecodeRecord(source, state, grid);
+    image.Close();
+  } catch (const OperationFailed& failure) {
+    result.outcome = kEndedEarly;
+    result.failure = failure.what();
+  }
+  return result;
 }
 
 }  // namespace morlek

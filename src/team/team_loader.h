@@ -1,46 +1,30 @@
 #pragma once
 
-#include <string_view>
+#include <string>
 
 #include "image/cartridge_image.h"
-#include "team/kept_state.h"
+#include "team/codec_state.h"
 #include "team/record_bytes.h"
 #include "team/roster_grid.h"
 
 namespace morlek {
 
-/// What the loader asks of the window.
-class TeamView {
- public:
-  virtual ~TeamView() = default;
-
-  /// Shows the name of the team over its roster.
-  virtual void ShowTeamName(std::string_view display_name) = 0;
-
-  /// Shows toolbar and grid in the narrow layout.
-  virtual void PrepareView() = 0;
-
- protected:
-  TeamView() = default;
-  TeamView(const TeamView&) = default;
-  TeamView& operator=(const TeamView&) = default;
+/// What came of a load.
+struct LoadResult {
+  enum class Outcome {
+    kLoaded,
+    kNotOpened,   // the image could not be opened; grid, state and channel are as they were
+    kEndedEarly,  // the grid is filled up to the field that failed, and the image is open
+  };
+  Outcome outcome = Outcome::kLoaded;
+  /// The bytes that were read.
+  RecordBytes read;
+  /// Says in plain words why the load failed, and where; empty for a load that came through.
+  std::string failure;
 };
 
-/// Fills a grid from the image, which it only reads.
-class TeamLoader {
- public:
-  /// Image and kept state outlive the loader.
-  TeamLoader(CartridgeImage& image, KeptState& kept) : image_(image), kept_(kept) {}
-
-  /// Loads the team with this toolbar key; an unknown key loads the current team again. Gives the
-  /// bytes that were read.
-  /// Throws OperationFailed when the image cannot be opened (nothing has changed then) or read, or
-  /// when a rating shows no number; the grid is then filled up to that field and the image is open.
-  RecordBytes Load(std::string_view toolbar_key, RosterGrid& grid, TeamView& view);
-
- private:
-  CartridgeImage& image_;
-  KeptState& kept_;
-};
+/// Fills a grid from a record, which it only reads.
+[[nodiscard]] LoadResult LoadTeam(CartridgeImage& image, const RecordLocation& location,
+                                  CodecState& state, RosterGrid& grid);
 
 }  // namespace morlek

@@ -1,40 +1,30 @@
 #pragma once
 
-#include <functional>
+#include <optional>
 
-#include "codecs/message_port.h"
 #include "image/cartridge_image.h"
-#include "team/kept_state.h"
+#include "team/codec_state.h"
 #include "team/record_bytes.h"
+#include "team/record_encoder.h"
 #include "team/roster_grid.h"
 
 namespace morlek {
 
-/// Which bytes the image took in a save, and which it refused.
-struct SavedBytes {
+/// What came of a save.
+struct SaveResult {
+  /// The bytes that the image took, and those that it refused.
   RecordBytes taken;
   RecordBytes refused;
+  /// The row of the name that ended the save; nothing when it went to its end.
+  std::optional<int> end_row;
 };
 
-/// Writes a grid into the image, the program's only write path.
-class TeamSaver {
- public:
-  /// Image, kept state and message port outlive the saver.
-  TeamSaver(CartridgeImage& image, KeptState& kept, MessagePort& messages)
-      : image_(image), kept_(kept), messages_(messages) {}
-
-  /// Saves the grid into the current record and says so, also when nothing could be written. A name
-  /// of more than 10 characters is told instead and ends the save; what was written stays. Either
-  /// way `settled` hears once what the image took, as soon as its file is closed: before the person
-  /// is told that the changes have been saved.
-  void Save(
-      const RosterGrid& grid,
-      const std::function<void(const SavedBytes&)>& settled = [](const SavedBytes&) {});
-
- private:
-  CartridgeImage& image_;
-  KeptState& kept_;
-  MessagePort& messages_;
-};
+/// Writes a grid into a record, the program's only write path. A step that fails is skipped; when
+/// the image cannot be opened every write fails, and the codecs run all the same. At the end
+/// channel 1 is closed, whatever was open on it. `listener` hears of letters and names that cannot
+/// be saved while the image is still open.
+[[nodiscard]] SaveResult SaveTeam(CartridgeImage& image, const RecordLocation& location,
+                                  const RosterGrid& grid, CodecState& state,
+                                  EncodingListener& listener);
 
 }  // namespace morlek

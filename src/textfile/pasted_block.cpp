@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "textfile/team_import.h"
-
 namespace morlek {
 namespace {
 
@@ -29,21 +27,21 @@ std::string_view WithoutLastLineBreak(std::string_view text) {
   return text;
 }
 
-RosterGrid WithBlock(RosterGrid grid, Cell start, std::string_view block) {
-  const BlockColumns& columns = ColumnsOfRow(start.row);
-  const auto first = std::ranges::find(columns, start.column, &GridColumn::column);
-  const int end_row = IsPitcher(start.row) ? kSlotCount : kBatterCount;
+RosterGrid WithBlock(RosterGrid grid, Cell start, std::string_view text) {
+  const Block& block = BlockOf(start.row);
+  const std::size_t first = block.PlaceOf(start.column).value_or(block.columns.size());
 
-  block = WithoutLastLineBreak(block);
-  for (int row = start.row; row < end_row; ++row) {
-    const std::size_t left = block.size();
-    std::string_view line = TakeUpTo(block, "\r\n");
+  text = WithoutLastLineBreak(text);
+  for (int row = start.row; row < block.end_row; ++row) {
+    const std::size_t left = text.size();
+    std::string_view line = TakeUpTo(text, "\r\n");
     const bool is_last = line.size() == left;
-    for (auto column = first; column != columns.end(); ++column) {
+    for (std::size_t place = first; place < block.columns.size(); ++place) {
       const std::size_t rest = line.size();
-      const std::string_view text = TakeUpTo(line, "\t");
-      grid.SetText({column->column, row}, std::string(text.substr(0, kLongestField)));
-      if (text.size() == rest) break;
+      const std::string_view cell_text = TakeUpTo(line, "\t");
+      grid.SetText({block.columns.at(place).column, row},
+                   std::string(cell_text.substr(0, kLongestText)));
+      if (cell_text.size() == rest) break;
     }
     if (is_last) break;
   }

@@ -14,8 +14,8 @@ namespace morlek {
 [[nodiscard]] std::string_view WithoutLastLineBreak(std::string_view text);
 
 /// The grid with a block laid into it from `start` on, right and down as the columns stand on the
-/// screen: tabs part the cells, line breaks the rows. What goes beyond the edges of the block of
-/// batters or pitchers is left out, and of a longer text than a box holds its end.
-[[nodiscard]] RosterGrid WithBlock(RosterGrid grid, Cell start, std::string_view block);
+/// screen: tabs separate the cells, line breaks the rows. What goes beyond the edges of the block
+/// of batters or pitchers is left out, and longer texts than a cell holds are truncated.
+[[nodiscard]] RosterGrid WithBlock(RosterGrid grid, Cell start, std::string_view text);
 
 }  // namespace morlek

@@ -6,17 +6,22 @@
 
 namespace morlek {
 
-void ExportTeamData(Channel& channel, const std::filesystem::path& path, const RosterGrid& grid) {
-  if (!channel.OpenTextOutput(path)) throw OperationFailed("The file could not be opened.");
+ExportResult ExportTeamData(Channel& channel, const std::filesystem::path& path,
+                            const RosterGrid& grid) {
+  if (!channel.OpenTextOutput(path)) return ExportResult::kNotOpened;
   for (int row = 0; row < kSlotCount; ++row) {
     std::string line;
-    for (const GridColumn& column : ColumnsOfRow(row)) {
-      line += grid.Text({column.column, row});
+    for (const BlockColumn& each : BlockOf(row).columns) {
+      line += grid.Text({each.column, row});
       line += ',';
     }
-    channel.WriteLine(line);
+    try {
+      channel.WriteLine(line);
+    } catch (const OperationFailed&) {
+      return ExportResult::kEndedEarly;
+    }
   }
-  if (!channel.Close()) throw OperationFailed("The file could not be written to its end.");
+  return channel.Close() ? ExportResult::kWritten : ExportResult::kNotClosed;
 }
 
 }  // namespace morlek

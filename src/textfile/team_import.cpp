@@ -29,33 +29,45 @@ class LineReader {
   Channel& channel_;
 };
 
+/// Fills a row from the next line. What stands behind the line's last comma stays in `field`.
+void ReadRow(LineReader& reader, int row, std::string& field, RosterGrid& grid) {
+  reader.RequireLine();
+  const auto& columns = BlockOf(row).columns;
+  std::size_t index = 0;
+  while (const std::optional<char> character = reader.NextCharacter()) {
+    if (*character != ',') {
+      if (field.size() < kLongestText) field += *character;
+      continue;
+    }
+    if (index < columns.size()) grid.SetText({columns.at(index).column, row}, field);
+    ++index;
+    field.clear();
+  }
+}
+
 }  // namespace
 
 void ClearRosterGrid(RosterGrid& grid) {
   for (const Cell cell : kAllCells) grid.SetText(cell, {});
 }
 
-void ImportTeamData(Channel& channel, const std::filesystem::path& path, RosterGrid& grid) {
-  if (!channel.OpenTextInput(path)) throw OperationFailed("The file could not be opened.");
-  ClearRosterGrid(grid);
-
-  LineReader reader(channel);
-  std::string field;
-  for (int row = 0; row < kSlotCount; ++row) {
-    reader.RequireLine();
-    const BlockColumns& columns = ColumnsOfRow(row);
-    std::size_t index = 0;
-    while (const std::optional<char> character = reader.NextCharacter()) {
-      if (*character != ',') {
-        if (field.size() < kLongestField) field += *character;
-        continue;
-      }
-      if (index < columns.size()) grid.SetText({columns.at(index).column, row}, field);
-      ++index;
-      field.clear();
-    }
+ImportResult ImportTeamData(Channel& channel, const std::filesystem::path& path, RosterGrid& grid) {
+  using enum ImportResult::Outcome;
+  ImportResult result;
+  if (!channel.OpenTextInput(path)) {
+    result.outcome = kNotOpened;
+    return result;
   }
-  channel.Close();
+  ClearRosterGrid(grid);
+  try {
+    LineReader reader(channel);
+    std::string field;
+    for (; result.lines < kSlotCount; ++result.lines) ReadRow(reader, result.lines, field, grid);
+    channel.Close();
+  } catch (const OperationFailed&) {
+    result.outcome = kEndedEarly;
+  }
+  return result;
 }
 
 }  // namespace morlek

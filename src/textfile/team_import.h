@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <filesystem>
 
 #include "image/channel.h"
@@ -8,19 +7,25 @@
 
 namespace morlek {
 
-/// No text box holds more characters, so no exported field is longer. Of a longer one in a file the
-/// rest is passed over, which keeps memory small however long the file is.
-inline constexpr std::size_t kLongestField = 32767;
+/// What came of an import.
+struct ImportResult {
+  enum class Outcome {
+    kRead,
+    kNotOpened,   // grid and channel 1 are as they were
+    kEndedEarly,  // too few lines, or a read failed: later rows are empty, channel 1 stays open
+  };
+  Outcome outcome = Outcome::kRead;
+  /// How many lines were read to their ends, 0 to 25.
+  int lines = 0;
+};
 
 /// Empties every cell of the grid.
 void ClearRosterGrid(RosterGrid& grid);
 
 /// Fills the grid from the first 25 lines of a team data file, whatever they hold. A line ends at a
 /// carriage return, which a line feed may follow. Characters behind a line's last comma are carried
-/// over to the first cell of the next line.
-/// Throws OperationFailed when the file cannot be opened (the grid and channel 1 are as they were),
-/// read, or has too few lines (the rows read so far stay, the others are empty, and channel 1 stays
-/// open).
-void ImportTeamData(Channel& channel, const std::filesystem::path& path, RosterGrid& grid);
+/// over to the first cell of the next line. Longer texts than a cell holds are truncated.
+[[nodiscard]] ImportResult ImportTeamData(Channel& channel, const std::filesystem::path& path,
+                                          RosterGrid& grid);
 
 }  // namespace morlek

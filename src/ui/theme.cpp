@@ -45,12 +45,6 @@ QPalette PaletteOf(const Shades& shades) {
   return palette;
 }
 
-QColor VeilOf(const QPalette& palette) {
-  QColor veil = ShadesOf(palette).window;
-  veil.setAlpha(0x88);
-  return veil;
-}
-
 #if QT_CONFIG(xcb)
 
 std::jthread ReadSystemFonts() {

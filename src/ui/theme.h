@@ -101,9 +101,6 @@ inline constexpr Shades kDark{
 /// The shades as the colours of every part of every window, dialogs and menus included.
 [[nodiscard]] QPalette PaletteOf(const Shades& shades);
 
-/// What is laid over a picture that cannot be reached.
-[[nodiscard]] QColor VeilOf(const QPalette& palette);
-
 /// Starts reading the system's fonts, a good part of the start, beside all that the toolkit does
 /// before it needs them. Call first of all, in the main thread, which the toolkit takes to be the
 /// one that calls.

@@ -8,18 +8,21 @@
 #include "codecs/name_letter_codec.h"
 #include "codecs/rating_digit_codec.h"
 #include "codecs/small_number_codec.h"
-#include "support/recording_messages.h"
 
 namespace morlek {
 namespace {
 
-/// Unknown texts give nothing before the known one, and what that one gave from then on.
+/// Unknown texts give nothing before the known one, and its code from then on.
 template <typename Encode>
 void ExpectKept(Encode encode, const std::string& known, const std::string& code,
                 const std::vector<std::string>& unknown) {
   for (const std::string& kept : {std::string(), code}) {
-    for (const std::string& text : unknown) EXPECT_EQ(encode(text), kept) << text;
-    EXPECT_EQ(encode(known), code);
+    for (const std::string& text : unknown) {
+      EXPECT_EQ(encode(text).text, kept) << text;
+      EXPECT_FALSE(encode(text).is_known) << text;
+    }
+    EXPECT_EQ(encode(known).text, code);
+    EXPECT_TRUE(encode(known).is_known) << known;
   }
 }
 
@@ -45,7 +48,7 @@ TEST(FieldCodecs, RepeatTheirResultForTextsThatTheyDoNotKnow) {
              {"", ".", "3", "3.4", "3.450", "03.45", ".50", "5.12", "6.00", "10.00", " 3.45",
               "3.45 ", "3,45", "345", "+.45", "3.+5"});
   // Only the first 256 rows go without a leading zero.
-  EXPECT_EQ(earned_run.EncodeEarnedRunAverage("0.05"), "5");
+  EXPECT_EQ(earned_run.EncodeEarnedRunAverage("0.05").text, "5");
 }
 
 TEST(FieldCodecs, HighBytesOfAveragesComeFromComparingTexts) {
@@ -72,9 +75,9 @@ TEST(AppearanceCodec, PadsASingleDecimalDigitAndNothingElse) {
   }
 }
 
-TEST(AppearanceCodec, TellsTheSkinClassOfEveryCodeAndKeepsItForOthers) {
+TEST(AppearanceCodec, FindsTheSkinClassOfEveryCodeAndKeepsItForOthers) {
   AppearanceCodec codec;
-  EXPECT_EQ(codec.skin_class(), "");
+  EXPECT_EQ(codec.skin_class().text(), "");
   for (const char high : std::string("0123456789ABCDEF")) {
     for (const char low : std::string("0123456789ABCDEF")) {
       std::string expected = high == '2' || high == '3' ? "0" : "3";
@@ -82,26 +85,26 @@ TEST(AppearanceCodec, TellsTheSkinClassOfEveryCodeAndKeepsItForOthers) {
       const bool has_class = high <= '5' && low <= '5' && !(high == '1' && low == '5');
       if (has_class) expected = high <= '1' ? "0" : high <= '3' ? "3" : "5";
       (void)codec.NormalizeAppearanceCode(std::string{high, low});
-      EXPECT_EQ(codec.skin_class(), expected) << high << low;
+      EXPECT_EQ(codec.skin_class().text(), expected) << high << low;
     }
   }
   (void)codec.NormalizeAppearanceCode("5");
   for (const char* text : {"", "6", "A", "405", "0 "}) {
     (void)codec.NormalizeAppearanceCode(text);
-    EXPECT_EQ(codec.skin_class(), "0") << text;
+    EXPECT_EQ(codec.skin_class().text(), "0") << text;
   }
 }
 
-TEST(NameLetterCodec, TellsOfEveryCharacterThatHasNoCodeAndRepeatsTheResult) {
+TEST(NameLetterCodec, KnowsEveryCharacterThatHasACodeAndRepeatsItForOthers) {
   const std::string known = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz .";
   for (int code = -1; code < 256; ++code) {
     const std::string character = code < 0 ? "" : std::string(1, static_cast<char>(code));
     const bool is_known = code >= 0 && known.find(character) != std::string::npos;
-    RecordingMessages messages;
     NameLetterCodec codec;
-    (void)codec.EncodeNameLetter("Q", messages);
-    EXPECT_TRUE(codec.EncodeNameLetter(character, messages) == "1B" || is_known) << code;
-    EXPECT_EQ(messages.shown.size(), is_known ? 0U : 1U) << code;
+    (void)codec.EncodeNameLetter("Q");
+    const CodecAnswer answer = codec.EncodeNameLetter(character);
+    EXPECT_TRUE(answer.text == "1B" || is_known) << code;
+    EXPECT_EQ(answer.is_known, is_known) << code;
   }
 }
 

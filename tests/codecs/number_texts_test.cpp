@@ -5,7 +5,6 @@
 #include "codecs/code_page.h"
 #include "codecs/hex_text.h"
 #include "codecs/number_text.h"
-#include "support/recording_messages.h"
 
 namespace morlek {
 namespace {
@@ -26,16 +25,6 @@ const std::map<std::string, std::int32_t> kSigned = {
 const Texts kNotHexadecimal = {
     "", "000000001", "G", "12G", " 1", "1 ", "-1", "+1", "&H1", "0x1", "1.0", "\x80", "1\t",
     std::string("1\0", 2)};
-
-const std::map<std::string, std::int64_t> kUnsigned = {
-    {"FF", 255}, {"&hFF", 255}, {"&HfF", 255}, {"FFFF", 65535}, {"80000000", 2147483648},
-    {"FFFFFFFF", 4294967295}, {"123456789", 0x23456789}, {"G12345678", 0x12345678},
-    {"&H112345678", 0x12345678}, {"", 0}, {"&H", 0}, {"XYZ", 0}, {"-1", 0}, {" FF", 0}, {"FF ", 0},
-    {"&H&H12", 0}, {"12G45678", 0}};
-
-const std::map<std::string, std::string> kTold = {
-    {"12g", "12G"}, {"&h10", "&H10"}, {" \xE9", " \xC9"}, {"123456789z", "123456789Z"},
-    {"/", "/"}, {":", ":"}, {"@", "@"}, {"`", "`"}};
 
 const std::string kManyZeros(400, '0');
 
@@ -62,29 +51,11 @@ const Texts kNoBytes = {"255.5", "256", "-0.51", "-1", "&H100", "&HFFFF", "1e300
 // clang-format on
 
 TEST(HexText, ReadsUpToFourDigitsAs16BitsAndMoreAs32) {
-  RecordingMessages messages;
   for (const auto& [text, number] : kSigned) {
     EXPECT_EQ(SignedHexToNumber(text), number) << text;
     EXPECT_EQ(ByteTextToNumber(text), number < 0 ? number + 65536 : number) << text;
-    EXPECT_EQ(Hex_to_Dec(text, messages), number) << text;
   }
   for (const auto& text : kNotHexadecimal) EXPECT_EQ(ByteTextToNumber(text), std::nullopt) << text;
-  for (const char* text : {"", "123456789"}) EXPECT_EQ(Hex_to_Dec(text, messages), std::nullopt);
-  EXPECT_TRUE(messages.shown.empty());
-}
-
-TEST(HexText, TellsOfTextThatIsNotHexadecimal) {
-  for (const auto& [text, capitals] : kTold) {
-    RecordingMessages messages;
-    EXPECT_EQ(Hex_to_Dec(text, messages), 0) << text;
-    const Message told = {capitals + " is Not a valid hexadecimal number", "Hex_to_Dec",
-                          Message::Icon::kCritical};
-    EXPECT_EQ(messages.shown, std::vector<Message>{told});
-  }
-}
-
-TEST(HexText, UnsignedTakesTheLastEightDigits) {
-  for (const auto& [text, number] : kUnsigned) EXPECT_EQ(Hex_to_Unsigned(text), number) << text;
 }
 
 TEST(NumberText, ReadsDecimalTextAndNothingElse) {

@@ -5,7 +5,6 @@
 #include "editor/editor.h"
 #include "support/memory_disk.h"
 #include "support/recording_messages.h"
-#include "support/recording_view.h"
 
 namespace morlek {
 namespace {
@@ -21,20 +20,20 @@ class EditorOpeningTest : public ::testing::Test {
   }
 
   void ExpectImage(const char* path, const char* identity) {
-    EXPECT_EQ(editor.image_path(), path);
-    EXPECT_EQ(view.identity, identity);
+    EXPECT_EQ(editor.state().place.image, path);
+    EXPECT_EQ(editor.state().identity, identity);
     EXPECT_TRUE(disk.writes.empty());
   }
 
-  void ExpectTold(const char* text) {
+  void ExpectMessage(const char* text) {
     EXPECT_EQ(messages.shown, (std::vector<Message>{{text, "Morlek Editor"}}));
-    EXPECT_TRUE(view.calls.empty());
     messages.shown.clear();
   }
 
+  bool Exports() { return editor.ExportTeam("text") == ExportResult::kWritten; }
+
   MemoryDisk disk;
   RecordingMessages messages;
-  RecordingView view;
   Editor editor{messages, disk.Opener()};
 };
 
@@ -42,72 +41,89 @@ constexpr char kMustOpen[] = "You must first open a Dale Harrow Baseball SNES ro
 constexpr char kNotThisGame[] = "This is not a Dale Harrow Baseball SNES rom.";
 
 TEST_F(EditorOpeningTest, TheFirstFileIsTakenOnlyWhenItsIdentityByteIsRight) {
-  editor.OpenFirstImage("3", view);
+  EXPECT_EQ(editor.OpenFirstImage("3"), OpenResult::kRefused);
   ExpectImage("", "3");
-  ExpectTold(kMustOpen);
-  for (const char* chosen : {"short", "empty", "missing", ""}) {
-    editor.OpenFirstImage(*chosen == 0 ? std::optional<std::filesystem::path>() : chosen, view);
+  ExpectMessage(kMustOpen);
+  for (const auto& [path, result] : {std::pair("short", OpenResult::kRefused),
+                                     {"empty", OpenResult::kRefused},
+                                     {"missing", OpenResult::kNotOpened},
+                                     {"", OpenResult::kNotOpened}}) {
+    EXPECT_EQ(editor.OpenFirstImage(path), result) << path;
     ExpectImage("", "0");
-    ExpectTold(kMustOpen);
+    ExpectMessage(kMustOpen);
   }
   disk.failing_access = 2;
-  editor.OpenFirstImage("good", view);
+  EXPECT_EQ(editor.OpenFirstImage("good"), OpenResult::kNotOpened);
   ExpectImage("", "0");
-  ExpectTold(kMustOpen);
-  editor.OpenFirstImage("good", view);
+  ExpectMessage(kMustOpen);
+  EXPECT_EQ(editor.OpenFirstImage("good"), OpenResult::kOpened);
   ExpectImage("good", "3C");
   EXPECT_TRUE(messages.shown.empty());
-  EXPECT_EQ(view.calls, std::vector<std::string>{"toolbar"});
 }
 
 TEST_F(EditorOpeningTest, ALaterFileThatCannotBeReadBlocksTheNextOperations) {
-  editor.OpenFirstImage("good", view);
-  view.calls.clear();
+  editor.OpenFirstImage("good");
   disk.failing_access = 2;
-  editor.OpenAnotherImage("C3", view);
+  EXPECT_EQ(editor.OpenAnotherImage("C3"), OpenResult::kNotOpened);
   disk.opened.clear();
-  editor.OpenAnotherImage("good too", view);
-  editor.ImportTeam("good");
-  EXPECT_FALSE(editor.ExportTeam("text"));
+  EXPECT_EQ(editor.OpenAnotherImage("good too"), OpenResult::kNotOpened);
+  EXPECT_EQ(editor.ImportTeam("good").outcome, ImportResult::Outcome::kNotOpened);
+  EXPECT_EQ(editor.ExportTeam("text"), ExportResult::kNotOpened);
+  EXPECT_TRUE(editor.state().is_file_held);
   EXPECT_TRUE(disk.opened.empty());
   EXPECT_FALSE(disk.files.contains("text"));
   ExpectImage("good", "3C");
-  EXPECT_TRUE(view.calls.empty());
   EXPECT_TRUE(messages.shown.empty());
 
-  // Cancelling any later dialog frees the channel.
-  editor.OpenAnotherImage(std::nullopt, view);
-  editor.OpenAnotherImage("short", view);
+  editor.CancelDialog();
+  EXPECT_FALSE(editor.state().is_file_held);
+  EXPECT_EQ(editor.OpenAnotherImage("short"), OpenResult::kRefused);
   ExpectImage("good", "0");
-  ExpectTold(kNotThisGame);
-  editor.OpenAnotherImage("good too", view);
+  ExpectMessage(kNotThisGame);
+  EXPECT_EQ(editor.OpenAnotherImage("good too"), OpenResult::kOpened);
   ExpectImage("good too", "3C");
-  EXPECT_EQ(view.calls, (std::vector<std::string>{"toolbar", "hide", "narrow"}));
 }
 
-TEST_F(EditorOpeningTest, AHeldChannelIsToldByTheLoadAndFreedByIt) {
+TEST_F(EditorOpeningTest, AHeldChannelIsReportedByTheLoadAndFreedByIt) {
   disk.files["short.txt"] = {'A', ',', '\r'};
   disk.files["good"].resize(1300000, 0);
-  const std::vector<std::function<void()>> cancels = {
-      [this] { editor.OpenAnotherImage(std::nullopt, view); },
-      [this] { editor.ImportTeam(std::nullopt); },
-      [this] { EXPECT_FALSE(editor.ExportTeam(std::nullopt)); },
+  const std::vector<std::function<void()>> ways_out = {
+      [this] { editor.CancelDialog(); },
       [this] {
-        editor.LoadTeam("Braves", view);
+        EXPECT_EQ(editor.LoadTeam("Braves").outcome, LoadResult::Outcome::kNotOpened);
         ASSERT_EQ(messages.shown.size(), 1U);
         EXPECT_NE(messages.shown[0].text.find("a team file was still open"), std::string::npos);
         EXPECT_EQ(messages.shown[0].icon, Message::Icon::kCritical);
         messages.shown.clear();
       }};
-  editor.OpenFirstImage("good", view);
-  for (const auto& cancel : cancels) {
-    editor.ImportTeam("short.txt");
-    EXPECT_FALSE(editor.ExportTeam("text"));
-    cancel();
-    EXPECT_TRUE(editor.ExportTeam("text"));
+  editor.OpenFirstImage("good");
+  for (const auto& way_out : ways_out) {
+    const ImportResult imported = editor.ImportTeam("short.txt");
+    EXPECT_EQ(imported.outcome, ImportResult::Outcome::kEndedEarly);
+    EXPECT_EQ(imported.lines, 1);
+    EXPECT_TRUE(editor.state().is_file_held);
+    EXPECT_FALSE(Exports());
+    way_out();
+    EXPECT_FALSE(editor.state().is_file_held);
+    EXPECT_TRUE(Exports());
   }
-  editor.LoadTeam("Braves", view);
+  EXPECT_EQ(editor.LoadTeam("Braves").outcome, LoadResult::Outcome::kLoaded);
   EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(EditorOpeningTest, TheWayOutOfAHeldChannelBySaveWritesNothing) {
+  disk.files["short.txt"] = {'A', ',', '\r'};
+  disk.files["good"].resize(1300000, 0);
+  editor.OpenFirstImage("good");
+  editor.LoadTeam("Braves");
+  editor.ImportTeam("short.txt");
+  messages.shown.clear();
+  const SaveResult saved = editor.Save();
+  EXPECT_EQ(saved.taken, RecordBytes());
+  EXPECT_NE(saved.refused, RecordBytes());
+  EXPECT_EQ(messages.Texts().back(), kSaved);
+  EXPECT_FALSE(editor.state().is_file_held);
+  EXPECT_TRUE(disk.writes.empty());
 }
 
 }  // namespace

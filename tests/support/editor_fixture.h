@@ -6,13 +6,16 @@
 #include <cstdint>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "image/team_directory.h"
 #include "sample_image.h"
+#include "support/form_columns.h"
 #include "support/memory_disk.h"
 #include "support/plain_record.h"
 #include "support/recording_messages.h"
-#include "support/recording_view.h"
+#include "team/team_loader.h"
 #include "team/team_saver.h"
 
 namespace morlek {
@@ -53,7 +56,19 @@ struct CellText {
   int column;
   std::string text;
 
-  [[nodiscard]] Cell cell() const { return {static_cast<Column>(column), row}; }
+  [[nodiscard]] Cell cell() const { return CellOfArray(column, row); }
+};
+
+/// Notes what the encoder reports: the row and letter of each unknown letter, and the row of a name
+/// that is too long, as "too long".
+class RecordingListener : public EncodingListener {
+ public:
+  using Report = std::pair<int, std::string>;
+
+  void UnknownLetter(int row, std::string_view letter) override { heard.emplace_back(row, letter); }
+  void NameTooLong(int row) override { heard.emplace_back(row, "too long"); }
+
+  std::vector<Report> heard;
 };
 
 /// Loader and saver over an image in memory, in which the Braves and the Orioles have the plain
@@ -66,7 +81,6 @@ class TeamTest : public ::testing::Test {
     for (const std::int64_t base : {kBraves, kOrioles}) {
       std::ranges::copy(PlainRecord(), file().begin() + (base - 1));
     }
-    image.SetPath(kImage);
   }
 
   std::vector<std::uint8_t>& file() { return disk.files.at(kImage); }
@@ -80,22 +94,23 @@ class TeamTest : public ::testing::Test {
 
   void Load(const char* key) {
     disk.reads.clear();
-    loader.Load(key, grid, view);
+    location.base = FindTeam(key)->base;
+    load = LoadTeam(image, location, codec_state, grid);
   }
 
   [[nodiscard]] const std::string& Text(int column, int row) const {
-    return grid.Text({static_cast<Column>(column), row});
+    return grid.Text(CellOfArray(column, row));
   }
 
   void Type(const std::vector<CellText>& cells) {
     for (const CellText& each : cells) grid.SetText(each.cell(), each.text);
   }
 
-  /// Saves; messages and writes are then those of this save alone.
+  /// Saves; what was heard and written is then of this save alone.
   void Save() {
     disk.writes.clear();
-    messages.shown.clear();
-    saver.Save(grid);
+    listener.heard.clear();
+    saved = SaveTeam(image, location, grid, codec_state, listener);
   }
 
   void ExpectShown(const std::vector<CellText>& cells) {
@@ -118,13 +133,14 @@ class TeamTest : public ::testing::Test {
 
   MemoryDisk disk;
   RecordingMessages messages;
-  RecordingView view;
   Channel channel{disk.Opener()};
   CartridgeImage image{channel};
-  KeptState kept;
+  RecordLocation location{kImage, std::nullopt};
+  CodecState codec_state;
   RosterGrid grid;
-  TeamLoader loader{image, kept};
-  TeamSaver saver{image, kept, messages};
+  RecordingListener listener;
+  LoadResult load;
+  SaveResult saved;
 };
 
 }  // namespace morlek

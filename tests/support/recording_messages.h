@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "codecs/message_port.h"
+#include "editor/message_port.h"
 
 namespace morlek {
 

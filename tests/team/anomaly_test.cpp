@@ -1,7 +1,6 @@
 #include <iterator>
 
 #include "editor/editor.h"
-#include "image/failure.h"
 #include "support/editor_fixture.h"
 #include "textfile/team_export.h"
 #include "textfile/team_import.h"
@@ -40,16 +39,13 @@ class AnomalyTest : public TeamTest {
     }
   }
 
-  /// Runs something that ends by an exception when it fails; true when it came through.
-  template <typename Operation>
-  bool Succeeds(Operation operation) {
-    try {
-      operation();
-      return true;
-    } catch (const OperationFailed& failure) {
-      told = failure.what();
-      return false;
-    }
+  bool Loads(const char* key) {
+    Load(key);
+    return load.outcome == LoadResult::Outcome::kLoaded;
+  }
+  bool Exports() { return ExportTeamData(channel, kText, grid) == ExportResult::kWritten; }
+  bool Imports() {
+    return ImportTeamData(channel, kText, grid).outcome == ImportResult::Outcome::kRead;
   }
 
   /// What has been read is there, even if the close fails then.
@@ -57,27 +53,28 @@ class AnomalyTest : public TeamTest {
 
   int access = 0;
   bool succeeded = false;
-  std::string told;
 };
 
 TEST_F(AnomalyTest, IdentityCheck) {
   Editor editor(messages, disk.Opener());
-  FailEachAccess([] {}, [&] { editor.OpenFirstImage(kImage, view); },
+  OpenResult result{};
+  const auto exports = [&] { return editor.ExportTeam(kText) == ExportResult::kWritten; };
+  FailEachAccess([] {}, [&] { result = editor.OpenFirstImage(kImage); },
                  [&] {
+                   EXPECT_EQ(result, read_failed() ? OpenResult::kNotOpened : OpenResult::kOpened);
                    EXPECT_EQ(messages.shown.empty(), !read_failed());
-                   EXPECT_EQ(view.identity, read_failed() ? "0" : "3C");
-                   // The channel is free again.
-                   EXPECT_TRUE(editor.ExportTeam(kText));
+                   EXPECT_EQ(editor.state().identity, read_failed() ? "0" : "3C");
+                   EXPECT_TRUE(exports()) << "the channel is free again";
                    disk.files.erase(kText);
                  });
-  FailEachAccess([&] { view.calls.clear(); }, [&] { editor.OpenAnotherImage(kImage, view); },
+  FailEachAccess([] {}, [&] { result = editor.OpenAnotherImage(kImage); },
                  [&] {
-                   EXPECT_EQ(view.calls.empty(), read_failed());
-                   EXPECT_EQ(view.identity, "3C");
+                   EXPECT_EQ(result, read_failed() ? OpenResult::kNotOpened : OpenResult::kOpened);
+                   EXPECT_EQ(editor.state().identity, "3C");
                    EXPECT_TRUE(messages.shown.empty());
-                   EXPECT_EQ(editor.ExportTeam(kText), !read_failed() || access == 1)
-                       << "else held";
-                   editor.OpenAnotherImage(std::nullopt, view);
+                   EXPECT_EQ(editor.state().is_file_held, read_failed() && access > 1);
+                   EXPECT_EQ(exports(), !read_failed() || access == 1) << "else held";
+                   editor.CancelDialog();
                    disk.files.erase(kText);
                  });
 }
@@ -86,22 +83,22 @@ TEST_F(AnomalyTest, Load) {
   Load("Braves");
   const std::vector<ByteAccess> reads = disk.reads;
   FailEachAccess(
-      [] {}, [this] { succeeded = Succeeds([this] { Load("Braves"); }); },
+      [] {}, [this] { succeeded = Loads("Braves"); },
       [this, &reads] {
         EXPECT_EQ(succeeded, !read_failed());
         EXPECT_EQ(channel.is_open(), read_failed() && access > 1);
         EXPECT_TRUE(disk.writes.empty());
-        // The first access opens the image; a read that fails is told with its place.
+        // The first access opens the image; a read that fails is reported with its place.
         if (channel.is_open()) {
           const std::int64_t place =
               reads.at(static_cast<std::size_t>(access) - 2).position - kBraves;
           const std::string where = "offset " + std::to_string(place % 32) + " of player slot " +
                                     std::to_string(place / 32) + " ";
-          EXPECT_NE(told.find(where), std::string::npos) << where << "is not in: " << told;
+          EXPECT_NE(load.failure.find(where), std::string::npos) << where << load.failure;
         }
         image.Close();
         if (disk.failures != 1) return;
-        EXPECT_TRUE(Succeeds([this] { Load("Orioles"); }));
+        EXPECT_TRUE(Loads("Orioles"));
         EXPECT_EQ(Text(14, 24), "18");
       });
 }
@@ -110,30 +107,28 @@ TEST_F(AnomalyTest, Save) {
   Load("Braves");
   Save();
   const std::vector<ByteAccess> all = disk.writes;
-  FailEachAccess(
-      [] {}, [this] { saver.Save(grid); },
-      [this, &all] {
-        EXPECT_EQ(messages.shown, std::vector<Message>{{"Your changes have been saved."}});
-        EXPECT_FALSE(channel.is_open());
-        // The first access opens the image; without it nothing is written.
-        std::vector<ByteAccess> made = all;
-        if (access == 1) made.clear();
-        const auto failing = made.begin() + std::min<std::ptrdiff_t>(access - 2, std::ssize(made));
-        if (access > 1 && failing < made.end()) {
-          made.erase(failing, disk.fails_from_then_on ? made.end() : failing + 1);
-        }
-        EXPECT_EQ(disk.writes, made);
-        if (disk.failures != 1) return;
-        Save();
-        EXPECT_EQ(disk.writes, all);
-      });
+  FailEachAccess([] {}, [this] { saved = SaveTeam(image, location, grid, codec_state, listener); },
+                 [this, &all] {
+                   EXPECT_FALSE(channel.is_open());
+                   // The first access opens the image; without it nothing is written.
+                   std::vector<ByteAccess> made = all;
+                   if (access == 1) made.clear();
+                   const auto failing =
+                       made.begin() + std::min<std::ptrdiff_t>(access - 2, std::ssize(made));
+                   if (access > 1 && failing < made.end()) {
+                     made.erase(failing, disk.fails_from_then_on ? made.end() : failing + 1);
+                   }
+                   EXPECT_EQ(disk.writes, made);
+                   if (disk.failures != 1) return;
+                   Save();
+                   EXPECT_EQ(disk.writes, all);
+                 });
 }
 
 TEST_F(AnomalyTest, Export) {
   std::string lines;
   for (int row = 0; row < 25; ++row) lines += ",,,,,,,,,,,,,,\r\n";
-  FailEachAccess([] {},
-                 [this] { succeeded = Succeeds([this] { ExportTeamData(channel, kText, grid); }); },
+  FailEachAccess([] {}, [this] { succeeded = Exports(); },
                  [this, &lines] {
                    EXPECT_EQ(succeeded, disk.failures == 0);
                    const std::vector<std::uint8_t>& file = disk.files[kText];
@@ -144,7 +139,7 @@ TEST_F(AnomalyTest, Export) {
                    // written.
                    Save();
                    EXPECT_TRUE(disk.writes.empty());
-                   EXPECT_TRUE(Succeeds([this] { ExportTeamData(channel, kText, grid); }));
+                   EXPECT_TRUE(Exports());
                    disk.files[kText].clear();
                  });
 }
@@ -158,7 +153,7 @@ TEST_F(AnomalyTest, Import) {
         ClearRosterGrid(grid);
         Type({{24, 2, "old"}});
       },
-      [this] { succeeded = Succeeds([this] { ImportTeamData(channel, kText, grid); }); },
+      [this] { succeeded = Imports(); },
       [this] {
         EXPECT_EQ(succeeded, !read_failed());
         EXPECT_TRUE(Text(1, 24) == "A" || !succeeded);
@@ -166,7 +161,7 @@ TEST_F(AnomalyTest, Import) {
         // The grid is emptied only when the file has been opened.
         EXPECT_EQ(Text(2, 24), !succeeded && !channel.is_open() ? "old" : "");
         image.Close();
-        EXPECT_TRUE(Succeeds([this] { ImportTeamData(channel, kText, grid); }));
+        EXPECT_TRUE(Imports());
         EXPECT_EQ(Text(1, 24), "A");
       });
   EXPECT_TRUE(disk.writes.empty());

@@ -1,6 +1,5 @@
 #include "team/team_loader.h"
 
-#include "image/failure.h"
 #include "support/editor_fixture.h"
 
 namespace morlek {
@@ -25,21 +24,11 @@ TEST_F(TeamLoaderTest, ShowsEveryFieldOfEveryRow) {
     for (const std::string& text : rows.at(next++)) ExpectShown({{row, ++column, text}});
   }
   for (int row = 0; row < 25; ++row) ExpectShown({{row, 3, std::to_string(row + 1)}});
-  EXPECT_EQ(view.calls, (std::vector<std::string>{"ATLANTA BRAVES", "prepare"}));
-  EXPECT_EQ(image.team_base(), kBraves);
+  EXPECT_EQ(load.outcome, LoadResult::Outcome::kLoaded);
+  EXPECT_EQ(load.read.At(24, 16), 24);
+  EXPECT_EQ(load.read.At(24, 17), std::nullopt) << "a byte that no load reads";
   EXPECT_FALSE(channel.is_open());
   EXPECT_TRUE(disk.writes.empty());
-  EXPECT_TRUE(messages.shown.empty());
-}
-
-TEST_F(TeamLoaderTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {
-  Load("Orioles");
-  view.calls.clear();
-  Poke({{0, 10, 99}}, kOrioles);
-  Load("orioles");
-  ExpectShown({{0, 3, "99"}});
-  EXPECT_EQ(view.calls, std::vector<std::string>{"prepare"});
-  EXPECT_EQ(image.team_base(), kOrioles);
 }
 
 TEST_F(TeamLoaderTest, BytesPastTheEndOfAShortImageShowAsZero) {
@@ -51,11 +40,11 @@ TEST_F(TeamLoaderTest, BytesPastTheEndOfAShortImageShowAsZero) {
 
 TEST_F(TeamLoaderTest, AnOpenChannelOrAMissingImageStopsItBeforeAnythingChanges) {
   Load("Braves");
-  const auto expect_nothing_done = [this] {
-    view.calls.clear();
-    EXPECT_THROW(Load("Orioles"), OperationFailed);
-    EXPECT_TRUE(view.calls.empty());
-    EXPECT_EQ(image.team_base(), kBraves);
+  const RosterGrid before = grid;
+  const auto expect_nothing_done = [&] {
+    Load("Orioles");
+    EXPECT_EQ(load.outcome, LoadResult::Outcome::kNotOpened);
+    EXPECT_EQ(grid, before);
     EXPECT_TRUE(disk.reads.empty());
   };
   ASSERT_TRUE(channel.OpenTextInput(kImage));
@@ -68,22 +57,20 @@ TEST_F(TeamLoaderTest, AnOpenChannelOrAMissingImageStopsItBeforeAnythingChanges)
   EXPECT_TRUE(disk.files.empty());
 }
 
-TEST_F(TeamLoaderTest, AnUnknownKeyNeedsATeamToGoOnWith) {
-  EXPECT_THROW(Load("Senators"), OperationFailed);
-  EXPECT_EQ(image.team_base(), std::nullopt);
+TEST_F(TeamLoaderTest, WithoutATeamNothingIsRead) {
+  load = LoadTeam(image, location, codec_state, grid);
+  EXPECT_EQ(load.outcome, LoadResult::Outcome::kEndedEarly);
+  EXPECT_TRUE(disk.reads.empty());
   EXPECT_TRUE(channel.is_open());
 }
 
-TEST_F(TeamLoaderTest, ARatingThatIsALetterEndsTheLoadAndIsToldWithItsPlace) {
+TEST_F(TeamLoaderTest, ARatingThatIsALetterEndsTheLoadAndIsReportedWithItsPlace) {
   for (const auto& [letter, place] : std::vector<std::pair<FieldByte, std::string>>{
            {{3, 11, 0x2A}, "slot 3 (batter 4)"}, {{20, 12, 0xE1}, "slot 20 (pitcher 6)"}}) {
     Poke({letter});
-    try {
-      Load("Braves");
-      ADD_FAILURE() << letter;
-    } catch (const OperationFailed& failure) {
-      EXPECT_NE(std::string(failure.what()).find(place), std::string::npos) << failure.what();
-    }
+    Load("Braves");
+    EXPECT_EQ(load.outcome, LoadResult::Outcome::kEndedEarly);
+    EXPECT_NE(load.failure.find(place), std::string::npos) << load.failure;
     EXPECT_EQ(disk.reads.back().position, kBraves + 32 * letter.row + letter.offset);
     EXPECT_TRUE(channel.is_open());
     channel.Close();

@@ -14,10 +14,11 @@ class TeamSaverTest : public TeamTest {
     ExpectWritten(bytes);
   }
 
-  void ExpectNothingButTheMessage() {
+  void ExpectNothingWritten() {
     Save();
     EXPECT_TRUE(disk.writes.empty());
-    EXPECT_EQ(messages.Texts(), Texts{kSaved});
+    EXPECT_EQ(saved.taken, RecordBytes());
+    EXPECT_EQ(saved.end_row, std::nullopt);
     EXPECT_FALSE(channel.is_open());
   }
 
@@ -27,7 +28,7 @@ class TeamSaverTest : public TeamTest {
     EXPECT_EQ(disk.writes, writes);
   }
 
-  using Texts = std::vector<std::string>;
+  using Reports = std::vector<RecordingListener::Report>;
 };
 
 TEST_F(TeamSaverTest, WritesInTheOrderOfTheSteps) {
@@ -56,20 +57,18 @@ TEST_F(TeamSaverTest, EmptyTextsWriteTheSFlagsAlone) {
   grid = {};
   Save();
   ExpectSFlagsAfter({});
-  EXPECT_EQ(messages.shown.size(), 26U);  // an unknown letter a name, and the end
+  EXPECT_EQ(listener.heard.size(), 25U) << "an unknown letter a name";
 }
 
 TEST_F(TeamSaverTest, NothingIsWrittenWithoutATeamOrAnImage) {
   Type({{0, 3, "77"}});
-  image.SetPath("");
-  ExpectNothingButTheMessage();
-  image.SetPath("missing");
-  ExpectNothingButTheMessage();
+  for (const char* path : {"", "missing"}) {
+    location.image = path;
+    ExpectNothingWritten();
+  }
   EXPECT_FALSE(disk.files.contains("missing"));
-  CartridgeImage fresh(channel);
-  fresh.SetPath(kImage);
-  TeamSaver(fresh, kept, messages).Save(grid);
-  EXPECT_TRUE(disk.writes.empty());
+  location = {kImage, std::nullopt};
+  ExpectNothingWritten();
 }
 
 TEST_F(TeamSaverTest, AStuckChannelIsClosedAndItsFileUntouched) {
@@ -77,39 +76,36 @@ TEST_F(TeamSaverTest, AStuckChannelIsClosedAndItsFileUntouched) {
   disk.files["stuck"] = file();
   for (const char* path : {"stuck", kImage}) {
     ASSERT_TRUE(channel.OpenBinary(path));
-    ExpectNothingButTheMessage();
+    ExpectNothingWritten();
     ASSERT_TRUE(channel.OpenTextInput(path));
-    ExpectNothingButTheMessage();
+    ExpectNothingWritten();
   }
   ASSERT_TRUE(channel.OpenTextOutput("text"));
-  ExpectNothingButTheMessage();
+  ExpectNothingWritten();
   // The codecs have run all the same.
   ExpectSaved({{0, 3, "x"}, {0, 2, "x"}}, {{0, 10, 77}, {0, 9, 0x0C}});
 }
 
-TEST_F(TeamSaverTest, EveryUnknownLetterIsTold) {
+TEST_F(TeamSaverTest, EveryUnknownLetterIsReportedInitialsFirst) {
   Type({{3, 1, "J.1M2TH"}, {7, 1, "\xC9.-X"}});
   Save();
-  const std::string unknown = kUnknownLetter;
-  EXPECT_EQ(messages.Texts(), (Texts{unknown, unknown, unknown, unknown, kSaved}));
-  EXPECT_EQ(messages.shown.front(), (Message{unknown, "MORLEK EDITOR", Message::Icon::kNone}));
-  EXPECT_EQ(messages.shown.back(), (Message{kSaved, "MORLEK EDITOR", Message::Icon::kNone}));
+  EXPECT_EQ(listener.heard, (Reports{{7, "\xC9"}, {3, "1"}, {3, "2"}, {7, "-"}}));
 }
 
-TEST_F(TeamSaverTest, AnEmptyNameIsToldOnceAndSavedAsBlanksUnwritten) {
+TEST_F(TeamSaverTest, AnEmptyNameIsReportedOnceAndSavedAsBlanksUnwritten) {
   Type({{3, 1, "D.ABCDEFGH"}, {4, 1, ""}, {5, 1, "F.1A"}});
   Save();
-  EXPECT_EQ(messages.Texts(), (Texts{kUnknownLetter, kUnknownLetter, kSaved}));
+  EXPECT_EQ(listener.heard, (Reports{{4, ""}, {5, "1"}}));
   // The unknown letter of row 5 repeats the last blank of row 4, not the H of row 3.
   ExpectWritten({{3, 8, 0x12}, {4, 0, kNotWritten}, {4, 1, kNotWritten}, {4, 8, kNotWritten}});
   ExpectWritten({{5, 0, 0x10}, {5, 1, 0x00}, {5, 2, 0x0B}});
 }
 
-TEST_F(TeamSaverTest, ANameThatIsTooLongIsToldAndEndsTheSave) {
+TEST_F(TeamSaverTest, ANameThatIsTooLongIsReportedAndEndsTheSave) {
   Type({{2, 1, "Z.ZZ"}, {5, 1, "Q.ABCDEFGHI"}, {7, 1, "R.ABCDEFGHIJK"}, {9, 1, "?.X"}});
   Save();
-  EXPECT_EQ(messages.Texts(), (Texts{kUnknownLetter, kNameTooLong}));
-  EXPECT_EQ(messages.shown.back(), (Message{kNameTooLong, "MORLEK EDITOR", Message::Icon::kNone}));
+  EXPECT_EQ(listener.heard, (Reports{{9, "?"}, {5, "too long"}}));
+  EXPECT_EQ(saved.end_row, 5);
   EXPECT_FALSE(channel.is_open());
   // All initials, and the rows before it in full.
   ExpectWritten({{2, 1, 0x24}, {4, 0, 0x0F}, {4, 16, 0x04}, {5, 0, 0x1B}, {7, 0, 0x1C}});
@@ -165,7 +161,7 @@ TEST_F(TeamSaverTest, CountsStartFromWhatTheLoadLeft) {
 }
 
 TEST_F(TeamSaverTest, CountsWithoutAnyNumberBeforeAreZero) {
-  kept = {};
+  codec_state = {};
   grid = {};
   Type({{0, 10, "201"}, {0, 11, "201"}, {1, 10, "x"}});
   Save();

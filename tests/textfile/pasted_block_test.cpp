@@ -4,10 +4,10 @@
 
 #include <map>
 
+#include "support/form_columns.h"
+
 namespace morlek {
 namespace {
-
-using enum Column;
 
 struct Block {
   Cell start;
@@ -17,16 +17,16 @@ struct Block {
 
 // clang-format off
 const std::vector<Block> kBlocks = {
-    {{kText3, 2}, "7\t\tR\n8\t9\n",
-     {{{kText3, 2}, "7"}, {{kText4, 2}, ""}, {{kText5, 2}, "R"}, {{kText3, 3}, "8"},
-      {{kText4, 3}, "9"}}},
-    {{kText13, 13}, "a\tb\tc\r\nd\re\nf",
-     {{{kText13, 13}, "a"}, {{kText14, 13}, "b"}, {{kText13, 14}, "d"}}},
-    {{kText4, 23}, "RS\t2.50\t3\nL\n\nX",
-     {{{kText4, 23}, "RS"}, {{kText9, 23}, "2.50"}, {{kText5, 23}, "3"}, {{kText4, 24}, "L"}}},
-    {{kText1, 0}, "\n\nC.X\t",
-     {{{kText1, 0}, ""}, {{kText1, 1}, ""}, {{kText1, 2}, "C.X"}, {{kText2, 2}, ""}}},
-    {{kText1, 24}, std::string("\t\0,", 3), {{{kText1, 24}, ""}, {{kText2, 24}, {"\0,", 2}}}}};
+    {CellOfArray(3, 2), "7\t\tR\n8\t9\n",
+     {{CellOfArray(3, 2), "7"}, {CellOfArray(4, 2), ""}, {CellOfArray(5, 2), "R"}, {CellOfArray(3, 3), "8"},
+      {CellOfArray(4, 3), "9"}}},
+    {CellOfArray(13, 13), "a\tb\tc\r\nd\re\nf",
+     {{CellOfArray(13, 13), "a"}, {CellOfArray(14, 13), "b"}, {CellOfArray(13, 14), "d"}}},
+    {CellOfArray(4, 23), "RS\t2.50\t3\nL\n\nX",
+     {{CellOfArray(4, 23), "RS"}, {CellOfArray(9, 23), "2.50"}, {CellOfArray(5, 23), "3"}, {CellOfArray(4, 24), "L"}}},
+    {CellOfArray(1, 0), "\n\nC.X\t",
+     {{CellOfArray(1, 0), ""}, {CellOfArray(1, 1), ""}, {CellOfArray(1, 2), "C.X"}, {CellOfArray(2, 2), ""}}},
+    {CellOfArray(1, 24), std::string("\t\0,", 3), {{CellOfArray(1, 24), ""}, {CellOfArray(2, 24), {"\0,", 2}}}}};
 // clang-format on
 
 TEST(PastedBlock, IsLaidRightAndDownAndEndsAtTheEdgesOfItsHalf) {
@@ -39,9 +39,9 @@ TEST(PastedBlock, IsLaidRightAndDownAndEndsAtTheEdgesOfItsHalf) {
   }
   std::string huge;
   huge.resize(10000000, 'x');
-  const RosterGrid laid = WithBlock(old, {kText2, 0}, huge + "\t" + huge);
-  EXPECT_EQ(laid.Text({kText2, 0}).size(), 32767U);
-  EXPECT_EQ(laid.Text({kText3, 0}).size(), 32767U);
+  const RosterGrid laid = WithBlock(old, CellOfArray(2, 0), huge + "\t" + huge);
+  EXPECT_EQ(laid.Text(CellOfArray(2, 0)).size(), 32767U);
+  EXPECT_EQ(laid.Text(CellOfArray(3, 0)).size(), 32767U);
 }
 
 TEST(PastedBlock, IsToldByATabOrALineBreakBeforeTheEnd) {

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "team/kept_state.h"
+#include "team/codec_state.h"
 #include "team/record_bytes.h"
 #include "team/roster_grid.h"
 
@@ -11,12 +11,12 @@ namespace morlek {
 
 /// What would become of the grid if it were saved now and the team loaded again. It runs the real
 /// encoder and decoder on copies, in memory: no file, no message, nothing kept.
-class Rehearsal {
+class SavePreview {
  public:
-  /// `kept` is what loads and saves keep now, `known` the bytes that the image is known to hold.
-  /// When such a load would fail, as it does where `known` lacks a byte, there is nothing to tell:
-  /// every cell then comes out as it stands in the grid.
-  Rehearsal(const RosterGrid& grid, KeptState kept, const RecordBytes& known);
+  /// `state` is what loads and saves keep now, `known` the bytes that the image is known to hold.
+  /// When such a load would fail, as it does where `known` lacks a byte, nothing can be said: every
+  /// cell then comes out as it stands in the grid.
+  SavePreview(const RosterGrid& grid, CodecState state, const RecordBytes& known);
 
   enum class Fate {
     kStored,      // SAVE writes the cell

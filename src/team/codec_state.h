@@ -13,9 +13,9 @@
 
 namespace morlek {
 
-/// Everything that loads and saves keep for the whole run, as one value: what a decoder or encoder
-/// does not know gives its last result again. A copy can be tried without a trace in the original.
-struct KeptState {
+/// Everything that loads and saves keep for the whole run, as one value: an input that a decoder or
+/// encoder does not know gives its last result again. A copy can be tried out and thrown away.
+struct CodecState {
   NameLetterCodec name_letter;
   FieldingPositionCodec fielding_position;
   SmallNumberCodec small_number;
@@ -25,7 +25,7 @@ struct KeptState {
   PitcherMarksCodec pitcher_marks;
   AppearanceCodec appearance;
 
-  // What the last conversions of these two fields have given; until one has been converted at all,
+  // Results of the last conversions of these two fields; until one has been converted at all,
   // its write is not made.
   std::optional<std::int32_t> uniform_number;
   std::optional<std::int32_t> first_ratings;

@@ -1,8 +1,28 @@
-#include "textfile/comma_field.h"
+#include "editor/toolbox.h"
 
+#include <algorithm>
 #include <stdexcept>
 
+#include "codecs/code_page.h"
+#include "codecs/hex_text.h"
+
 namespace morlek {
+
+std::optional<std::int32_t> Hex_to_Dec(std::string_view HexNum, MessagePort& messages) {
+  if (!std::ranges::all_of(HexNum, IsHexDigit)) {
+    messages.Show({UpperCase(HexNum) + " is Not a valid hexadecimal number", "Hex_to_Dec",
+                   Message::Icon::kCritical});
+    return 0;
+  }
+  return SignedHexToNumber(HexNum);
+}
+
+std::int64_t Hex_to_Unsigned(std::string_view text) {
+  constexpr std::size_t kDigits = 8;
+  if (UpperCase(text.substr(0, 2)) == "&H") text.remove_prefix(2);
+  if (text.size() > kDigits) text.remove_prefix(text.size() - kDigits);
+  return HexDigitsToNumber(text).value_or(0);
+}
 
 std::string_view CommaField(std::int16_t intCommaNumber, std::string_view strString) {
   constexpr std::size_t kNone = std::string_view::npos;

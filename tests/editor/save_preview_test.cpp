@@ -1,4 +1,4 @@
-#include "team/rehearsal.h"
+#include "team/save_preview.h"
 
 #include <random>
 
@@ -11,7 +11,7 @@ namespace morlek {
 namespace {
 
 using enum Column;
-using Fate = Rehearsal::Fate;
+using Fate = SavePreview::Fate;
 
 /// A cell, what becomes of it at SAVE, and what a load shows then.
 struct Outcome {
@@ -21,28 +21,28 @@ struct Outcome {
 };
 
 /// A whole editor over the image in memory.
-class RehearsalTest : public TeamTest {
+class SavePreviewTest : public TeamTest {
  protected:
-  RehearsalTest() {
-    editor.OpenFirstImage(kImage, view);
-    editor.LoadTeam("Braves", view);
+  SavePreviewTest() {
+    editor.OpenFirstImage(kImage);
+    editor.LoadTeam("Braves");
   }
 
-  void TypeInto(const CellText& text) { editor.document().Type(text.cell(), text.text); }
+  void TypeInto(const CellText& text) { editor.Type(text.cell(), text.text); }
 
   void ExpectOutcomes(const std::vector<Outcome>& outcomes) {
     for (const Outcome& each : outcomes) TypeInto(each.cell);
-    const Rehearsal rehearsal = editor.Rehearse();
+    const SavePreview preview = editor.Preview();
     for (const Outcome& each : outcomes) {
-      EXPECT_EQ(rehearsal.FateOf(each.cell.cell()), each.fate) << each.cell.text;
-      EXPECT_EQ(rehearsal.TextAfter(each.cell.cell()), each.after) << each.cell.text;
+      EXPECT_EQ(preview.FateOf(each.cell.cell()), each.fate) << each.cell.text;
+      EXPECT_EQ(preview.TextAfter(each.cell.cell()), each.after) << each.cell.text;
     }
   }
 
   Editor editor{messages, disk.Opener()};
 };
 
-TEST_F(RehearsalTest, TellsWhatBecomesOfTextsThatTheGameCannotHold) {
+TEST_F(SavePreviewTest, SaysWhatBecomesOfTextsThatTheGameCannotHold) {
   TypeInto({0, 2, "C"});
   ExpectOutcomes({{{1, 1, "J.SM1TH"}, Fate::kStored, "J.SMMTH"},
                   {{1, 2, "ZZ"}, Fate::kStored, "C"},
@@ -57,57 +57,61 @@ TEST_F(RehearsalTest, TellsWhatBecomesOfTextsThatTheGameCannotHold) {
   EXPECT_TRUE(disk.writes.empty());
 }
 
-TEST_F(RehearsalTest, ANameThatIsTooLongEndsIt) {
+TEST_F(SavePreviewTest, ANameThatIsTooLongEndsIt) {
   ExpectOutcomes({{{3, 3, "50"}, Fate::kStored, "50"},
                   {{4, 1, "X.ABCDEFGHI"}, Fate::kEndsSave, "X.BE"},
                   {{4, 3, "51"}, Fate::kNotReached, "5"},
                   {{9, 1, "Y.OUNG"}, Fate::kNotReached, "Y.BJ"}});
-  EXPECT_EQ(editor.Rehearse().end_row(), 4);
+  EXPECT_EQ(editor.Preview().end_row(), 4);
 }
 
-TEST_F(RehearsalTest, EveryTeamOfTheSampleIsKeptAsShownAndSavedAsItWas) {
+TEST_F(SavePreviewTest, EveryTeamOfTheSampleIsKeptAsShownAndSavedAsItWas) {
   const std::vector<std::uint8_t> before = file() = MakeSampleImage();
   for (const Team& team : kTeamDirectory) {
-    editor.LoadTeam(team.key, view);
-    EXPECT_EQ(editor.Rehearse().after(), editor.document().grid()) << team.key;
-    editor.Save(view);
+    editor.LoadTeam(team.key);
+    EXPECT_EQ(editor.Preview().after(), editor.state().grid) << team.key;
+    editor.Save();
     ASSERT_TRUE(file() == before) << team.key;
     EXPECT_EQ(messages.Texts(), std::vector<std::string>{kSaved}) << team.key;
     messages.shown.clear();
   }
 }
 
-TEST_F(RehearsalTest, WhatAnUntouchedSaveChangesIsTold) {
+TEST_F(SavePreviewTest, WhatAnUntouchedSaveChangesIsMarked) {
   Poke({{3, 11, 0x09}, {5, 2, 0x36}});
-  editor.LoadTeam("Braves", view);
+  editor.LoadTeam("Braves");
   ExpectOutcomes({{{3, 5, "1"}, Fate::kStored, "10"}, {{5, 1, "F.Bc"}, Fate::kStored, "F.BC"}});
+  const GridMarks& marks = editor.state().marks;
+  EXPECT_EQ(marks.modified_count(), 0);
+  EXPECT_EQ(marks.lossy_count(), 2);
+  EXPECT_TRUE(marks.At({kBatting, 3}).is_lossy && marks.At({kName, 5}).is_lossy);
 }
 
-TEST_F(RehearsalTest, ACloseThatFailsLeavesTheMarks) {
+TEST_F(SavePreviewTest, ACloseThatFailsLeavesTheMarks) {
   TypeInto({0, 3, "77"});
-  EXPECT_EQ(editor.Marks().unsaved_count(), 1);
+  EXPECT_EQ(editor.state().marks.modified_count(), 1);
   disk.failing_access = 1000000;
-  editor.Save(view);
+  editor.Save();
   const int accesses = 1000000 - disk.failing_access;
   TypeInto({0, 3, "78"});
   disk.failing_access = accesses;  // the close
-  editor.Save(view);
+  editor.Save();
   EXPECT_EQ(disk.failed_closes, 1);
-  EXPECT_EQ(editor.Marks().unsaved_count(), 1);
+  EXPECT_EQ(editor.state().marks.modified_count(), 1);
 }
 
-TEST_F(RehearsalTest, WhatTheDiskRefusesIsNotKnownToBeThere) {
-  const Cell number{kText3, 0};
-  const auto known = [&] { return editor.knowledge().texts().Text(number); };
+TEST_F(SavePreviewTest, WhatTheDiskRefusesIsNotKnownToBeThere) {
+  const Cell number{kUniformNumber, 0};
+  const auto known = [&] { return editor.baseline()->texts().Text(number); };
   TypeInto({0, 3, "77"});
   const std::vector<std::uint8_t> content = file();
   disk.files.clear();
-  editor.Save(view);
+  editor.Save();
   EXPECT_EQ(known(), "1");
   disk.files[kImage] = content;
-  editor.Save(view);
+  editor.Save();
   EXPECT_EQ(known(), "77");
-  EXPECT_EQ(editor.Rehearse().after(), editor.document().grid());
+  EXPECT_EQ(editor.Preview().after(), editor.state().grid);
 }
 
 /// The texts of sessions: good ones, odd ones, empty and far too long ones.
@@ -121,7 +125,7 @@ std::string AnyText(std::mt19937& random) {
   return kTexts.at(random() % kTexts.size());
 }
 
-TEST_F(RehearsalTest, AgreesWithARealSaveAndLoadInRandomSessions) {
+TEST_F(SavePreviewTest, AgreesWithARealSaveAndLoadInRandomSessions) {
   std::mt19937 random(11);
   for (int session = 0; session < 300; ++session) {
     const Team& team = kTeamDirectory.at(random() % 28);
@@ -132,26 +136,26 @@ TEST_F(RehearsalTest, AgreesWithARealSaveAndLoadInRandomSessions) {
       Poke({{static_cast<int>(random() % 25), offset, static_cast<int>(random() % 256)}},
            team.base);
     }
-    editor.LoadTeam(team.key, view);
+    editor.LoadTeam(team.key);
     for (int round = 0; round < 3; ++round) {
       for (auto edit = random() % 30; edit > 0; --edit) {
-        editor.document().Type(kAllCells.at(random() % kCellCount), AnyText(random));
+        editor.Type(kAllCells.at(random() % kCellCount), AnyText(random));
       }
-      const Rehearsal rehearsal = editor.Rehearse();
-      const GridMarks marks = editor.Marks();
-      const RosterGrid saved = editor.document().grid();
-      editor.Save(view);
+      const SavePreview preview = editor.Preview();
+      const GridMarks marks = editor.state().marks;
+      const RosterGrid typed = editor.state().grid;
+      editor.Save();
       if (random() % 2 == 0) continue;
-      editor.LoadTeam(team.key, view);
+      editor.LoadTeam(team.key);
       for (const Cell cell : kAllCells) {
-        ASSERT_EQ(editor.document().grid().Text(cell), rehearsal.TextAfter(cell))
+        ASSERT_EQ(editor.state().grid.Text(cell), preview.TextAfter(cell))
             << "session " << session << " row " << cell.row;
         const CellMark& mark = marks.At(cell);
-        if (mark.is_unkept) {
-          ASSERT_EQ(mark.after, rehearsal.TextAfter(cell));
-          ASSERT_NE(mark.after, saved.Text(cell));
-        } else if (cell.column < kText12) {
-          ASSERT_EQ(UpperCase(rehearsal.TextAfter(cell)), UpperCase(saved.Text(cell)));
+        if (mark.is_lossy) {
+          ASSERT_EQ(mark.after, preview.TextAfter(cell));
+          ASSERT_NE(mark.after, typed.Text(cell));
+        } else if (!IsFeature(cell.column)) {
+          ASSERT_EQ(UpperCase(preview.TextAfter(cell)), UpperCase(typed.Text(cell)));
         }
       }
     }

@@ -1,0 +1,66 @@
+#include "editor/history.h"
+
+#include <utility>
+
+namespace morlek {
+namespace {
+
+constexpr std::size_t kMostBytes = std::size_t{32} << 20U;
+
+std::size_t BytesOf(const GridChange& step) {
+  std::size_t bytes = 0;
+  for (const CellChange& part : step) {
+    bytes += sizeof(part) + part.before.size() + part.after.size();
+  }
+  return bytes;
+}
+
+}  // namespace
+
+void History::Add(GridChange step) {
+  EndVisit();
+  while (can_redo()) DropLastStep();
+  bytes_ += BytesOf(step);
+  steps_.push_back(std::move(step));
+  while (bytes_ > kMostBytes && steps_.size() > 1) {
+    bytes_ -= BytesOf(steps_.front());
+    steps_.pop_front();
+  }
+  done_ = steps_.size();
+}
+
+void History::AddTyping(const CellChange& typed) {
+  if (visited_ != typed.cell) {
+    Add({typed});
+    visited_ = typed.cell;
+    return;
+  }
+  CellChange& step = steps_.back().front();
+  bytes_ += typed.after.size();
+  bytes_ -= step.after.size();
+  step.after = typed.after;
+  if (step.after == step.before) {
+    DropLastStep();
+    done_ = steps_.size();
+    EndVisit();
+  }
+}
+
+std::optional<GridChange> History::Undo() {
+  EndVisit();
+  if (!can_undo()) return std::nullopt;
+  return Reverse(steps_.at(--done_));
+}
+
+std::optional<GridChange> History::Redo() {
+  EndVisit();
+  if (!can_redo()) return std::nullopt;
+  return steps_.at(done_++);
+}
+
+void History::DropLastStep() {
+  bytes_ -= BytesOf(steps_.back());
+  steps_.pop_back();
+}
+
+}  // namespace morlek

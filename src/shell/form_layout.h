@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QRect>
+#include <QString>
+#include <array>
+
+#include "team/cell.h"
+
+namespace morlek {
+
+/// Where a block of the grid stands, in twips within the frame of the roster, and the index of the
+/// label over its first column.
+struct BlockLayout {
+  const Block& block;
+  int header_top;
+  int first_top;
+  int first_header;
+  std::array<int, kColumnCount> lefts;
+};
+
+inline constexpr std::array<BlockLayout, 2> kBlockLayouts = {
+    {{kBatters,
+      480,
+      840,
+      1,
+      {0, 1620, 1980, 2340, 2700, 3060, 3420, 3780, 4140, 4620, 4980, 5400, 5760, 6120}},
+     {kPitchers,
+      5400,
+      5760,
+      15,
+      {0, 1620, 1980, 2340, 2700, 3180, 3540, 3900, 4260, 4620, 4980, 5340, 5700, 6060}}}};
+
+/// How high a block's row of headers is, in twips.
+inline constexpr int kHeaderHeight = 360;
+
+/// The form name of a cell's box: "Text3(0)".
+[[nodiscard]] QString BoxNameOf(Cell cell);
+
+/// Where the box of a cell stands, and the header over the column at a place (0 to 13) of a block,
+/// in logical pixels within the frame of the roster.
+[[nodiscard]] QRect BoxRectOf(Cell cell);
+[[nodiscard]] QRect HeaderRectOf(const BlockLayout& layout, std::size_t place);
+
+}  // namespace morlek

@@ -1,0 +1,50 @@
+#include "team/save_preview.h"
+
+#include <algorithm>
+
+#include "image/failure.h"
+#include "team/column_bytes.h"
+#include "team/record_decoder.h"
+#include "team/record_encoder.h"
+
+namespace morlek {
+namespace {
+
+class DeafListener : public EncodingListener {
+ public:
+  void UnknownLetter(int /*row*/, std::string_view /*letter*/) override {}
+  void NameTooLong(int /*row*/) override {}
+};
+
+}  // namespace
+
+SavePreview::SavePreview(const RosterGrid& grid, CodecState state, const RecordBytes& known) {
+  DeafListener listener;
+  const auto sink = [this](int row, int offset, std::uint8_t byte) {
+    written_.Put(row, offset, byte);
+    return true;
+  };
+  end_row_ = EncodeRecord(grid, state, sink, listener);
+
+  RecordBytes record = known;
+  record.PutAll(written_);
+  const auto source = [&record](int row, int offset) {
+    const std::optional<std::uint8_t> byte = record.At(row, offset);
+    if (!byte) throw OperationFailed("The byte is not known.");
+    return *byte;
+  };
+  try {
+    DecodeRecord(source, state, after_);
+  } catch (const OperationFailed&) {
+    after_ = grid;
+  }
+}
+
+SavePreview::Fate SavePreview::FateOf(Cell cell) const {
+  if (end_row_ && cell.row >= *end_row_) {
+    return cell == Cell{Column::kName, *end_row_} ? Fate::kEndsSave : Fate::kNotReached;
+  }
+  return written_.HasAny(cell.row, BytesOf(cell.column)) ? Fate::kStored : Fate::kSkipped;
+}
+
+}  // namespace morlek
