@@ -1,0 +1,204 @@
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAction>
+#include <random>
+
+#include "image/team_directory.h"
+#include "shell/code_page_text.h"
+#include "shell/eye.h"
+#include "shell/window_fixture.h"
+#include "support/form_columns.h"
+
+namespace morlek {
+namespace {
+
+/// After random steps what the window shows is worked out a second time from the editor's state, in
+/// the plainest way.
+class OneTruthTest : public WindowTest {
+ protected:
+  [[nodiscard]] const EditorState& state() const { return editor->state(); }
+  [[nodiscard]] bool IsChecked(const QString& name) const {
+    return static_cast<bool>(QAccessible::queryAccessibleInterface(&Find(name))->state().checked);
+  }
+  [[nodiscard]] QString TextOf(Column column) const {
+    return FromCodePage(state().grid.Text({column, state().stance_row}));
+  }
+
+  /// One step of those that a person can take, drawn at random.
+  void Step(std::mt19937& random);
+
+  /// Finds the box of each cell, which takes too long for every step.
+  void FindBoxes();
+
+  void ExpectCells() const;
+  void ExpectFoot() const;
+  void ExpectTeam() const;
+  void ExpectFeatures() const;
+  void ExpectTruth() const {
+    ExpectCells();
+    ExpectFoot();
+    ExpectTeam();
+    ExpectFeatures();
+  }
+
+  std::vector<QLineEdit*> boxes;
+};
+
+void OneTruthTest::FindBoxes() {
+  boxes.assign(kCellCount, nullptr);
+  for (int row = 0; row < 25; ++row) {
+    for (int column = 1; column <= 14; ++column) {
+      boxes.at(IndexOf(CellOfArray(column, row))) = &Box(column, row);
+    }
+  }
+}
+
+void OneTruthTest::ExpectCells() const {
+  int modified = 0;
+  int lossy = 0;
+  for (const Cell cell : kAllCells) {
+    const QLineEdit& box = *boxes.at(IndexOf(cell));
+    const std::string name = box.objectName().toStdString();
+    ASSERT_EQ(ToCodePage(box.text()), state().grid.Text(cell)) << name;
+    const CellMark& mark = state().marks.At(cell);
+    const bool is_blue = box.palette().color(QPalette::Text) == QColor(0x1f, 0x5f, 0xd0);
+    ASSERT_EQ(is_blue, mark.is_modified) << name;
+    const QString tip = box.toolTip();
+    ASSERT_EQ(tip.isEmpty(), !mark.is_marked()) << name;
+    ASSERT_EQ(tip.contains("Not saved yet") || tip.startsWith("SAVE "), mark.is_marked()) << name;
+    modified += mark.is_modified ? 1 : 0;
+    lossy += mark.is_lossy ? 1 : 0;
+  }
+  ASSERT_EQ(state().marks.modified_count(), modified);
+  ASSERT_EQ(state().marks.lossy_count(), lossy);
+}
+
+void OneTruthTest::ExpectFoot() const {
+  const int modified = state().marks.modified_count();
+  const int lossy = state().marks.lossy_count();
+  const QString dot = QString::fromUtf8(" · ");
+  QString foot = PathText(state().place.image.filename());
+  if (state().is_grid_shown && state().is_file_held) {
+    foot += dot + "a file is still open and blocks SAVE (Ctrl+O, Cancel)";
+  } else if (state().is_grid_shown) {
+    if (modified == 1) foot += dot + "1 change not saved";
+    if (modified > 1) foot += dot + QString::number(modified) + " changes not saved";
+    if (lossy == 1) foot += dot + "SAVE will not keep 1 cell (F8)";
+    if (lossy > 1) foot += dot + QString("SAVE will not keep %1 cells (F8)").arg(lossy);
+  }
+  ASSERT_EQ(LabelText("labelStatus"), foot);
+  ASSERT_EQ(Find("labelStatus").accessibleDescription(), foot);
+  ASSERT_EQ(LabelText("Label3").toStdString(), state().identity);
+}
+
+void OneTruthTest::ExpectTeam() const {
+  ASSERT_EQ(IsShown("Toolbar1"), !state().place.image.empty());
+  ASSERT_EQ(IsShown("Frame1"), state().is_grid_shown);
+  ASSERT_EQ(IsShown("labelHint"), !state().is_grid_shown);
+  ASSERT_EQ(LabelText("labelHint"), state().place.image.empty()
+                                        ? "Open a ROM with Ctrl+O"
+                                        : "Pick a team above, or press Ctrl+Page Down");
+  const Team* team = state().place.team;
+  ASSERT_EQ(LabelText("Label4(0)"), team == nullptr ? "" : FromCodePage(team->display_name));
+  for (const Team& each : kTeamDirectory) {
+    ASSERT_EQ(IsChecked(FromCodePage(each.key)), state().is_grid_shown && team == &each)
+        << each.key;
+  }
+  for (const QAction* action : Find("Frame1").actions()) {
+    ASSERT_EQ(action->isEnabled(), action->text() == "&Undo" ? state().can_undo : state().can_redo);
+  }
+}
+
+void OneTruthTest::ExpectFeatures() const {
+  ASSERT_EQ(window->width(), state().layout == Layout::kNarrow ? 447 : 666);
+  for (const auto& [frame, array, column, pictures] :
+       {std::tuple("Frame2", "Picture1", Column::kFace, 48),
+        {"Frame3", "Picture2", Column::kBody, 48},
+        {"Frame4", "Picture3", Column::kLegs, 10}}) {
+    ASSERT_EQ(!Find(frame).isHidden(), state().chooser == column) << frame;
+    bool is_number = false;
+    const uint code = TextOf(column).toUInt(&is_number, 16);
+    int marked = 0;
+    for (int index = 0; index < 48; ++index) {
+      const QString name = QString("%1(%2)").arg(array).arg(index);
+      if (window->findChild<QWidget*>(name) == nullptr || !IsChecked(name)) continue;
+      ++marked;
+      // "face 24": a picture is known by its code.
+      ASSERT_TRUE(is_number) << TextOf(column).toStdString();
+      ASSERT_EQ(Find(name).accessibleName().section(' ', 1).toUInt(nullptr, 16), code);
+    }
+    ASSERT_LE(marked, 1);
+  }
+  ASSERT_EQ(Find("StanceView").accessibleDescription(), TextOf(Column::kName));
+}
+
+void OneTruthTest::Step(std::mt19937& random) {
+  const auto any = [&random](int count) { return static_cast<int>(random() % unsigned(count)); };
+  const QStringList texts = {"",   "7",    "12",      "300",   "R",  "LS<", "ZZ", ".300",
+                             "23", "3.45", "J.SM1TH", "A.BEL", "0F", "x",   "05", "TOO.LONG.NAME"};
+  switch (any(13)) {
+    case 0:
+    case 1:
+      Click(FromCodePage(kTeamDirectory.at(random() % 28).key));
+      break;
+    case 2:
+      Press(any(2) == 0 ? Qt::Key_PageDown : Qt::Key_PageUp, Qt::ControlModifier);
+      break;
+    case 3:
+    case 4:
+      if (state().is_grid_shown) TypeInto(1 + any(14), any(25), texts[any(16)]);
+      break;
+    case 5:
+      if (state().is_grid_shown) Box(12 + any(3), any(25)).setFocus();
+      break;
+    case 6:
+      Find<QAbstractButton>(QString("Picture%1(%2)").arg(1 + any(2)).arg(any(48))).click();
+      break;
+    case 7:
+      if (state().is_grid_shown) PasteInto(1 + any(14), any(25), "A.ONE\tP\t7\nB.TWO\t1B");
+      break;
+    case 8:
+      Press(any(2) == 0 ? Qt::Key_Z : Qt::Key_Y, Qt::ControlModifier);
+      break;
+    case 9:
+      Press(Qt::Key_S, Qt::ControlModifier);
+      break;
+    case 10:
+      // A short team file is left open, and a cancelled dialog frees it.
+      ChooseWith(any(2) == 0 ? "mnuImport" : "mnuExport",
+                 any(2) == 0 ? std::optional(PathOf("short.txt")) : std::nullopt);
+      break;
+    case 11:
+      ChooseWith(any(3) == 0 ? "mnuOpen" : "mnuMini", PathOf(any(2) == 0 ? "game.smc" : "other"));
+      user.paths.clear();
+      break;
+    default:
+      // The image cannot be opened for a while.
+      if (any(2) == 0) std::filesystem::remove(ImageFile());
+      if (any(2) == 0) PutFile(ImageFile(), Sample());
+      break;
+  }
+}
+
+TEST_F(OneTruthTest, AfterEveryStepTheWindowShowsTheStateOfTheEditor) {
+  constexpr int kSteps = 250;
+  PutFile(folder / "other", std::string("another game"));
+  for (const unsigned seed : {1U, 2U}) {
+    std::mt19937 random(seed);
+    PutFile(ImageFile(), Sample());
+    Start(seed == 1 ? std::optional(ImagePath()) : std::nullopt);
+    FindBoxes();
+    ExpectTruth();
+    if (seed == 2) ChooseWith("mnuOpen", ImagePath());
+    for (int step = 0; step < kSteps && !HasFatalFailure(); ++step) {
+      PutFile(folder / "short.txt", std::string("S.HORT,P,\r\n"));
+      SCOPED_TRACE(testing::Message() << "seed " << seed << " step " << step);
+      Step(random);
+      QCoreApplication::processEvents();
+      ExpectTruth();
+    }
+  }
+}
+
+}  // namespace
+}  // namespace morlek
