@@ -8,27 +8,30 @@
 
 namespace morlek {
 
-/// Where a block of the grid stands, in twips within the frame of the roster, and the index of the
-/// label over its first column.
+/// Where a block of the grid stands, in twips within the frame of the roster, the index of the
+/// label over its first column, and from left to right the columns' left edges, their widths, and
+/// the numbers of the text box arrays that show them.
 struct BlockLayout {
   const Block& block;
   int header_top;
   int first_top;
   int first_header;
   std::array<int, kColumnCount> lefts;
+  std::array<int, kColumnCount> widths;
+  std::array<int, kColumnCount> arrays;
 };
 
-inline constexpr std::array<BlockLayout, 2> kBlockLayouts = {
-    {{kBatters,
-      480,
-      840,
-      1,
-      {0, 1620, 1980, 2340, 2700, 3060, 3420, 3780, 4140, 4620, 4980, 5400, 5760, 6120}},
-     {kPitchers,
-      5400,
-      5760,
-      15,
-      {0, 1620, 1980, 2340, 2700, 3180, 3540, 3900, 4260, 4620, 4980, 5340, 5700, 6060}}}};
+// clang-format off
+inline constexpr std::array<BlockLayout, 2> kBlockLayouts = {{
+    {kBatters, 480, 840, 1,
+     {0, 1620, 1980, 2340, 2700, 3060, 3420, 3780, 4140, 4620, 4980, 5400, 5760, 6120},
+     {1635, 375, 375, 375, 375, 375, 375, 375, 495, 375, 435, 375, 375, 375},
+     {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14}},
+    {kPitchers, 5400, 5760, 15,
+     {0, 1620, 1980, 2340, 2700, 3180, 3540, 3900, 4260, 4620, 4980, 5340, 5700, 6060},
+     {1635, 375, 375, 375, 495, 375, 375, 375, 375, 375, 375, 375, 375, 375},
+     {1, 2, 3, 4, 9, 5, 6, 7, 8, 10, 11, 12, 13, 14}}}};
+// clang-format on
 
 /// How high a block's row of headers is, in twips.
 inline constexpr int kHeaderHeight = 360;

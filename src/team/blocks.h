@@ -74,41 +74,41 @@ struct Block {
   }
 };
 
-inline constexpr Block kBatters = {"batter",
-                                   0,
-                                   kBatterCount,
-                                   {{{Column::kName, "P.NAME", "name"},
-                                     {Column::kPosition, "P", "fielding position"},
-                                     {Column::kUniformNumber, "#", "uniform number"},
-                                     {Column::kBattingSide, "B", "batting side"},
-                                     {Column::kBatting, "Bt", "batting rating"},
-                                     {Column::kPower, "Po", "power rating"},
-                                     {Column::kSpeed, "Sp", "speed rating"},
-                                     {Column::kFielding, "Fd", "fielding rating"},
-                                     {Column::kBattingAverage, "AVG", "batting average"},
-                                     {Column::kHomeRuns, "HR", "home runs"},
-                                     {Column::kRunsBattedIn, "RBI", "runs batted in"},
-                                     {Column::kFace, "F", "face"},
-                                     {Column::kBody, "Bo", "body"},
-                                     {Column::kLegs, "L", "legs"}}}};
+// clang-format off
+inline constexpr Block kBatters = {
+    "batter", 0, kBatterCount,
+    {{{Column::kName, "P.NAME", "name"},
+      {Column::kPosition, "P", "fielding position"},
+      {Column::kUniformNumber, "#", "uniform number"},
+      {Column::kBattingSide, "B", "batting side"},
+      {Column::kBatting, "Bt", "batting rating"},
+      {Column::kPower, "Po", "power rating"},
+      {Column::kSpeed, "Sp", "speed rating"},
+      {Column::kFielding, "Fd", "fielding rating"},
+      {Column::kBattingAverage, "AVG", "batting average"},
+      {Column::kHomeRuns, "HR", "home runs"},
+      {Column::kRunsBattedIn, "RBI", "runs batted in"},
+      {Column::kFace, "F", "face"},
+      {Column::kBody, "Bo", "body"},
+      {Column::kLegs, "L", "legs"}}}};
 
-inline constexpr Block kPitchers = {"pitcher",
-                                    kBatterCount,
-                                    kSlotCount,
-                                    {{{Column::kName, "P.NAME", "name"},
-                                      {Column::kPosition, "P", "fielding position"},
-                                      {Column::kUniformNumber, "#", "uniform number"},
-                                      {Column::kThrowingHand, "TH", "throwing hand"},
-                                      {Column::kEarnedRunAverage, "ERA", "earned run average"},
-                                      {Column::kPitchSpeed, "Sp", "speed rating"},
-                                      {Column::kControl, "Co", "control rating"},
-                                      {Column::kFatigue, "Fa", "fatigue rating"},
-                                      {Column::kWins, "W", "wins"},
-                                      {Column::kLosses, "L", "losses"},
-                                      {Column::kSaves, "S", "saves"},
-                                      {Column::kFace, "F", "face"},
-                                      {Column::kBody, "Bo", "body"},
-                                      {Column::kLegs, "L", "legs"}}}};
+inline constexpr Block kPitchers = {
+    "pitcher", kBatterCount, kSlotCount,
+    {{{Column::kName, "P.NAME", "name"},
+      {Column::kPosition, "P", "fielding position"},
+      {Column::kUniformNumber, "#", "uniform number"},
+      {Column::kThrowingHand, "TH", "throwing hand"},
+      {Column::kEarnedRunAverage, "ERA", "earned run average"},
+      {Column::kPitchSpeed, "Sp", "speed rating"},
+      {Column::kControl, "Co", "control rating"},
+      {Column::kFatigue, "Fa", "fatigue rating"},
+      {Column::kWins, "W", "wins"},
+      {Column::kLosses, "L", "losses"},
+      {Column::kSaves, "S", "saves"},
+      {Column::kFace, "F", "face"},
+      {Column::kBody, "Bo", "body"},
+      {Column::kLegs, "L", "legs"}}}};
+// clang-format on
 
 /// The block in which `row` (0 to 24) stands.
 [[nodiscard]] constexpr const Block& BlockOf(int row) {
