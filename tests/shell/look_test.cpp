@@ -246,13 +246,14 @@ class LookTest : public WindowTest {
 
   void ExpectWindow(const QString& name) const { ExpectLook(name, PixelsOf(*window)); }
 
-  /// The part of the window right of a control's left edge and below its top. A picture with less
-  /// in it can spare more colours for each thing.
-  void ExpectFrom(const QString& control, const QString& name) const {
-    const QImage all = PixelsOf(*window);
-    const QPointF place = Find(control).mapTo(window.get(), QPointF(0, 0));
-    const QPoint first = (place * window->devicePixelRatio()).toPoint();
-    ExpectLook(name, all.copy(QRect(first, all.rect().bottomRight())));
+  /// What is seen of one part of the window. A picture with less in it has more colours for each
+  /// thing.
+  void ExpectPart(const QString& control, const QString& name) const {
+    const QWidget& part = Find(control);
+    const qreal scale = window->devicePixelRatio();
+    const QRectF pixels(part.mapTo(window.get(), QPointF(0, 0)) * scale,
+                        QSizeF(part.size()) * scale);
+    ExpectLook(name, PixelsOf(*window).copy(pixels.toAlignedRect()));
   }
 
   void ExpectDialogs(const QString& shade) const {
@@ -314,11 +315,12 @@ TEST_F(LookTest, Choosers) {
   StartWithTeam();
   Box(12, 17).setFocus();
   Click("Picture1(36)");
-  ExpectFrom("StancePanel", "faces");
+  ExpectPart("StancePanel", "faces");
+  ExpectPart("Frame1", "player-in-view");
   Box(13, 17).setFocus();
-  ExpectFrom("StancePanel", "bodies");
+  ExpectPart("StancePanel", "bodies");
   Box(14, 17).setFocus();
-  ExpectFrom("Frame1", "legs");
+  ExpectPart("StancePanel", "legs");
 }
 
 TEST_F(LookTest, Dark) {
@@ -327,9 +329,10 @@ TEST_F(LookTest, Dark) {
   ExpectWindow("marks-dark");
   Box(12, 17).setFocus();
   Click("Picture1(36)");
-  ExpectFrom("StancePanel", "faces-dark");
+  ExpectPart("StancePanel", "faces-dark");
+  ExpectPart("Frame1", "player-in-view-dark");
   Box(14, 17).setFocus();
-  ExpectFrom("Frame1", "legs-dark");
+  ExpectPart("StancePanel", "legs-dark");
 }
 
 TEST_F(LookTest, Dialogs) {
@@ -344,7 +347,7 @@ TEST_F(LookTest, OneAndAHalfTimesAsLarge) {
   MarkTeam();
   ExpectWindow("marks-larger");
   Box(12, 17).setFocus();
-  ExpectFrom("StancePanel", "faces-larger");
+  ExpectPart("StancePanel", "faces-larger");
 }
 
 }  // namespace
