@@ -16,13 +16,17 @@ int main(int argument_count, char** arguments) {
        "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
       {"name": "low", "x": 1000, "y": 0, "width": 1000, "height": 480,
        "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
-      {"name": "sharp", "x": 2000, "y": 0, "width": 1500, "height": 1200,
+      {"name": "sharp", "x": 0, "y": 1000, "width": 1500, "height": 1200,
        "logicalDpi": 144, "logicalBaseDpi": 96, "dpr": 1}]})");
   screens.flush();
-  // No fonts but the embedded one, and none of the machine's ways to draw it.
+  // Letters without colours at their edges, whatever the machine's own settings are.
   QTemporaryFile fonts;
   if (!fonts.open()) return EXIT_FAILURE;
-  fonts.write("<fontconfig/>");
+  fonts.write(R"(<fontconfig>
+      <include ignore_missing="yes">/etc/fonts/fonts.conf</include>
+      <match target="pattern"><edit name="rgba" mode="assign"><const>none</const></edit></match>
+      <match target="font"><edit name="rgba" mode="assign"><const>none</const></edit></match>
+      </fontconfig>)");
   fonts.flush();
   qputenv("FONTCONFIG_FILE", fonts.fileName().toLocal8Bit());
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toLocal8Bit());
