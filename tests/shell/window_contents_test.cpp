@@ -88,7 +88,7 @@ TEST_F(WindowContentsTest, TeamButtons) {
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_TRUE(LabelText("Label4(0)").endsWith(team.toUpper())) << team.toStdString();
     // Without the stripe below the letters, which can be white too.
-    const QPixmap badge = button->icon().pixmap(270, 190).copy(0, 0, 270, 155);
+    const QPixmap badge = button->icon().pixmap({270, 190}, 1).copy(0, 0, 270, 155);
     EXPECT_TRUE(ReadsAs(badge, buttons[place].section(' ', -1))) << team.toStdString();
   }
 }
