@@ -5,16 +5,13 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QMessageBox>
-#include <QSettings>
 #include <QTreeView>
+
+#include "ui/toolkit_workarounds.h"
 
 namespace morlek {
 
-DialogUser::DialogUser() {
-  // The toolkit's file dialog writes the folders that it showed to a settings file of its own; the
-  // program keeps nothing between runs. Below this path no file can be.
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
-}
+DialogUser::DialogUser() { KeepNoSettings(); }
 
 namespace {
 

@@ -23,8 +23,8 @@
 #include "shell/team_toolbar.h"
 #include "ui/cls_on_top.h"
 #include "ui/dropped_file.h"
+#include "ui/toolkit_workarounds.h"
 #include "ui/twips.h"
-#include "ui/window_ground.h"
 
 namespace morlek {
 namespace {
@@ -122,7 +122,7 @@ void MainWindow::AddRoster() {
 void MainWindow::SetContentWidth(int twips) {
   if (roster_ != nullptr && twips == kNarrowWidth) roster_->ShowStanceRow(std::nullopt);
   if (const QWindow* window = windowHandle()) {
-    SetWindowGround(*window, palette().color(QPalette::Window));
+    SetWindowBackground(*window, palette().color(QPalette::Window));
   }
   area_->SetContentWidth(twips);
   FitToScreen();

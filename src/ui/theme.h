@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QFont>
 #include <QPalette>
-#include <thread>
 
 /// The one look of the program, light or dark as the desktop is, in a font that it brings along, so
 /// that widths do not depend on the machine.
@@ -103,11 +102,6 @@ inline constexpr Shades kDark{
 
 /// What is laid over a picture that cannot be reached.
 [[nodiscard]] QColor VeilOf(const QPalette& palette);
-
-/// Starts reading the system's fonts, a good part of the start, beside all that the toolkit does
-/// before it needs them. Call first of all, in the main thread, which the toolkit takes to be the
-/// one that calls.
-[[nodiscard]] std::jthread ReadSystemFonts();
 
 /// Makes the embedded font known to the program; call once, before Font. Should that fail, texts
 /// stand in a font of the system.
