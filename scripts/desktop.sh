@@ -48,7 +48,7 @@ start_desktop() {
   wait_for "the window manager" eval 'xdotool get_desktop >/dev/null 2>&1'
 }
 
-# The windows with exactly this title; xdotool's own search does not tell capitals from small letters.
+# The windows with exactly this title; xdotool's own search does not distinguish capitals from small letters.
 windows_named() {
   local each
   for each in $(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do

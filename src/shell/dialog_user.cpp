@@ -16,7 +16,7 @@ DialogUser::DialogUser() { KeepNoSettings(); }
 namespace {
 
 /// A box without an icon keeps more room left of its text than right of it, and is as wide as its
-/// text, so that a short one cuts its title.
+/// text, so that a short one truncates its title.
 void EvenOut(QMessageBox& box) {
   constexpr int kWidth = 260;
   constexpr int kMargin = 18;
@@ -35,7 +35,8 @@ void EvenOut(QMessageBox& box) {
   layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), text_column);
 }
 
-/// The toolkit's own dialog, where the system has none, cuts sizes and dates although it has room.
+/// The toolkit's own dialog, where the system has none, truncates sizes and dates although it has
+/// room.
 void FitColumns(const QFileDialog& dialog) {
   const auto* details = dialog.findChild<QTreeView*>("treeView");
   if (details == nullptr) return;

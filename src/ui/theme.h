@@ -29,7 +29,7 @@ struct Shades {
   QColor critical;
   QColor tip;
   QColor tip_text;
-  // Pictures are painted for a light ground, which they keep in the dark.
+  // Pictures are painted for a light background, which they keep in the dark.
   QColor tile;
   QColor tile_text;
   QColor tile_faint_text;

@@ -8,10 +8,10 @@ class QWindow;
 /// What the program does behind the toolkit's back, each with its reason.
 namespace morlek {
 
-/// Keeps every QSettings object of this process, the toolkit's own included, from reading or
-/// writing a settings file of the user. The toolkit's file dialog would note there which folders it
-/// has shown, and the program keeps nothing between runs. Does nothing on Windows, where that
-/// dialog is not used.
+/// Keeps the toolkit's file dialog from noting the folders that it has shown in a settings file, as
+/// the program keeps nothing between runs. It works on the whole process: no QSettings object of
+/// the native format reads or writes a file of the user from now on. Does nothing on Windows, where
+/// that dialog is not used.
 void KeepNoSettings();
 
 /// Starts reading the system's fonts in a thread, beside all that the toolkit does before it needs
