@@ -21,14 +21,13 @@ void ShowHeadings(QTextDocument& document) {
   for (QTextBlock line = document.begin(); line.isValid(); line = line.next()) {
     const QString text = heading.match(line.text()).captured();
     QFont font = document.defaultFont();
-    const qreal plain_width = QFontMetricsF(font).horizontalAdvance(text);
     font.setBold(true);
     if (text.startsWith('-') || text.startsWith(':')) {
       const QString above = line.previous().text();
       const QString beside = above.isEmpty() ? line.next().text() : above;
       const qreal width = QFontMetricsF(font).horizontalAdvance(beside);
       font.setBold(false);
-      font.setStretch(qRound(100 * width / plain_width));
+      font.setStretch(qRound(100 * width / QFontMetricsF(font).horizontalAdvance(text)));
     }
     QTextCharFormat format;
     format.setFont(font);
