@@ -1,5 +1,7 @@
 #include "ratio_table.h"
 
+#include <algorithm>
+#include <functional>
 #include <iomanip>
 #include <iostream>
 
@@ -11,6 +13,17 @@ bool PrintRow(const char* what, double value, double limit) {
             << std::setprecision(2) << std::setw(8) << value << std::setw(10) << limit
             << (within ? "" : "  OVER") << '\n';
   return within;
+}
+
+double Median(std::vector<double> values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::ranges::nth_element(values, middle);
+  return *middle;
+}
+
+double MedianRatio(std::vector<double> values, const std::vector<double>& others) {
+  std::ranges::transform(values, others, values.begin(), std::divides());
+  return Median(std::move(values));
 }
 
 void LeastCollector::ReportRuns(const std::vector<Run>& runs) {

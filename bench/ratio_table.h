@@ -9,8 +9,14 @@
 
 namespace morlek::bench {
 
-/// Prints one row of the table and tells whether the value is within its limit.
+/// Prints one row of the table and returns whether the value is within its limit.
 bool PrintRow(const char* what, double value, double limit);
+
+/// The middle one of values, one or more.
+[[nodiscard]] double Median(std::vector<double> values);
+
+/// The median of how many times the value beside it each value is.
+[[nodiscard]] double MedianRatio(std::vector<double> values, const std::vector<double>& others);
 
 /// A ratio of the table: how many times the base a measured benchmark may take.
 struct Ratio {
@@ -27,7 +33,7 @@ class LeastCollector : public benchmark::BenchmarkReporter {
   bool ReportContext(const Context& /*context*/) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override;
 
-  /// Prints a row a ratio and tells whether all are within their limits.
+  /// Prints a row a ratio and returns whether all are within their limits.
   [[nodiscard]] bool PrintRows(std::span<const Ratio> ratios) const;
 
  private:

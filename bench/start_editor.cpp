@@ -10,7 +10,7 @@
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
 #include "silent_user.h"
-#include "ui/theme.h"
+#include "ui/toolkit_workarounds.h"
 
 namespace {
 
@@ -45,7 +45,7 @@ int Run(morlek::User& user, bool with_team) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  const std::jthread fonts = morlek::theme::ReadSystemFonts();
+  const std::jthread fonts = morlek::ReadSystemFonts();
   const QApplication application(argument_count, arguments);
   morlek::ApplyLook();
   if (argument_count > 1) {

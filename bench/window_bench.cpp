@@ -1,118 +1,189 @@
-// Runs the window programs beside it by turns and prints how their start and memory compare.
+// Steps in the real window, each measured until the grid has been painted, beside what they are
+// compared with.
 
-#include <spawn.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <algorithm>
-#include <array>
-#include <chrono>
-#include <cstdio>
-#include <filesystem>
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTimer>
+#include <ctime>
+#include <functional>
 #include <iostream>
-#include <stdexcept>
-#include <string>
 #include <vector>
 
 #include "bench_files.h"
 #include "ratio_table.h"
+#include "shell/look.h"
+#include "shell/main_window.h"
+#include "silent_user.h"
 
 namespace {
 
-struct Measured {
-  std::vector<double> milliseconds;
-  std::vector<double> mebibytes;
+class PaintWatcher : public QObject {
+ public:
+  explicit PaintWatcher(QWidget& watched) { watched.installEventFilter(this); }
+
+  /// The milliseconds that the processor works from a step to the next painting of the watched
+  /// widget, whose look the step has to change. Other programs add nothing to them.
+  double TimeOf(const std::function<void()>& step) {
+    painted_ = false;
+    const std::clock_t start = std::clock();
+    step();
+    while (!painted_) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return 1e3 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    painted_ |= event->type() == QEvent::Paint;
+    return false;
+  }
+
+ private:
+  bool painted_ = false;
 };
 
-double Median(std::vector<double> values) {
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::ranges::nth_element(values, middle);
-  return *middle;
-}
-
-void RunOnce(const std::filesystem::path& program, Measured& measured, std::string argument = {}) {
-  std::string name = program.string();
-  char* const arguments[] = {name.data(), argument.empty() ? nullptr : argument.data(), nullptr};
-  const auto start = std::chrono::steady_clock::now();
-  pid_t process = 0;
-  if (posix_spawn(&process, name.c_str(), nullptr, nullptr, arguments, environ) != 0) {
-    throw std::runtime_error("cannot start " + name);
+/// The whole program with an image, its team grid in view.
+class Program {
+ public:
+  Program(const std::filesystem::path& image, const std::filesystem::path& team_file)
+      : user_(QString::fromStdU16String(image.u16string()),
+              QString::fromStdU16String(team_file.u16string())) {
+    window_.show();
+    while (window_.findChild<QWidget*>("Text1(24)") == nullptr) QCoreApplication::processEvents();
   }
-  int status = 0;
-  rusage usage{};
-  wait4(process, &status, 0, &usage);
-  if (status != 0) throw std::runtime_error(name + " failed");
-  const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
-  measured.milliseconds.push_back(time.count());
-  measured.mebibytes.push_back(static_cast<double>(usage.ru_maxrss) / 1024);
-}
 
-/// A row of the table whose figure the program window_steps prints.
-struct Step {
-  const char* name;
-  double limit;
+  void Pick(const char* team) { window_.findChild<QAbstractButton*>(team)->click(); }
+  void Choose(const char* item) { window_.findChild<QAction*>(item)->trigger(); }
+  [[nodiscard]] QWidget& frame() { return *window_.findChild<QWidget*>("Frame1"); }
+  [[nodiscard]] QLineEdit& Box(const char* name) { return *frame().findChild<QLineEdit*>(name); }
+
+ private:
+  morlek::bench::SilentUser user_;
+  morlek::Editor editor_{user_};
+  morlek::MainWindow window_{editor_, user_};
 };
 
-constexpr std::array<Step, 4> kSteps = {{
-    {"click on a team to painted grid / plain line edits", 1.3},
-    {"click with 4 GiB / with 1.5 MiB", 1.1},
-    {"a typed character to its painting / without marks", 1.3},
-    {"import to painted grid / a click on a team", 1.3},
-}};
-
-/// The figures that a program prints.
-std::vector<double> FiguresOf(const std::filesystem::path& program) {
-  FILE* pipe = popen(program.c_str(), "r");
-  std::vector<double> figures;
-  double figure = 0;
-  while (pipe != nullptr && std::fscanf(pipe, "%lf", &figure) == 1) figures.push_back(figure);
-  if (pipe != nullptr) pclose(pipe);
-  if (figures.size() != kSteps.size() + 1) {
-    throw std::runtime_error("no figures from " + program.string());
+/// Line edits where the boxes of a grid are, for which nothing else is done.
+class PlainGrid : public QWidget {
+ public:
+  explicit PlainGrid(const QWidget& frame) {
+    for (const auto* box : frame.findChildren<QLineEdit*>()) {
+      auto* edit = new QLineEdit(this);
+      edit->setGeometry(box->geometry());
+      edit->setTextMargins(box->textMargins());
+      edits_ << edit;
+      if (box->objectName() == "Text1(24)") last_row_ = edit;
+    }
+    setFixedSize(frame.size());
+    show();
   }
-  return figures;
+
+  void Show(const QStringList& texts) {
+    for (qsizetype place = 0; place < texts.size(); ++place) edits_[place]->setText(texts[place]);
+  }
+  [[nodiscard]] QWidget& last_row() { return *last_row_; }
+
+ private:
+  QList<QLineEdit*> edits_;
+  QLineEdit* last_row_ = nullptr;
+};
+
+QStringList TextsOf(const QWidget& frame) {
+  QStringList texts;
+  for (const auto* box : frame.findChildren<QLineEdit*>()) texts << box->text();
+  return texts;
 }
 
-/// The median of how long each start took against the one beside it.
-double MedianRatio(const std::vector<double>& values, const std::vector<double>& others) {
-  std::vector<double> ratios;
-  for (std::size_t round = 0; round < values.size(); ++round) {
-    ratios.push_back(values[round] / others[round]);
+using Step = std::function<double(int round)>;
+
+/// Compares two steps that take turns, and prints the row. After an even number of rounds the first
+/// one changes the grid again.
+bool PrintSteps(const char* what, const Step& step, const Step& other, double limit,
+                int rounds = 100) {
+  std::vector<double> times;
+  std::vector<double> other_times;
+  for (int round = 0; round < rounds; ++round) {
+    times.push_back(step(round));
+    other_times.push_back(other(round));
   }
-  return Median(ratios);
+  return morlek::bench::PrintRow(what, morlek::bench::MedianRatio(times, other_times), limit);
+}
+
+/// Types a digit over what the box holds.
+void TypeOver(QLineEdit& box, int round) {
+  box.selectAll();
+  const QString digit = QString::number(round % 9 + 1);
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_0, Qt::NoModifier, digit);
+  QApplication::sendEvent(&box, &press);
+}
+
+bool PrintAllSteps(const morlek::bench::BenchFolder& folder) {
+  const std::filesystem::path team_file = folder.path("team.txt");
+  Program program(folder.ImageOf(morlek::bench::kGameBytes), team_file);
+  PaintWatcher last_row(program.Box("Text1(24)"));
+  std::cout << "The first click on a team, which also shows the grid, took "
+            << last_row.TimeOf([&] { program.Pick("Mets"); }) << " ms of the processor.\n";
+
+  const auto team_of = [](int round) { return round % 2 == 0 ? "Braves" : "Mets"; };
+  const auto click = [&](int round) {
+    return last_row.TimeOf([&] { program.Pick(team_of(round)); });
+  };
+  const QStringList mets = TextsOf(program.frame());
+  click(0);
+  const QStringList braves = TextsOf(program.frame());
+  program.Choose("mnuExport");
+  click(1);
+
+  PlainGrid plain(program.frame());
+  PaintWatcher plain_row(plain.last_row());
+  bool within = PrintSteps(
+      "click on a team to painted grid / plain line edits", click,
+      [&](int round) {
+        return plain_row.TimeOf([&] { plain.Show(round % 2 == 0 ? braves : mets); });
+      },
+      1.3);
+
+  Program huge(folder.ImageOf(morlek::bench::kHugeBytes), team_file);
+  PaintWatcher huge_row(huge.Box("Text1(24)"));
+  const auto click_huge = [&](int round) {
+    return huge_row.TimeOf([&] { huge.Pick(team_of(round)); });
+  };
+  click_huge(1);
+  within &= PrintSteps("click with 4 GiB / with 1.5 MiB", click_huge, click, 1.1);
+
+  // A window whose editor knows nothing of its image marks nothing.
+  const std::filesystem::path lost_image = folder.ImageOf(morlek::bench::kGameBytes + 1);
+  Program unmarked(lost_image, team_file);
+  std::filesystem::remove(lost_image);
+  unmarked.Pick("Braves");
+  unmarked.frame().show();
+  unmarked.Choose("mnuImport");
+
+  PaintWatcher number(program.Box("Text3(7)"));
+  PaintWatcher unmarked_number(unmarked.Box("Text3(7)"));
+  within &= PrintSteps(
+      "a typed character to its painting / without marks",
+      [&](int round) { return number.TimeOf([&] { TypeOver(program.Box("Text3(7)"), round); }); },
+      [&](int round) {
+        return unmarked_number.TimeOf([&] { TypeOver(unmarked.Box("Text3(7)"), round); });
+      },
+      1.2, 1000);
+
+  return PrintSteps(
+             "import to painted grid / a click on a team",
+             [&](int /*round*/) { return last_row.TimeOf([&] { program.Choose("mnuImport"); }); },
+             [&](int /*round*/) { return click(1); }, 1.3) &&
+         within;
 }
 
 }  // namespace
 
-int main(int /*argument_count*/, char** arguments) {
-  constexpr int kRounds = 31;
-  const std::filesystem::path folder = std::filesystem::path(arguments[0]).parent_path();
-  Measured empty;
-  Measured editor;
-  Measured team;
-  const morlek::bench::BenchFolder files;
-  const std::string image = files.ImageOf(morlek::bench::kGameBytes).string();
-  for (int round = 0; round < kRounds; ++round) {
-    RunOnce(folder / "empty_window", empty);
-    RunOnce(folder / "start_editor", editor);
-    RunOnce(folder / "start_editor", team, image);
-  }
-  const double empty_memory = Median(empty.mebibytes);
-  const double editor_memory = Median(editor.mebibytes);
-  const double team_memory = Median(team.mebibytes);
-  using morlek::bench::PrintRow;
-  bool within = PrintRow("start to painted window / empty window",
-                         MedianRatio(editor.milliseconds, empty.milliseconds), 1.5);
-  within &= PrintRow("peak memory above the empty window, MiB", editor_memory - empty_memory, 10);
-  within &= PrintRow("the same with a team on the screen, MiB", team_memory - empty_memory, 10);
-  const std::vector<double> figures = FiguresOf(folder / "window_steps");
-  for (std::size_t row = 0; row < kSteps.size(); ++row) {
-    within &= PrintRow(kSteps.at(row).name, figures.at(row + 1), kSteps.at(row).limit);
-  }
-  std::cout << "\nThe empty window took " << Median(empty.milliseconds) << " ms and "
-            << empty_memory << " MiB, the editor " << Median(editor.milliseconds) << " ms and "
-            << editor_memory << " MiB; the first\nclick on a team, which also shows the grid, "
-            << figures.front() << " ms.\n";
-  return within ? 0 : 1;
+int main(int argument_count, char** arguments) {
+  const QApplication application(argument_count, arguments);
+  morlek::ApplyLook();
+  // A step that paints nothing would be waited for without end.
+  QTimer::singleShot(std::chrono::minutes(2), [] { std::_Exit(1); });
+  return PrintAllSteps(morlek::bench::BenchFolder()) ? 0 : 1;
 }

@@ -1,5 +1,7 @@
 # A virtual desktop with the real editor on it, driven from outside. To be sourced by a bash script
-# with `set -euo pipefail`; the caller sets `shots`, the folder for screenshots.
+# with `set -euo pipefail`; the caller sets `shots`, the folder for screenshots, and `editor`, the
+# program, an array when it takes arguments. A step that is given a SHOT takes a screenshot by that
+# name before its dialog goes.
 
 patience=${PATIENCE:-30} # seconds
 export LC_ALL=C.UTF-8 # so that any folder's name can be read, whatever this session speaks
@@ -46,7 +48,7 @@ start_desktop() {
   wait_for "the window manager" eval 'xdotool get_desktop >/dev/null 2>&1'
 }
 
-# The windows with exactly this title; xdotool's own search does not tell capitals from small letters.
+# The windows with exactly this title; xdotool's own search does not distinguish capitals from small letters.
 windows_named() {
   local each
   for each in $(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do
@@ -76,21 +78,29 @@ answer() {
   "$@"
   wait_for "the end of \"$title\"" gone "$title" "$dialog"
 }
-type_path() {
-  xdotool type --delay 15 "$1"
-  xdotool key Return
-}
 press() { xdotool key "$@"; }
+press_for() { # KEY [SHOT]
+  if [ -n "${2:-}" ]; then
+    sleep 0.5 # for the picture only
+    shot "$2"
+  fi
+  press "$1"
+}
+type_path() { # PATH [SHOT]
+  xdotool type --delay 20 "$1"
+  press_for Return "${2:-}"
+}
 
 # Starts the editor in the folder of the image and takes the splash away; puts its process into
 # $editor_pid.
-start_editor() {
-  "$editor" &
+start_editor() { # [SHOT]
+  "${editor[@]}" &
   editor_pid=$!
   pids+=("$editor_pid")
   expect_window Form2
-  press space
+  press_for space "${1:-}"
 }
+answer_open() { answer "Open Dale Harrow Jr. Baseball Rom" none type_path "$@"; } # PATH [SHOT]
 
 # Puts the main window into $main and the height of its menu bar into $menu_bar.
 expect_main() {
@@ -133,16 +143,25 @@ type_into() {
   wait_for "the text $3" differs "$before" "${box[@]}"
 }
 
-# SAVE, and the message that it ends with.
-save() {
+# The message that a step ends with.
+confirm() { answer "MORLEK EDITOR" "$main" press_for Return "${1:-}"; } # [SHOT]
+back() { wait_for "the focus of the main window" focused "$main"; }
+save() { # [SHOT]
   click 360 68
-  answer "MORLEK EDITOR" "$main" press Return
-  wait_for "the focus of the main window" focused "$main"
+  confirm "${1:-}"
+  back
 }
-
-quit_editor() {
-  press alt+f q # Quit in the menu File
-  answer "MORLEK EDITOR" "$main" press alt+y
+export_team() { # PATH [SHOT]
+  press ctrl+e
+  answer "Save Dale Harrow Jr. Baseball Team Data" none type_path "$@"
+}
+import_team() { # PATH [SHOT]
+  press ctrl+i
+  answer "Open Dale Harrow Jr. Baseball Team Data" none type_path "$@"
+}
+# Says Yes to the question whether to quit.
+end_editor() { # [SHOT]
+  answer "MORLEK EDITOR" "$main" press_for alt+y "${1:-}"
   wait_for "the end of the editor" gone "MORLEK EDITOR" "$main"
   wait "$editor_pid" || fail "the editor ended with exit status $?"
 }

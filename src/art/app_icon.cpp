@@ -15,13 +15,13 @@ using art::Disc;
 /// The icon is drawn on a square of this many units.
 constexpr qreal kIconSize = 64;
 
-void PaintGround(QPainter& painter) {
-  QPainterPath ground;
-  ground.addRoundedRect(QRectF(1, 1, kIconSize - 2, kIconSize - 2), 14, 14);
+void PaintBackground(QPainter& painter) {
+  QPainterPath background;
+  background.addRoundedRect(QRectF(1, 1, kIconSize - 2, kIconSize - 2), 14, 14);
   QLinearGradient light(0, 0, kIconSize * 0.6, kIconSize);
   light.setColorAt(0, QColor(0x3d, 0x7d, 0xee));
   light.setColorAt(1, QColor(0x17, 0x46, 0x9c));
-  painter.fillPath(ground, light);
+  painter.fillPath(background, light);
 
   constexpr std::array<QPointF, 4> kDiamond = {{{32, 8}, {56, 32}, {32, 56}, {8, 32}}};
   painter.fillPath(art::Polygon(kDiamond), QColor(0xff, 0xff, 0xff, 0x24));
@@ -32,7 +32,7 @@ void PaintIconBat(QPainter& painter) {
   constexpr QPointF kTip{52.4, 9.6};
   const auto grip = [&](qreal share) { return Disc{art::Between(kKnob, kTip, share), 2.7}; };
   art::PaintSolid(painter, art::BatShape(kKnob, kTip, 6.8), art::kWood, 3.4);
-  art::PaintTone(painter, art::Taper(grip(0.14), grip(0.34)), art::kNavyCloth, 1);
+  art::PaintTone(painter, art::Capsule(grip(0.14), grip(0.34)), art::kNavyCloth, 1);
 }
 
 void PaintIconBall(QPainter& painter) {
@@ -58,7 +58,7 @@ void PaintAppIcon(QPainter& painter, const QRectF& target) {
   painter.translate(target.center());
   painter.scale(scale, scale);
   painter.translate(-kIconSize / 2, -kIconSize / 2);
-  PaintGround(painter);
+  PaintBackground(painter);
   PaintIconBat(painter);
   PaintIconBall(painter);
   painter.restore();

@@ -15,15 +15,15 @@ constexpr qreal kWristRadius = 4.2;
 /// The upper arm from the shoulder to a share of the way to the elbow, widened by some units.
 QPainterPath UpperArmPart(const Arm& arm, qreal to, qreal widening) {
   const qreal radius = std::lerp(kShoulderRadius, kElbowRadius, to);
-  return Taper({arm.shoulder, kShoulderRadius + widening},
-               {Between(arm.shoulder, arm.elbow, to), radius + widening});
+  return Capsule({arm.shoulder, kShoulderRadius + widening},
+                 {Between(arm.shoulder, arm.elbow, to), radius + widening});
 }
 
 /// The forearm between two shares of the way from elbow to hand, widened by some units.
 QPainterPath ForearmPart(const Arm& arm, qreal from, qreal to, qreal widening) {
   const auto radius = [&](qreal share) { return std::lerp(kElbowRadius, kWristRadius, share); };
-  return Taper({Between(arm.elbow, arm.hand, from), radius(from) + widening},
-               {Between(arm.elbow, arm.hand, to), radius(to) + widening});
+  return Capsule({Between(arm.elbow, arm.hand, from), radius(from) + widening},
+                 {Between(arm.elbow, arm.hand, to), radius(to) + widening});
 }
 
 bool ShowsShirtOnForearm(Sleeves sleeves) {
@@ -45,8 +45,8 @@ void PaintExtras(QPainter& painter, const Arm& arm, Extras extras, const Kit& ki
     PaintSolid(painter, ForearmPart(arm, 0.62, 0.74, 0.8), kit.bright, 2);
   }
   if (extras == Extras::kElbowGuard && arm.is_front) {
-    const QPainterPath guard = Taper({Between(arm.elbow, arm.shoulder, 0.22), kElbowRadius + 2},
-                                     {Between(arm.elbow, arm.hand, 0.22), kElbowRadius + 1.6});
+    const QPainterPath guard = Capsule({Between(arm.elbow, arm.shoulder, 0.22), kElbowRadius + 2},
+                                       {Between(arm.elbow, arm.hand, 0.22), kElbowRadius + 1.6});
     PaintSolid(painter, guard, kNavyCloth, 2.5);
     PaintLine(painter, Ellipse(arm.elbow, 1.6, 1.6), kRed, 1.6);
   }
@@ -87,7 +87,7 @@ void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Ton
 
 void PaintFist(QPainter& painter, QPointF place, QPointF bat_way, const Outfit& outfit,
                const Tone& skin, const Kit& kit) {
-  const QPainterPath fist = Taper({place - bat_way * 1.6, 4.8}, {place + bat_way * 1.8, 4.8});
+  const QPainterPath fist = Capsule({place - bat_way * 1.6, 4.8}, {place + bat_way * 1.8, 4.8});
   const Tone& tone = outfit.extras == Extras::kGloves ? kit.main : skin;
   PaintSolid(painter, fist, tone, 2.4);
   const QPointF across(-bat_way.y() * 3.2, bat_way.x() * 3.2);

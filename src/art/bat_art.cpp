@@ -42,7 +42,7 @@ void PaintBat(QPainter& painter, QPointF knob, qreal angle) {
   const QPointF direction = BatDirection(angle);
   PaintSolid(painter, BatShape(knob - direction * 3.4, knob + direction * kBatLength, 5), kWood,
              2.4);
-  PaintTone(painter, Taper({knob + direction * 3, 2.2}, {knob + direction * 15, 2.2}), kNavyCloth,
+  PaintTone(painter, Capsule({knob + direction * 3, 2.2}, {knob + direction * 15, 2.2}), kNavyCloth,
             1);
 }
 

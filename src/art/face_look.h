@@ -24,7 +24,7 @@ enum class Whiskers {
 enum class Locks { kShort, kLong, kCurls };
 enum class Mark { kNone, kFreckles, kScar, kPlaster, kChew };
 
-/// What tells one face from another besides its skin.
+/// What distinguishes one face from another besides its skin.
 struct FaceLook {
   Jaw jaw = Jaw::kOval;
   Whiskers whiskers = Whiskers::kNone;

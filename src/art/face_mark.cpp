@@ -32,7 +32,7 @@ void PaintMark(QPainter& painter, Mark mark, const Tone& skin) {
       break;
     }
     case Mark::kPlaster: {
-      const QPainterPath strip = Taper({{-9.5, 13.5}, 2.8}, {{-2.5, 8.5}, 2.8});
+      const QPainterPath strip = Capsule({{-9.5, 13.5}, 2.8}, {{-2.5, 8.5}, 2.8});
       PaintLine(painter, strip, skin.shade.darker(150), 1.6);
       painter.fillPath(strip, kPlaster);
       painter.fillPath(Ellipse({-6, 11}, 1.8, 1.8), kRed);

@@ -35,8 +35,8 @@ qreal TrouserShare(Hose hose) {
 /// The shin between two shares of the way from knee to ankle.
 QPainterPath ShinPart(const LegPose& leg, qreal from, qreal to) {
   const auto radius = [](qreal share) { return std::lerp(kCalfRadius + 0.6, kAnkleRadius, share); };
-  return Taper({Between(leg.knee, leg.ankle, from), radius(from)},
-               {Between(leg.knee, leg.ankle, to), radius(to)});
+  return Capsule({Between(leg.knee, leg.ankle, from), radius(from)},
+                 {Between(leg.knee, leg.ankle, to), radius(to)});
 }
 
 /// White bands round the sock.
@@ -110,8 +110,8 @@ QRectF FootRoom(const LegPose& leg) {
 void PaintTrouserLeg(QPainter& painter, QPointF hip, const LegPose& leg, Hose hose, qreal side,
                      const Kit& kit) {
   const QPointF cuff = Between(leg.knee, leg.ankle, TrouserShare(hose));
-  QPainterPath trousers = Taper({hip, kHipRadius}, {leg.knee, kKneeRadius});
-  trousers.addPath(Taper({leg.knee, kKneeRadius}, {cuff, kCuffRadius}));
+  QPainterPath trousers = Capsule({hip, kHipRadius}, {leg.knee, kKneeRadius});
+  trousers.addPath(Capsule({leg.knee, kKneeRadius}, {cuff, kCuffRadius}));
   PaintSolid(painter, trousers, kTrousers, 4);
   PaintPiping(painter, trousers, hip, leg, cuff, side, kit.main.light);
 }

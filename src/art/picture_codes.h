@@ -4,7 +4,7 @@
 
 namespace morlek {
 
-/// A picture stands in one of four columns of twelve, and its index tells where: 12 * column + row.
+/// Pictures stand in four columns of twelve. The index of a picture is 12 * column + row.
 inline constexpr int kPictureColumns = 4;
 inline constexpr int kPictureRows = 12;
 

@@ -71,7 +71,7 @@ QRectF SquareAround(const Disc& disc) {
   return {disc.center - reach, disc.center + reach};
 }
 
-QPainterPath Taper(const Disc& from, const Disc& to) {
+QPainterPath Capsule(const Disc& from, const Disc& to) {
   const QLineF axis(from.center, to.center);
   const Disc& larger = from.radius > to.radius ? from : to;
   if (axis.length() <= std::abs(from.radius - to.radius)) {

@@ -32,9 +32,9 @@ struct Disc {
 
 [[nodiscard]] QRectF SquareAround(const Disc& disc);
 
-/// Two discs and all that lies between. Tapers turn the same way and fill by winding, so that
-/// adding one to another joins them into one shape.
-[[nodiscard]] QPainterPath Taper(const Disc& from, const Disc& to);
+/// Two discs and all that lies between. All capsules are wound the same way and fill by winding, so
+/// that adding one to another joins them into one shape.
+[[nodiscard]] QPainterPath Capsule(const Disc& from, const Disc& to);
 
 /// The point at a share, 0 to 1, of the way.
 [[nodiscard]] QPointF Between(QPointF from, QPointF to, qreal share);

@@ -16,7 +16,7 @@ enum class StancePiece { kFace, kBody, kLegs };
 [[nodiscard]] const PictureCodes& PictureCodesOf(StancePiece piece);
 
 /// Paints one piece alone as large as the target allows, in the middle. Faces come out at one scale
-/// and legs too; a body with a far-reaching bat is a little smaller. The background is left as it
+/// and legs too; a body whose bat reaches far is a little smaller. The background is left as it
 /// is; a code without a picture paints nothing.
 void PaintPiece(QPainter& painter, const QRectF& target, StancePiece piece, int code);
 
@@ -43,7 +43,7 @@ struct ClubColors {
 };
 
 /// Paints the batter put together as large as the target allows, in the middle; his width is
-/// about 4/5 of his height. Batters of all codes come out at the same scale, on the same ground.
+/// about 4/5 of his height. Batters of all codes come out at the same scale and stand on one line.
 /// Without a club he wears blue, as the single pieces do.
 void PaintStance(QPainter& painter, const QRectF& target, const StanceCodes& codes,
                  const std::optional<ClubColors>& club = std::nullopt);

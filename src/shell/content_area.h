@@ -7,7 +7,7 @@ namespace morlek {
 
 constexpr int kContentHeight = 653;  // of logical pixels
 
-/// The content of the main window, of a height of its own, which scrolls on a screen that is too
+/// The content of the main window, whose height is fixed and which scrolls on a screen that is too
 /// low for it. What stands at its foot stays in view there too.
 class ContentArea : public QScrollArea {
   Q_OBJECT
@@ -21,8 +21,7 @@ class ContentArea : public QScrollArea {
   /// Sets the width of the content in twips; what stands further right is out of view.
   void SetContentWidth(int twips);
 
-  /// Makes ready for a room of so many logical pixels in height, and returns the size to have in
-  /// it.
+  /// Adapts to an available height in logical pixels and returns the size to take.
   [[nodiscard]] QSize FitInto(int room);
 
  private:

@@ -5,21 +5,18 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QMessageBox>
-#include <QSettings>
 #include <QTreeView>
+
+#include "ui/toolkit_workarounds.h"
 
 namespace morlek {
 
-DialogUser::DialogUser() {
-  // The toolkit's file dialog writes the folders that it showed to a settings file of its own; the
-  // program keeps nothing between runs. Below this path no file can be.
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
-}
+DialogUser::DialogUser() { KeepNoSettings(); }
 
 namespace {
 
 /// A box without an icon keeps more room left of its text than right of it, and is as wide as its
-/// text, so that a short one cuts its title.
+/// text, so that a short one truncates its title.
 void EvenOut(QMessageBox& box) {
   constexpr int kWidth = 260;
   constexpr int kMargin = 18;
@@ -38,7 +35,8 @@ void EvenOut(QMessageBox& box) {
   layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), text_column);
 }
 
-/// The toolkit's own dialog, where the system has none, cuts sizes and dates although it has room.
+/// The toolkit's own dialog, where the system has none, truncates sizes and dates although it has
+/// room.
 void FitColumns(const QFileDialog& dialog) {
   const auto* details = dialog.findChild<QTreeView*>("treeView");
   if (details == nullptr) return;

@@ -16,6 +16,7 @@ namespace morlek {
 /// nothing of it is kept between runs.
 class DialogUser : public User {
  public:
+  /// From now on QSettings keeps nothing anywhere in this process (see KeepNoSettings).
   DialogUser();
 
   /// The window over which dialogs stand from now on; null, or a window that is gone, is none.

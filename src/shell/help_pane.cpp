@@ -6,7 +6,6 @@
 #include <functional>
 #include <utility>
 
-#include "shell/help_heads.h"
 #include "shell/help_text.h"
 #include "shell/menu_table.h"
 #include "ui/twips.h"
@@ -28,7 +27,7 @@ class HelpTextBox : public QPlainTextEdit {
     setTabChangesFocus(true);
     document()->setDocumentMargin(10);
     document()->setUndoRedoEnabled(false);
-    ShowHeads(*document());
+    ShowHeadings(*document());
   }
 
  protected:

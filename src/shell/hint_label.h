@@ -6,7 +6,7 @@ namespace morlek {
 
 struct EditorState;
 
-/// What stands in the window while no team does: the program's icon, and below it what to do next.
+/// What the window shows while there is no team: the program's icon, and below it what to do next.
 class HintLabel : public QLabel {
   Q_OBJECT
 

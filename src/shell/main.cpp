@@ -4,11 +4,11 @@
 #include "shell/look.h"
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
-#include "ui/theme.h"
+#include "ui/toolkit_workarounds.h"
 #include "ui/window_place.h"
 
 int main(int argument_count, char** arguments) {
-  const std::jthread fonts = morlek::theme::ReadSystemFonts();
+  const std::jthread fonts = morlek::ReadSystemFonts();
   const QApplication application(argument_count, arguments);
   QApplication::setApplicationName("morlek-editor");
   QApplication::setDesktopFileName("org.morlek.Editor");

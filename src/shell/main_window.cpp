@@ -21,8 +21,8 @@
 #include "shell/team_toolbar.h"
 #include "ui/cls_on_top.h"
 #include "ui/dropped_file.h"
+#include "ui/toolkit_workarounds.h"
 #include "ui/twips.h"
-#include "ui/window_ground.h"
 
 namespace morlek {
 namespace {
@@ -121,7 +121,7 @@ void MainWindow::Show(const EditorState& state, const StateChange& change) {
 
 void MainWindow::SetLayout(Layout layout) {
   if (const QWindow* window = windowHandle()) {
-    SetWindowGround(*window, palette().color(QPalette::Window));
+    SetWindowBackground(*window, palette().color(QPalette::Window));
   }
   area_->SetContentWidth(layout == Layout::kNarrow ? kNarrowWidth : kWideWidth);
   FitToScreen();

@@ -7,7 +7,7 @@ namespace morlek {
 
 class User;
 
-/// What the main window asks and tells, word for word. Where a path is asked for, nothing means
+/// What the main window asks and reports, word for word. Where a path is asked for, nothing means
 /// that the dialog was cancelled.
 [[nodiscard]] std::optional<QString> AskForImage(User& user);
 [[nodiscard]] std::optional<QString> AskForTeamToImport(User& user);

@@ -5,12 +5,12 @@ class QWindow;
 namespace morlek {
 
 /// Keeps a window above all others, or releases it again. Whether the system obeys is not checked;
-/// Wayland knows no such request.
+/// Wayland has no such request.
 class clsOnTop {
  public:
-  /// The window stands on the screen, or is about to, and is not made anew.
+  /// The window is on the screen or about to be. It is not re-created.
   static void MakeTopmost(QWindow& window);
-  /// Back to its place among the others; does no harm to a window that is there already.
+  /// Harmless for a window that is not topmost.
   static void MakeNotTopmost(QWindow& window);
 };
 

@@ -7,8 +7,8 @@ class QMimeData;
 
 namespace morlek {
 
-/// The path of the one file that is being dropped; nothing for a folder, several things, an address
-/// elsewhere or a text.
+/// The path of the one file that is being dropped; nothing for a folder, several things, a remote
+/// address or a text.
 [[nodiscard]] std::optional<QString> DroppedFile(const QMimeData& data);
 
 }  // namespace morlek

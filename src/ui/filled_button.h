@@ -11,7 +11,7 @@ class FilledButton : public QPushButton {
  public:
   FilledButton(const QString& caption, QWidget* parent);
 
-  /// A dot behind the caption tells that there is something left to do.
+  /// A dot behind the caption shows that there is something left to do.
   void SetDotted(bool dotted);
 
  protected:

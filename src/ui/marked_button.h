@@ -4,8 +4,8 @@
 
 namespace morlek {
 
-/// A button that can bear a mark, which a screen reader knows as "checked". The mark tells a state
-/// of the program, so pressing the button does not change it by itself.
+/// A button that can bear a mark, which a screen reader knows as "checked". The mark shows a
+/// state of the program, so pressing the button does not change it by itself.
 class MarkedButton : public QAbstractButton {
   Q_OBJECT
 

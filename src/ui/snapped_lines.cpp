@@ -6,7 +6,7 @@
 namespace morlek {
 
 void FrameSnapped(QPainter& painter, const QRect& rect, int width, const QColor& color,
-                  const QColor& ground) {
+                  const QColor& background) {
   const QTransform to_device = painter.deviceTransform();
   const auto device_x = [&](int x) { return qRound(to_device.map(QPointF(x, 0)).x()); };
   const auto device_y = [&](int y) { return qRound(to_device.map(QPointF(0, y)).y()); };
@@ -20,7 +20,7 @@ void FrameSnapped(QPainter& painter, const QRect& rect, int width, const QColor&
 
   painter.save();
   painter.setTransform(to_device.inverted(), true);
-  painter.fillRect(left, top, right + thickness - left, bottom + thickness - top, ground);
+  painter.fillRect(left, top, right + thickness - left, bottom + thickness - top, background);
   painter.fillRect(left, top, right + thickness - left, thickness, color);
   painter.fillRect(left, bottom, right + thickness - left, thickness, color);
   painter.fillRect(left, top, thickness, bottom + thickness - top, color);

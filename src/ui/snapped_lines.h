@@ -11,6 +11,6 @@ namespace morlek {
 /// they reach. Lines lie on whole pixels of the device, so that they stay even at fractional scale
 /// factors, and two rectangles that overlap by a line paint it in the same place.
 void FrameSnapped(QPainter& painter, const QRect& rect, int width, const QColor& color,
-                  const QColor& ground = Qt::transparent);
+                  const QColor& background = Qt::transparent);
 
 }  // namespace morlek

@@ -100,7 +100,7 @@ void Style::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
   // Some desktops lay their own font over the program's, which the grid has no room for.
   if (widget->isWindow()) widget->setFont(theme::Font(theme::kFontPixels));
-  // Some desktops have colours of their own for tips, which come past the palette.
+  // Some desktops have colours of their own for tips, which bypass the palette.
   if (widget->inherits("QTipLabel")) widget->setPalette(QPalette());
 }
 

@@ -6,7 +6,7 @@
 namespace morlek {
 
 /// Fusion in the program's own shades, with flat buttons, one sheet of grid boxes, plain scroll
-/// bars and menu bar, and icons of one hand.
+/// bars and menu bar, and icons in one style.
 class Style : public QProxyStyle {
  public:
   Style();

@@ -1,9 +1,6 @@
 #include "ui/theme.h"
 
 #include <QFontDatabase>
-#include <QGuiApplication>
-
-#include "ui/system_function.h"
 
 namespace morlek::theme {
 
@@ -44,19 +41,6 @@ QPalette PaletteOf(const Shades& shades) {
   }
   return palette;
 }
-
-#if QT_CONFIG(xcb)
-
-std::jthread ReadSystemFonts() {
-  auto* const read = SystemFunction<int()>("fontconfig", 1, "FcInit");
-  return read == nullptr ? std::jthread() : std::jthread(read);
-}
-
-#else
-
-std::jthread ReadSystemFonts() { return {}; }
-
-#endif
 
 void LoadFonts() {
   QFontDatabase::addApplicationFont(":/fonts/Roboto-Regular.ttf");

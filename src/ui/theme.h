@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QFont>
 #include <QPalette>
-#include <thread>
 
 /// The one look of the program, light or dark as the desktop is, in a font that it brings along, so
 /// that widths do not depend on the machine.
@@ -30,7 +29,7 @@ struct Shades {
   QColor critical;
   QColor tip;
   QColor tip_text;
-  // Pictures are painted for a light ground, which they keep in the dark.
+  // Pictures are painted for a light background, which they keep in the dark.
   QColor tile;
   QColor tile_text;
   QColor tile_faint_text;
@@ -101,10 +100,6 @@ inline constexpr Shades kDark{
 /// The shades as the colours of every part of every window, dialogs and menus included.
 [[nodiscard]] QPalette PaletteOf(const Shades& shades);
 
-/// Starts reading the system's fonts, a good part of the start, beside all that the toolkit does
-/// before it needs them. Call first of all, in the main thread, which the toolkit takes to be the
-/// one that calls.
-[[nodiscard]] std::jthread ReadSystemFonts();
 
 /// Makes the embedded font known to the program; call once, before Font. Should that fail, texts
 /// stand in a font of the system.

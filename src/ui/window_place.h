@@ -5,8 +5,8 @@ class QWidget;
 namespace morlek {
 
 /// Moves a window that has not been shown yet so that it will have the same middle as one that is
-/// in view, as far as the room of the screen allows. Where windows cannot say where they stand, it
-/// stands where the desktop puts it.
+/// in view, as far as the screen has room. Where windows cannot choose their place, the
+/// desktop does.
 void PlaceOver(QWidget& window, const QWidget& shown);
 
 }  // namespace morlek
