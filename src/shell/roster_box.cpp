@@ -1,18 +1,15 @@
 #include "shell/roster_box.h"
 
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QPainter>
-#include <utility>
 
+#include "shell/box_clipboard.h"
+#include "shell/box_menu.h"
 #include "shell/code_page_text.h"
 #include "shell/mark_text.h"
 #include "shell/menu_table.h"
-#include "textfile/pasted_block.h"
-#include "textfile/team_import.h"
 #include "ui/dropped_file.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
@@ -24,13 +21,6 @@ QString ObjectNameOf(Column column, int row) {
   return QString("Text%1(%2)").arg(static_cast<int>(column)).arg(row);
 }
 
-/// Whether the focus goes to a menu or another window, or comes back from there, which is no new
-/// visit.
-bool IsShortAbsence(Qt::FocusReason reason) {
-  return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
-         reason == Qt::MenuBarFocusReason;
-}
-
 QString AccessibleNameOf(const GridColumn& column, int row) {
   return QString("%1, %2").arg(FromCodePage(column.meaning), FromCodePage(PlayerText(row)));
 }
@@ -38,7 +28,7 @@ QString AccessibleNameOf(const GridColumn& column, int row) {
 }  // namespace
 
 RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
-    : QLineEdit(parent), column_(column.column), row_(row) {
+    : ValueEdit(parent), column_(column.column), row_(row) {
   setObjectName(ObjectNameOf(column.column, row));
   setAccessibleName(AccessibleNameOf(column, row));
   if (column.column == Column::kText1) {
@@ -51,17 +41,6 @@ RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
   }
   connect(this, &QLineEdit::textChanged, this, &RosterBox::KeepToCodePage);
   connect(this, &QLineEdit::textEdited, this, &RosterBox::DropLineBreaks);
-}
-
-void RosterBox::ShowText(const QString& text) {
-  setText(text);
-  SelectForTyping();
-  if (!hasFocus()) home(false);
-}
-
-void RosterBox::BeginVisit() {
-  entry_text_ = text();
-  SelectForTyping();
 }
 
 void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
@@ -84,11 +63,6 @@ void RosterBox::SetTint(Tint tint) {
   if (tint == tint_) return;
   tint_ = tint;
   update();
-}
-
-void RosterBox::SelectForTyping() {
-  if (left_selection_) left_selection_ = {0, static_cast<int>(text().size())};
-  if (hasFocus()) selectAll();
 }
 
 void RosterBox::PaintPanel(QPainter& painter) const { PaintFrame(painter, Ground()); }
@@ -114,7 +88,7 @@ QColor RosterBox::Ground() const {
 }
 
 void RosterBox::paintEvent(QPaintEvent* event) {
-  QLineEdit::paintEvent(event);
+  ValueEdit::paintEvent(event);
   // The margins let a text that is too long get over the lines.
   if (fontMetrics().horizontalAdvance(text()) > width() - 2) {
     QPainter painter(this);
@@ -145,11 +119,11 @@ bool RosterBox::event(QEvent* event) {
       return false;
     }
   }
-  return !LeaveToMenu(*event) && QLineEdit::event(event);
+  return !LeaveToMenu(*event) && ValueEdit::event(event);
 }
 
 void RosterBox::changeEvent(QEvent* event) {
-  QLineEdit::changeEvent(event);
+  ValueEdit::changeEvent(event);
   // The desktop went from light to dark, or back.
   if (event->type() == QEvent::PaletteChange && mark_.is_unsaved) ColorText();
 }
@@ -160,36 +134,14 @@ void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
     event->ignore();
     return;
   }
-  QLineEdit::dragEnterEvent(event);
+  ValueEdit::dragEnterEvent(event);
 }
 
 void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
-  QMenu menu;
-  // Undo and redo are the grid's.
-  menu.addActions(parentWidget()->actions());
-  menu.addSeparator();
-  const auto add = [&menu](const QString& caption, QKeySequence::StandardKey key, bool enabled) {
-    QAction* action = menu.addAction(caption);
-    action->setShortcut(key);
-    action->setEnabled(enabled);
-    return action;
-  };
-  const auto on = [this](QAction* action, auto slot) {
-    connect(action, &QAction::triggered, this, slot);
-  };
-  on(add("Cu&t", QKeySequence::Cut, hasSelectedText()), &QLineEdit::cut);
-  on(add("&Copy", QKeySequence::Copy, hasSelectedText()), &QLineEdit::copy);
-  on(add("&Paste", QKeySequence::Paste, !QGuiApplication::clipboard()->text().isEmpty()),
-     [this] { PasteFrom(QClipboard::Clipboard); });
-  on(add("Delete", QKeySequence::UnknownKey, hasSelectedText()), [this] { del(); });
-  menu.addSeparator();
-  // Its usual key belongs to the menu bar.
-  on(add("Select All", QKeySequence::UnknownKey, !text().isEmpty()), &QLineEdit::selectAll);
-  menu.exec(event->globalPos());
+  BoxMenu(*this, [this] { PasteFrom(QClipboard::Clipboard); }).exec(event->globalPos());
 }
 
 void RosterBox::focusInEvent(QFocusEvent* event) {
-  QLineEdit::focusInEvent(event);
   if (!neighbor_above_) {
     // The ring is not to be cut by a neighbour's line; whoever reads the grid in its order is to
     // find the box in its place afterwards.
@@ -197,36 +149,13 @@ void RosterBox::focusInEvent(QFocusEvent* event) {
     neighbor_above_ = qobject_cast<QWidget*>(siblings.value(siblings.indexOf(this) + 1));
     raise();
   }
-  // A window gives its focus to the first box when no box has it: that is no return.
-  if (IsShortAbsence(event->reason()) && left_selection_) {
-    if (left_selection_->length > 0) setSelection(left_selection_->start, left_selection_->length);
-    return;
-  }
-  swallowing_press_ = event->reason() == Qt::MouseFocusReason;
-  BeginVisit();
-  emit Entered();
-  emit Visited();
+  ValueEdit::focusInEvent(event);
 }
 
 void RosterBox::focusOutEvent(QFocusEvent* event) {
   if (neighbor_above_) stackUnder(neighbor_above_);
   neighbor_above_.clear();
-  swallowing_press_ = false;
-  left_selection_.reset();
-  // The line editor itself drops the selection when the menu bar takes the focus.
-  const bool is_short = IsShortAbsence(event->reason());
-  if (is_short) left_selection_ = {selectionStart(), selectionLength()};
-  QLineEdit::focusOutEvent(event);
-  if (is_short) return;
-  // A text longer than the box shows how it begins.
-  home(false);
-  emit Left();
-}
-
-void RosterBox::hideEvent(QHideEvent* event) {
-  // A window that is minimized comes back as it was left; a grid that is hidden does not.
-  if (!event->spontaneous()) left_selection_.reset();
-  QLineEdit::hideEvent(event);
+  ValueEdit::focusOutEvent(event);
 }
 
 void RosterBox::keyPressEvent(QKeyEvent* event) {
@@ -243,52 +172,31 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
   } else if (plain && (event->key() == Qt::Key_Down || is_return)) {
     emit RowStepRequested(+1);
   } else if (plain && event->key() == Qt::Key_Escape) {
-    if (text() != entry_text_) setText(entry_text_);
-    selectAll();
-  } else if (event->key() == Qt::Key_Insert &&
-             event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
-             QGuiApplication::clipboard()->supportsSelection()) {
-    PasteFrom(QClipboard::Selection);
-  } else if (event->matches(QKeySequence::Paste)) {
-    PasteFrom(QClipboard::Clipboard);
+    TakeBack();
+  } else if (const auto clipboard = PastingClipboard(*event)) {
+    PasteFrom(*clipboard);
   } else if (!event->matches(QKeySequence::Undo) && !event->matches(QKeySequence::Redo)) {
     // The line editor has a history of its own, which knows nothing of loads and saves.
-    QLineEdit::keyPressEvent(event);
+    ValueEdit::keyPressEvent(event);
   }
-}
-
-void RosterBox::mousePressEvent(QMouseEvent* event) {
-  if (swallowing_press_) return;
-  QLineEdit::mousePressEvent(event);
-  if (event->button() == Qt::LeftButton) emit Visited();
-}
-
-void RosterBox::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
-  // A box holds one value, of which the line editor would select the part up to the point.
-  selectAll();
-}
-
-void RosterBox::mouseMoveEvent(QMouseEvent* event) {
-  if (!swallowing_press_) QLineEdit::mouseMoveEvent(event);
 }
 
 void RosterBox::mouseReleaseEvent(QMouseEvent* event) {
-  const bool is_swallowed = std::exchange(swallowing_press_, false);
-  if (is_swallowed) return;
-  if (event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
-    deselect();
-    PasteFrom(QClipboard::Selection);
+  const auto clipboard = PastingClipboard(*event);
+  if (!clipboard || is_swallowing_press()) {
+    ValueEdit::mouseReleaseEvent(event);
     return;
   }
-  QLineEdit::mouseReleaseEvent(event);
+  deselect();
+  PasteFrom(*clipboard);
 }
 
-void RosterBox::PasteFrom(QClipboard::Mode mode) {
-  const std::string pasted = ToCodePage(QGuiApplication::clipboard()->text(mode));
-  if (IsBlock(pasted)) {
-    emit BlockPasted(pasted);
+void RosterBox::PasteFrom(QClipboard::Mode clipboard) {
+  const ClipboardText pasted = ReadClipboard(clipboard);
+  if (pasted.is_block) {
+    emit BlockPasted(pasted.text);
   } else {
-    insert(FromCodePage(WithoutLastLineBreak(pasted).substr(0, kLongestField)));
+    insert(FromCodePage(pasted.text));
   }
 }
 
