@@ -68,12 +68,7 @@ void RosterBox::SetTint(Tint tint) {
 void RosterBox::PaintPanel(QPainter& painter) const { PaintFrame(painter, Ground()); }
 
 void RosterBox::PaintFrame(QPainter& painter, const QColor& ground) const {
-  const theme::Shades& shades = theme::ShadesOf(palette());
-  if (hasFocus()) {
-    FrameSnapped(painter, rect(), 2, shades.accent, ground);
-  } else {
-    FrameSnapped(painter, rect(), 1, shades.line, ground);
-  }
+  FrameSnapped(painter, rect(), 1, theme::ShadesOf(palette()).line, ground);
 }
 
 QColor RosterBox::Ground() const {
@@ -94,6 +89,13 @@ void RosterBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     PaintFrame(painter, Qt::transparent);
   }
+  // The ring of the focus, which stands above the box, paints the mark above itself.
+  if (hasFocus() || !mark_.is_unkept) return;
+  QPainter painter(this);
+  PaintMark(painter);
+}
+
+void RosterBox::PaintMark(QPainter& painter) const {
   if (!mark_.is_unkept) return;
   // Over text and selection alike, with an edge that parts it from both.
   constexpr qreal kSize = 7;
@@ -101,7 +103,6 @@ void RosterBox::paintEvent(QPaintEvent* event) {
   const QPointF corner(width() - 1, 1);
   const QPointF left = corner - QPointF(kSize, 0);
   const QPointF below = corner + QPointF(0, kSize);
-  QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(shades.unkept_mark);
@@ -139,23 +140,6 @@ void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
 
 void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
   BoxMenu(*this, [this] { PasteFrom(QClipboard::Clipboard); }).exec(event->globalPos());
-}
-
-void RosterBox::focusInEvent(QFocusEvent* event) {
-  if (!neighbor_above_) {
-    // The ring is not to be cut by a neighbour's line; whoever reads the grid in its order is to
-    // find the box in its place afterwards.
-    const QObjectList& siblings = parentWidget()->children();
-    neighbor_above_ = qobject_cast<QWidget*>(siblings.value(siblings.indexOf(this) + 1));
-    raise();
-  }
-  ValueEdit::focusInEvent(event);
-}
-
-void RosterBox::focusOutEvent(QFocusEvent* event) {
-  if (neighbor_above_) stackUnder(neighbor_above_);
-  neighbor_above_.clear();
-  ValueEdit::focusOutEvent(event);
 }
 
 void RosterBox::keyPressEvent(QKeyEvent* event) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QClipboard>
-#include <QPointer>
 #include <string>
 
 #include "editor/grid_marks.h"
@@ -32,6 +31,10 @@ class RosterBox : public ValueEdit, public OwnPanel {
   /// Paints the box as a cell of the sheet: neighbours share their border lines.
   void PaintPanel(QPainter& painter) const override;
 
+  /// Paints the corner of a cell that SAVE will not keep, or nothing. To be painted above the ring
+  /// of the focus.
+  void PaintMark(QPainter& painter) const;
+
  signals:
   /// A block of cells, in the code page, was pasted here.
   void BlockPasted(const std::string& block);
@@ -44,8 +47,6 @@ class RosterBox : public ValueEdit, public OwnPanel {
   void changeEvent(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -67,8 +68,6 @@ class RosterBox : public ValueEdit, public OwnPanel {
   int row_;
   CellMark mark_;
   Tint tint_ = Tint::kNone;
-  // While the box has the focus: who stands above it at other times.
-  QPointer<QWidget> neighbor_above_;
 };
 
 }  // namespace morlek

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "shell/code_page_text.h"
+#include "shell/focus_ring.h"
 #include "shell/mark_text.h"
 #include "shell/roster_box.h"
 #include "team/accepted_texts.h"
@@ -51,6 +52,7 @@ RosterFrame::RosterFrame(RosterDocument& document, QWidget* parent)
   for (int row = 0; row < kSlotCount; ++row) AddRow(row);
   AddTeamNameAndSave();
   AddKeys();
+  new FocusRing(this);
 
   for (const Cell cell : kAllCells) BoxAt(cell).setText(FromCodePage(document_.grid().Text(cell)));
   subscription_ = document_.Subscribe([this](const GridChange& change) { Follow(change); });
