@@ -27,7 +27,8 @@ QString AccessibleNameOf(const GridColumn& column, int row) {
 
 }  // namespace
 
-RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
+RosterBox::RosterBox(const GridColumn& column, int row, const QValidator& validator,
+                     QWidget* parent)
     : ValueEdit(parent), column_(column.column), row_(row) {
   setObjectName(ObjectNameOf(column.column, row));
   setAccessibleName(AccessibleNameOf(column, row));
@@ -39,7 +40,7 @@ RosterBox::RosterBox(const GridColumn& column, int row, QWidget* parent)
     setTextMargins(-2, 0, -4, 0);
     setAlignment(Qt::AlignCenter);
   }
-  connect(this, &QLineEdit::textChanged, this, &RosterBox::KeepToCodePage);
+  setValidator(&validator);
   connect(this, &QLineEdit::textEdited, this, &RosterBox::DropLineBreaks);
 }
 
@@ -184,19 +185,11 @@ void RosterBox::PasteFrom(QClipboard::Mode clipboard) {
   }
 }
 
-void RosterBox::KeepToCodePage() {
-  Convert([](const QString& part) { return FromCodePage(ToCodePage(part)); });
-}
-
 void RosterBox::DropLineBreaks() {
-  Convert([](QString part) { return part.remove('\r').remove('\n'); });
-}
-
-template <typename Conversion>
-void RosterBox::Convert(Conversion convert) {
-  const QString converted = convert(text());
+  const auto without = [](QString part) { return part.remove('\r').remove('\n'); };
+  const QString converted = without(text());
   if (converted == text()) return;
-  const auto cursor = static_cast<int>(convert(text().left(cursorPosition())).size());
+  const auto cursor = static_cast<int>(without(text().left(cursorPosition())).size());
   setText(converted);
   setCursorPosition(cursor);
 }

@@ -9,14 +9,14 @@
 
 namespace morlek {
 
-/// One text box of the roster grid, which paints itself as a cell of the sheet. Characters that the
-/// code page lacks become "?" at once.
+/// One text box of the roster grid, which paints itself as a cell of the sheet.
 class RosterBox : public ValueEdit, public OwnPanel {
   Q_OBJECT
 
  public:
-  /// An empty box of this column, whose texts are literals, in row 0 to 24.
-  RosterBox(const GridColumn& column, int row, QWidget* parent);
+  /// An empty box of this column, whose texts are literals, in row 0 to 24. `validator` corrects
+  /// every text and may serve other boxes too; the box takes any text once it is gone.
+  RosterBox(const GridColumn& column, int row, const QValidator& validator, QWidget* parent);
 
   [[nodiscard]] Column column() const { return column_; }
   [[nodiscard]] int row() const { return row_; }
@@ -56,13 +56,9 @@ class RosterBox : public ValueEdit, public OwnPanel {
   void ColorText();
   [[nodiscard]] QColor Ground() const;
   void PaintFrame(QPainter& painter, const QColor& ground) const;
-  void KeepToCodePage();
   /// A line break, which a dropped text or an input method can bring, would break an exported line
   /// in two.
   void DropLineBreaks();
-  /// Converts the text and keeps the cursor behind the same character.
-  template <typename Conversion>
-  void Convert(Conversion convert);
 
   Column column_;
   int row_;

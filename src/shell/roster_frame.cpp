@@ -163,11 +163,11 @@ void RosterFrame::AddHeaders(const BlockColumns& columns, int first_index, int t
 void RosterFrame::AddRow(int row) {
   for (const GridColumn& column : ColumnsOfRow(row)) {
     const Cell cell{column.column, row};
-    auto* box = new RosterBox(column, row, this);
+    auto* box = new RosterBox(column, row, code_page_, this);
     box->setGeometry(RectFromTwips(column.left, TopOfRow(row), column.width, kBoxHeight));
     boxes_.at(IndexOf(cell)) = box;
     connect(box, &RosterBox::textChanged, this, [this, box, cell] {
-      // Not the signal's text, which the box may have corrected by now.
+      // Not the signal's text, from which the box may have taken line breaks by now.
       document_.Type(cell, ToCodePage(box->text()));
     });
     connect(box, &RosterBox::Entered, this, [this, cell] {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "editor/grid_marks.h"
+#include "shell/code_page_validator.h"
 #include "team/roster_document.h"
 
 class QAction;
@@ -84,6 +85,7 @@ class RosterFrame : public QFrame {
   void Follow(const GridChange& change);
 
   RosterDocument& document_;
+  CodePageValidator code_page_;
   QLabel* team_name_ = nullptr;
   FilledButton* save_ = nullptr;
   QAction* undo_ = nullptr;
