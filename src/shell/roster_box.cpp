@@ -10,6 +10,7 @@
 #include "shell/code_page_text.h"
 #include "shell/mark_text.h"
 #include "shell/menu_table.h"
+#include "textfile/team_import.h"
 #include "ui/dropped_file.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
@@ -40,8 +41,8 @@ RosterBox::RosterBox(const GridColumn& column, int row, const QValidator& valida
     setTextMargins(-2, 0, -4, 0);
     setAlignment(Qt::AlignCenter);
   }
+  setMaxLength(kLongestField);
   setValidator(&validator);
-  connect(this, &QLineEdit::textEdited, this, &RosterBox::DropLineBreaks);
 }
 
 void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
@@ -183,15 +184,6 @@ void RosterBox::PasteFrom(QClipboard::Mode clipboard) {
   } else {
     insert(FromCodePage(pasted.text));
   }
-}
-
-void RosterBox::DropLineBreaks() {
-  const auto without = [](QString part) { return part.remove('\r').remove('\n'); };
-  const QString converted = without(text());
-  if (converted == text()) return;
-  const auto cursor = static_cast<int>(without(text().left(cursorPosition())).size());
-  setText(converted);
-  setCursorPosition(cursor);
 }
 
 }  // namespace morlek

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "editor/grid_marks.h"
+#include "ui/line_break_filter.h"
 #include "ui/own_panel.h"
 #include "ui/value_edit.h"
 
@@ -56,10 +57,8 @@ class RosterBox : public ValueEdit, public OwnPanel {
   void ColorText();
   [[nodiscard]] QColor Ground() const;
   void PaintFrame(QPainter& painter, const QColor& ground) const;
-  /// A line break, which a dropped text or an input method can bring, would break an exported line
-  /// in two.
-  void DropLineBreaks();
 
+  LineBreakFilter line_breaks_{*this};  // one would break an exported line in two
   Column column_;
   int row_;
   CellMark mark_;

@@ -1,0 +1,133 @@
+#include "shell/roster_box.h"
+
+#include <QAccessible>
+#include <QMimeData>
+#include <QSignalSpy>
+
+#include "shell/eye.h"
+#include "shell/window_fixture.h"
+#include "textfile/team_import.h"
+#include "ui/theme.h"
+
+namespace morlek {
+namespace {
+
+class RosterBoxTest : public WindowTest {
+ protected:
+  using Edit = std::function<void(QLineEdit&)>;
+
+  static void PasteDirectly(QLineEdit& box, const QString& text) {
+    QApplication::clipboard()->setText(text);
+    box.paste();
+  }
+  static void Drop(QLineEdit& box, const QString& text) {
+    QMimeData data;
+    data.setText(text);
+    // Where the cursor stands.
+    const QPointF place = box.inputMethodQuery(Qt::ImCursorRectangle).toRectF().center();
+    QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&box, &enter);
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&box, &drop);
+  }
+  static void Commit(QLineEdit& box, const QString& text) {
+    QInputMethodEvent commit;
+    commit.setCommitString(text);
+    QApplication::sendEvent(&box, &commit);
+  }
+
+  /// A box with the focus and a text as an import leaves it, "|" where the cursor stands and
+  /// brackets around what is selected.
+  QLineEdit& BoxWith(const QString& picture) {
+    QLineEdit& box = Box(1, 3);
+    box.setFocus();
+    box.setText(QString(picture).remove('|').remove('[').remove(']'));
+    const auto start = static_cast<int>(picture.indexOf('['));
+    if (start >= 0) {
+      box.setSelection(start, static_cast<int>(picture.indexOf(']')) - start - 1);
+    } else {
+      box.setCursorPosition(static_cast<int>(picture.indexOf('|')));
+    }
+    return box;
+  }
+  static QString PictureOf(const QLineEdit& box) {
+    return box.text().insert(box.cursorPosition(), '|');
+  }
+};
+
+TEST_F(RosterBoxTest, OnlyWhatComesInLosesItsLineBreaks) {
+  StartWithTeam();
+  struct Case {
+    const char* before;
+    Edit edit;
+    const char* after;
+  };
+  const auto type = [](const QString& keys) {
+    return [keys](QLineEdit& box) { QTest::keyClicks(&box, keys); };
+  };
+  const auto press = [](Qt::Key key) {
+    return [key](QLineEdit& box) { QTest::keyClick(&box, key); };
+  };
+  const auto paste = [this](const QString& text) {
+    return [this, text](QLineEdit& /*box*/) {
+      QApplication::clipboard()->setText(text);
+      Press(Qt::Key_V, Qt::ControlModifier);
+    };
+  };
+  const auto with = [](auto way, const QString& text) {
+    return [way, text](QLineEdit& box) { way(box, text); };
+  };
+  const std::vector<Case> cases = {
+      {"A\nB|", type("CD"), "A\nBCD|"},
+      {"A|\nB", type("C"), "AC|\nB"},
+      {"A\n|B", press(Qt::Key_Delete), "A\n|"},
+      {"A\nB|\n", press(Qt::Key_Backspace), "A\n|\n"},
+      {"A\n|\nB", press(Qt::Key_Backspace), "A|\nB"},
+      {"A\n|B", paste("X\r\n"), "A\nX|B"},
+      {"A|\nB\n", with(&PasteDirectly, "X\n\r\nY\n"), "AXY|\nB\n"},
+      {"A\n|B", with(&PasteDirectly, "\n"), "A\n|B"},
+      {"[A\nB]", with(&PasteDirectly, "A\nC"), "AC|"},
+      {"A[\nB]\n", with(&PasteDirectly, "\n1\n"), "A1|\n"},
+      {"|A\nB", with(&PasteDirectly, QString::fromUtf8("😀\n中")), "??|A\nB"},
+      {"A\nB|", with(&Drop, "X\nY\r"), "A\nBXY|"},
+      {"\nAB|", with(&Commit, "X\nY"), "\nABXY|"},
+      {"[\nA]B\n", with(&Commit, "\nY"), "Y|B\n"}};
+  for (const Case& each : cases) {
+    QLineEdit& box = BoxWith(each.before);
+    each.edit(box);
+    EXPECT_EQ(PictureOf(box).toStdString(), each.after) << each.before;
+    EXPECT_EQ(editor->document().grid().Text({Column::kText1, 3}), box.text().toStdString());
+  }
+}
+
+TEST_F(RosterBoxTest, WhatAnImportBroughtStaysOnUndoAndEscape) {
+  StartWithTeam();
+  ChooseWith("mnuImport", TeamFile("A\nB"));
+  EXPECT_EQ(Box(1, 3).text(), "A\nB");
+  Box(1, 3).setFocus();
+  Press(Qt::Key_End);
+  Press(Qt::Key_C);
+  EXPECT_EQ(Box(1, 3).text(), "A\nBc");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Box(1, 3).text(), "A\nB");
+  Press(Qt::Key_End);
+  Press(Qt::Key_C);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Box(1, 3).text(), "A\nB");
+}
+
+TEST_F(RosterBoxTest, EachChangeIsReportedOnceAndNoTextGetsTooLong) {
+  StartWithTeam();
+  QLineEdit& box = BoxWith("AB|");
+  const QSignalSpy changes(&box, &QLineEdit::textChanged);
+  Commit(box, QString::fromUtf8("中"));
+  EXPECT_EQ(changes, (QList<QVariantList>{{"AB?"}}));
+
+  box.setText(QString(kLongestField - 1, 'x'));
+  box.setCursorPosition(0);
+  Commit(box, "YZ");
+  EXPECT_EQ(box.text(), "Y" + QString(kLongestField - 1, 'x'));
+}
+
+}  // namespace
+}  // namespace morlek
