@@ -4,6 +4,7 @@
 #include <QMimeData>
 #include <QSignalSpy>
 
+#include "shell/box_menu.h"
 #include "shell/eye.h"
 #include "shell/window_fixture.h"
 #include "textfile/team_import.h"
@@ -127,6 +128,73 @@ TEST_F(RosterBoxTest, EachChangeIsReportedOnceAndNoTextGetsTooLong) {
   box.setCursorPosition(0);
   Commit(box, "YZ");
   EXPECT_EQ(box.text(), "Y" + QString(kLongestField - 1, 'x'));
+}
+
+TEST_F(RosterBoxTest, TheRingFramesTheBoxWithTheFocusAboveItsNeighboursAndLetsTheMouseThrough) {
+  StartWithTeam();
+  QWidget& frame = Find("Frame1");
+  const QColor accent = theme::kLight.accent;
+  const auto ring_around = [&](const QLineEdit& box) {
+    const QImage seen = Seen(box);
+    const QImage inside = seen.copy(seen.rect().adjusted(2, 2, -2, -2));
+    const int ring = CountOf(seen, accent, 0) - CountOf(inside, accent, 0);
+    return ring == seen.width() * seen.height() - inside.width() * inside.height();
+  };
+  for (const int column : {3, 1, 14}) {
+    QLineEdit& box = Box(column, 7);
+    box.setFocus();
+    box.deselect();
+    EXPECT_TRUE(ring_around(box)) << column;
+    EXPECT_EQ(frame.childAt(box.geometry().topLeft() + QPoint(3, 1)), &box);
+    // A menu covers a part of the window at most.
+    QFocusEvent to_menu(QEvent::FocusOut, Qt::PopupFocusReason);
+    QApplication::sendEvent(&box, &to_menu);
+    EXPECT_TRUE(ring_around(box)) << column;
+  }
+  EXPECT_FALSE(ring_around(Box(1, 7)));
+  TypeInto(3, 7, "ABC");
+  EXPECT_GE(CountOf(Seen(Box(3, 7)).copy(23, 0, 2, 9), theme::kLight.unkept_mark), 6)
+      << "the red corner stands above the ring";
+  Box(3, 7).clearFocus();
+  EXPECT_EQ(CountOf(Seen(Box(3, 7)).copy(0, 0, 25, 2), accent, 0), 0);
+
+  const QAccessibleInterface& grid = *QAccessible::queryAccessibleInterface(&frame);
+  for (int child = 0; child < grid.childCount(); ++child) {
+    EXPECT_NE(grid.child(child)->role(), QAccessible::Client) << child << " is nothing to read";
+  }
+}
+
+TEST_F(RosterBoxTest, TheContextMenuOffersWhatCanBeDoneWithTheBoxBelowWhatTheGridOffers) {
+  StartWithTeam();
+  QLineEdit& box = Box(1, 3);
+  const auto menu_of = [&box] {
+    BoxMenu menu(box, [] {});
+    QStringList items;
+    for (const QAction* action : menu.actions()) {
+      items << (action->isSeparator() ? "-" : action->isEnabled() ? action->text() : "");
+    }
+    return items.join(' ').toStdString();
+  };
+  box.selectAll();
+  PasteDirectly(box, "A.B");
+  EXPECT_EQ(menu_of(), "&Undo  -   &Paste  - Select All");
+  box.selectAll();
+  auto* separator = new QAction(box.parentWidget());
+  separator->setSeparator(true);
+  box.parentWidget()->addAction(separator);
+  box.parentWidget()->addAction(new QAction("More", box.parentWidget()));
+  EXPECT_EQ(menu_of(), "&Undo  - Cu&t &Copy &Paste Delete - Select All - More");
+
+  int pastes = 0;
+  BoxMenu menu(box, [&pastes] { ++pastes; });
+  for (const char* caption : {"&Paste", "&Copy", "Cu&t"}) {
+    for (QAction* action : menu.actions()) {
+      if (action->text() == caption) action->trigger();
+    }
+  }
+  EXPECT_EQ(pastes, 1);
+  EXPECT_EQ(QApplication::clipboard()->text(), "A.B");
+  EXPECT_EQ(box.text(), "");
 }
 
 }  // namespace
