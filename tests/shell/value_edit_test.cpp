@@ -16,9 +16,9 @@ class ValueEditTest : public ::testing::Test {
     edit.setText("VALUE");
     for (QLineEdit* each : {static_cast<QLineEdit*>(&edit), &other}) each->resize(100, 20);
     other.move(0, 30);
-    QObject::connect(&edit, &ValueEdit::Visited, &edit, [this] { told += "visited "; });
-    QObject::connect(&edit, &ValueEdit::Entered, &edit, [this] { told += "entered "; });
-    QObject::connect(&edit, &ValueEdit::Left, &edit, [this] { told += "left "; });
+    QObject::connect(&edit, &ValueEdit::Visited, &edit, [this] { reported += "visited "; });
+    QObject::connect(&edit, &ValueEdit::Entered, &edit, [this] { reported += "entered "; });
+    QObject::connect(&edit, &ValueEdit::Left, &edit, [this] { reported += "left "; });
     window.show();
     window.activateWindow();
     other.setFocus();
@@ -30,11 +30,11 @@ class ValueEditTest : public ::testing::Test {
   }
 
   /// What has been reported since the last call, and what is selected.
-  std::string Told() {
-    return std::exchange(told, "") + "[" + edit.selectedText().toStdString() + "]";
+  std::string Reported() {
+    return std::exchange(reported, "") + "[" + edit.selectedText().toStdString() + "]";
   }
 
-  std::string told;
+  std::string reported;
   QWidget window;
   ValueEdit edit{&window};
   QLineEdit other{&window};
@@ -44,56 +44,56 @@ TEST_F(ValueEditTest, TheFocusBeginsAVisitOnceHoweverItComesAndAnotherClickIsAVi
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   for (const Qt::FocusReason reason : {Qt::TabFocusReason, Qt::OtherFocusReason}) {
     edit.setFocus(reason);
-    EXPECT_EQ(Told(), "entered visited [VALUE]") << reason;
+    EXPECT_EQ(Reported(), "entered visited [VALUE]") << reason;
     edit.setSelection(1, 2);
     other.setFocus(reason);
-    EXPECT_EQ(Told(), "left []") << reason;
+    EXPECT_EQ(Reported(), "left []") << reason;
     EXPECT_EQ(edit.cursorPosition(), 0) << "a long text shows how it begins";
   }
   QTest::mouseClick(&edit, Qt::LeftButton);
-  EXPECT_EQ(Told(), "entered visited [VALUE]");
+  EXPECT_EQ(Reported(), "entered visited [VALUE]");
   QTest::mouseClick(&edit, Qt::LeftButton, Qt::NoModifier, {99, 10});
-  EXPECT_EQ(Told(), "visited []");
+  EXPECT_EQ(Reported(), "visited []");
   QTest::mouseDClick(&edit, Qt::LeftButton);
-  EXPECT_EQ(Told(), "[VALUE]");
+  EXPECT_EQ(Reported(), "[VALUE]");
   QTest::mouseClick(&edit, Qt::RightButton, Qt::NoModifier, {99, 10});
-  EXPECT_EQ(Told(), "[VALUE]");
+  EXPECT_EQ(Reported(), "[VALUE]");
 }
 
 TEST_F(ValueEditTest, AShortAbsenceEndsNoVisit) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   // Without an absence before it, it is no return.
   Send(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
-  EXPECT_EQ(Told(), "entered visited []");
+  EXPECT_EQ(Reported(), "entered visited []");
   edit.setFocus();
   QTest::keyClicks(&edit, "NEW");
   edit.setSelection(1, 2);
-  told.clear();
+  reported.clear();
   for (const Qt::FocusReason reason :
        {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
     Send(QEvent::FocusOut, reason);
     edit.deselect();
     Send(QEvent::FocusIn, reason);
-    EXPECT_EQ(Told(), "[EW]") << reason;
+    EXPECT_EQ(Reported(), "[EW]") << reason;
   }
   Send(QEvent::FocusOut, Qt::PopupFocusReason);
   edit.ShowText("PICKED");
   edit.deselect();
   Send(QEvent::FocusIn, Qt::PopupFocusReason);
-  EXPECT_EQ(Told(), "[PICKED]");
+  EXPECT_EQ(Reported(), "[PICKED]");
   edit.TakeBack();
-  EXPECT_EQ(Told(), "[VALUE]") << "what the visit found";
+  EXPECT_EQ(Reported(), "[VALUE]") << "what the visit found";
   edit.ShowText("LOADED");
   edit.BeginVisit();
   QTest::keyClicks(&edit, "X");
   edit.TakeBack();
-  EXPECT_EQ(Told(), "[LOADED]");
+  EXPECT_EQ(Reported(), "[LOADED]");
 
   Send(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
   edit.hide();
   edit.show();
   Send(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
-  EXPECT_EQ(Told(), "left entered visited []") << "out of sight, it is no return";
+  EXPECT_EQ(Reported(), "left entered visited []") << "out of sight, it is no return";
 }
 
 }  // namespace
