@@ -27,7 +27,14 @@ void ShowHeadings(QTextDocument& document) {
       const QString beside = above.isEmpty() ? line.next().text() : above;
       const qreal width = QFontMetricsF(font).horizontalAdvance(beside);
       font.setBold(false);
-      font.setStretch(qRound(100 * width / QFontMetricsF(font).horizontalAdvance(text)));
+      const qreal plain_width = QFontMetricsF(font).horizontalAdvance(text);
+      if (text.startsWith('-')) {
+        font.setStretch(qRound(100 * width / plain_width));
+      } else {
+        // Dots are moved apart instead: stretched ones look like hyphens.
+        const auto gaps = static_cast<qreal>(text.size() - 1);
+        font.setLetterSpacing(QFont::AbsoluteSpacing, (width - plain_width) / gaps);
+      }
     }
     QTextCharFormat format;
     format.setFont(font);

@@ -1,31 +1,22 @@
 #include "shell/roster_box.h"
 
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QPainter>
-#include <utility>
 
+#include "shell/box_clipboard.h"
+#include "shell/box_menu.h"
 #include "shell/code_page_text.h"
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"
 #include "shell/menu_table.h"
-#include "textfile/pasted_block.h"
 #include "ui/dropped_file.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
 
 namespace morlek {
 namespace {
-
-/// Whether the focus goes to a menu or another window, or comes back from there, which is no new
-/// visit.
-bool IsShortAbsence(Qt::FocusReason reason) {
-  return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
-         reason == Qt::MenuBarFocusReason;
-}
 
 QString AccessibleNameOf(Cell cell) {
   const Block& block = BlockOf(cell.row);
@@ -35,7 +26,8 @@ QString AccessibleNameOf(Cell cell) {
 
 }  // namespace
 
-RosterBox::RosterBox(Cell cell, QWidget* parent) : QLineEdit(parent), cell_(cell) {
+RosterBox::RosterBox(Cell cell, const QValidator& validator, QWidget* parent)
+    : ValueEdit(parent), cell_(cell) {
   setObjectName(BoxNameOf(cell));
   setAccessibleName(AccessibleNameOf(cell));
   setGeometry(BoxRectOf(cell));
@@ -47,19 +39,8 @@ RosterBox::RosterBox(Cell cell, QWidget* parent) : QLineEdit(parent), cell_(cell
     setTextMargins(-2, 0, -4, 0);
     setAlignment(Qt::AlignCenter);
   }
-  connect(this, &QLineEdit::textChanged, this, &RosterBox::KeepToCodePage);
-  connect(this, &QLineEdit::textEdited, this, &RosterBox::DropLineBreaks);
-}
-
-void RosterBox::ShowText(const QString& text) {
-  setText(text);
-  SelectForTyping();
-  if (!hasFocus()) home(false);
-}
-
-void RosterBox::BeginVisit() {
-  entry_text_ = text();
-  SelectForTyping();
+  setMaxLength(kLongestText);
+  setValidator(&validator);
 }
 
 void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
@@ -84,20 +65,10 @@ void RosterBox::SetTint(Tint tint) {
   update();
 }
 
-void RosterBox::SelectForTyping() {
-  if (left_selection_) left_selection_ = {0, static_cast<int>(text().size())};
-  if (hasFocus()) selectAll();
-}
-
 void RosterBox::PaintPanel(QPainter& painter) const { PaintFrame(painter, Ground()); }
 
 void RosterBox::PaintFrame(QPainter& painter, const QColor& ground) const {
-  const theme::Shades& shades = theme::ShadesOf(palette());
-  if (hasFocus()) {
-    FrameSnapped(painter, rect(), 2, shades.accent, ground);
-  } else {
-    FrameSnapped(painter, rect(), 1, shades.line, ground);
-  }
+  FrameSnapped(painter, rect(), 1, theme::ShadesOf(palette()).line, ground);
 }
 
 QColor RosterBox::Ground() const {
@@ -112,12 +83,19 @@ QColor RosterBox::Ground() const {
 }
 
 void RosterBox::paintEvent(QPaintEvent* event) {
-  QLineEdit::paintEvent(event);
+  ValueEdit::paintEvent(event);
   // The margins let a text that is too long get over the lines.
   if (fontMetrics().horizontalAdvance(text()) > width() - 2) {
     QPainter painter(this);
     PaintFrame(painter, Qt::transparent);
   }
+  // The ring of the focus, which stands above the box, paints the mark above itself.
+  if (hasFocus() || !mark_.is_lossy) return;
+  QPainter painter(this);
+  PaintMark(painter);
+}
+
+void RosterBox::PaintMark(QPainter& painter) const {
   if (!mark_.is_lossy) return;
   // Over text and selection alike, with an edge that parts it from both.
   constexpr qreal kSize = 7;
@@ -125,7 +103,6 @@ void RosterBox::paintEvent(QPaintEvent* event) {
   const QPointF corner(width() - 1, 1);
   const QPointF left = corner - QPointF(kSize, 0);
   const QPointF below = corner + QPointF(0, kSize);
-  QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(shades.unkept_mark);
@@ -143,11 +120,11 @@ bool RosterBox::event(QEvent* event) {
       return false;
     }
   }
-  return !LeaveToMenu(*event) && QLineEdit::event(event);
+  return !LeaveToMenu(*event) && ValueEdit::event(event);
 }
 
 void RosterBox::changeEvent(QEvent* event) {
-  QLineEdit::changeEvent(event);
+  ValueEdit::changeEvent(event);
   // The desktop went from light to dark, or back.
   if (event->type() == QEvent::PaletteChange && mark_.is_modified) ColorText();
 }
@@ -158,73 +135,11 @@ void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
     event->ignore();
     return;
   }
-  QLineEdit::dragEnterEvent(event);
+  ValueEdit::dragEnterEvent(event);
 }
 
 void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
-  QMenu menu;
-  // Undo and redo are the grid's.
-  menu.addActions(parentWidget()->actions());
-  menu.addSeparator();
-  const auto add = [&menu](const QString& caption, QKeySequence::StandardKey key, bool enabled) {
-    QAction* action = menu.addAction(caption);
-    action->setShortcut(key);
-    action->setEnabled(enabled);
-    return action;
-  };
-  const auto on = [this](QAction* action, auto slot) {
-    connect(action, &QAction::triggered, this, slot);
-  };
-  on(add("Cu&t", QKeySequence::Cut, hasSelectedText()), &QLineEdit::cut);
-  on(add("&Copy", QKeySequence::Copy, hasSelectedText()), &QLineEdit::copy);
-  on(add("&Paste", QKeySequence::Paste, !QGuiApplication::clipboard()->text().isEmpty()),
-     [this] { PasteFrom(QClipboard::Clipboard); });
-  on(add("Delete", QKeySequence::UnknownKey, hasSelectedText()), [this] { del(); });
-  menu.addSeparator();
-  // Its usual key belongs to the menu bar.
-  on(add("Select All", QKeySequence::UnknownKey, !text().isEmpty()), &QLineEdit::selectAll);
-  menu.exec(event->globalPos());
-}
-
-void RosterBox::focusInEvent(QFocusEvent* event) {
-  QLineEdit::focusInEvent(event);
-  if (!neighbor_above_) {
-    // The ring is not to be cut by a neighbour's line; whoever reads the grid in its order is to
-    // find the box in its place afterwards.
-    const QObjectList& siblings = parentWidget()->children();
-    neighbor_above_ = qobject_cast<QWidget*>(siblings.value(siblings.indexOf(this) + 1));
-    raise();
-  }
-  // A window gives its focus to the first box when no box has it: that is no return.
-  if (IsShortAbsence(event->reason()) && left_selection_) {
-    if (left_selection_->length > 0) setSelection(left_selection_->start, left_selection_->length);
-    return;
-  }
-  swallowing_press_ = event->reason() == Qt::MouseFocusReason;
-  BeginVisit();
-  emit Entered();
-  emit Visited();
-}
-
-void RosterBox::focusOutEvent(QFocusEvent* event) {
-  if (neighbor_above_) stackUnder(neighbor_above_);
-  neighbor_above_.clear();
-  swallowing_press_ = false;
-  left_selection_.reset();
-  // The line editor itself drops the selection when the menu bar takes the focus.
-  const bool is_short = IsShortAbsence(event->reason());
-  if (is_short) left_selection_ = {selectionStart(), selectionLength()};
-  QLineEdit::focusOutEvent(event);
-  if (is_short) return;
-  // A text longer than the box shows how it begins.
-  home(false);
-  emit Left();
-}
-
-void RosterBox::hideEvent(QHideEvent* event) {
-  // A window that is minimized comes back as it was left; a grid that is hidden does not.
-  if (!event->spontaneous()) left_selection_.reset();
-  QLineEdit::hideEvent(event);
+  BoxMenu(*this, [this] { PasteFrom(QClipboard::Clipboard); }).exec(event->globalPos());
 }
 
 void RosterBox::keyPressEvent(QKeyEvent* event) {
@@ -241,70 +156,32 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
   } else if (plain && (event->key() == Qt::Key_Down || is_return)) {
     emit RowStepRequested(+1);
   } else if (plain && event->key() == Qt::Key_Escape) {
-    if (text() != entry_text_) setText(entry_text_);
-    selectAll();
-  } else if (event->key() == Qt::Key_Insert &&
-             event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
-             QGuiApplication::clipboard()->supportsSelection()) {
-    PasteFrom(QClipboard::Selection);
-  } else if (event->matches(QKeySequence::Paste)) {
-    PasteFrom(QClipboard::Clipboard);
+    TakeBack();
+  } else if (const auto clipboard = PastingClipboard(*event)) {
+    PasteFrom(*clipboard);
   } else if (!event->matches(QKeySequence::Undo) && !event->matches(QKeySequence::Redo)) {
     // The line editor has a history of its own, which knows nothing of loads and saves.
-    QLineEdit::keyPressEvent(event);
+    ValueEdit::keyPressEvent(event);
   }
-}
-
-void RosterBox::mousePressEvent(QMouseEvent* event) {
-  if (swallowing_press_) return;
-  QLineEdit::mousePressEvent(event);
-  if (event->button() == Qt::LeftButton) emit Visited();
-}
-
-void RosterBox::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
-  // A box holds one value, of which the line editor would select the part up to the point.
-  selectAll();
-}
-
-void RosterBox::mouseMoveEvent(QMouseEvent* event) {
-  if (!swallowing_press_) QLineEdit::mouseMoveEvent(event);
 }
 
 void RosterBox::mouseReleaseEvent(QMouseEvent* event) {
-  const bool is_swallowed = std::exchange(swallowing_press_, false);
-  if (is_swallowed) return;
-  if (event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
-    deselect();
-    PasteFrom(QClipboard::Selection);
+  const auto clipboard = PastingClipboard(*event);
+  if (!clipboard || is_swallowing_press()) {
+    ValueEdit::mouseReleaseEvent(event);
     return;
   }
-  QLineEdit::mouseReleaseEvent(event);
+  deselect();
+  PasteFrom(*clipboard);
 }
 
-void RosterBox::PasteFrom(QClipboard::Mode mode) {
-  const std::string pasted = ToCodePage(QGuiApplication::clipboard()->text(mode));
-  if (IsBlock(pasted)) {
-    emit BlockPasted(pasted);
+void RosterBox::PasteFrom(QClipboard::Mode clipboard) {
+  const ClipboardText pasted = ReadClipboard(clipboard);
+  if (pasted.is_block) {
+    emit BlockPasted(pasted.text);
   } else {
-    insert(FromCodePage(WithoutLastLineBreak(pasted).substr(0, kLongestText)));
+    insert(FromCodePage(pasted.text));
   }
-}
-
-void RosterBox::KeepToCodePage() {
-  Convert([](const QString& part) { return FromCodePage(ToCodePage(part)); });
-}
-
-void RosterBox::DropLineBreaks() {
-  Convert([](QString part) { return part.remove('\r').remove('\n'); });
-}
-
-template <typename Conversion>
-void RosterBox::Convert(Conversion convert) {
-  const QString converted = convert(text());
-  if (converted == text()) return;
-  const auto cursor = static_cast<int>(convert(text().left(cursorPosition())).size());
-  setText(converted);
-  setCursorPosition(cursor);
 }
 
 }  // namespace morlek

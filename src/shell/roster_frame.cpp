@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "shell/code_page_text.h"
+#include "shell/focus_ring.h"
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"
 #include "shell/roster_box.h"
@@ -33,6 +34,7 @@ RosterFrame::RosterFrame(Editor& editor, QWidget* parent) : QFrame(parent), edit
   for (const Cell cell : kCellsOnScreen) AddBox(cell);
   AddTeamNameAndSave();
   AddKeys();
+  new FocusRing(this);
   hide();
 }
 
@@ -130,11 +132,11 @@ void RosterFrame::AddHeaders(const BlockLayout& layout) {
 }
 
 void RosterFrame::AddBox(Cell cell) {
-  auto* box = new RosterBox(cell, this);
+  auto* box = new RosterBox(cell, code_page_, this);
   boxes_.at(IndexOf(cell)) = box;
   box->setText(FromCodePage(editor_.state().grid.Text(cell)));
   connect(box, &RosterBox::textChanged, this, [this, box, cell] {
-    // Not the signal's text, which the box may have corrected by now.
+    // Not the signal's text, from which the box may have taken line breaks by now.
     editor_.Type(cell, ToCodePage(box->text()));
   });
   connect(box, &RosterBox::Entered, this, [this, cell] {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "editor/editor.h"
+#include "shell/code_page_validator.h"
 
 class QAction;
 class QLabel;
@@ -60,6 +61,7 @@ class RosterFrame : public QFrame {
   void ShowTints();
 
   Editor& editor_;
+  CodePageValidator code_page_;
   QLabel* team_name_ = nullptr;
   FilledButton* save_ = nullptr;
   QAction* undo_ = nullptr;

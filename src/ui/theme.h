@@ -100,7 +100,6 @@ inline constexpr Shades kDark{
 /// The shades as the colours of every part of every window, dialogs and menus included.
 [[nodiscard]] QPalette PaletteOf(const Shades& shades);
 
-
 /// Makes the embedded font known to the program; call once, before Font. Should that fail, texts
 /// stand in a font of the system.
 void LoadFonts();

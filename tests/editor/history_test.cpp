@@ -10,7 +10,7 @@ namespace {
 using enum Column;
 
 constexpr Cell kFirst{kName, 0};
-constexpr Cell kNumber{kUniformNumber, 7};
+constexpr Cell kSeventh{kUniformNumber, 7};
 
 /// A grid with its history, of which every step is made at once.
 struct Edited {
@@ -50,29 +50,29 @@ RosterGrid With(RosterGrid grid, Cell cell, const std::string& text) {
 
 TEST(History, TypingInOneVisitIsOneStep) {
   Edited edited;
-  for (const char* text : {"4", "42"}) edited.Type(kNumber, text);
+  for (const char* text : {"4", "42"}) edited.Type(kSeventh, text);
   edited.history.EndVisit();
-  edited.Type(kNumber, "421");
+  edited.Type(kSeventh, "421");
   edited.Type(kFirst, "A.B");
-  edited.Type(kNumber, "4217");
+  edited.Type(kSeventh, "4217");
 
-  EXPECT_EQ(edited.Undo(), kNumber);
-  EXPECT_EQ(edited.grid.Text(kNumber), "421");
+  EXPECT_EQ(edited.Undo(), kSeventh);
+  EXPECT_EQ(edited.grid.Text(kSeventh), "421");
   EXPECT_EQ(edited.Undo(), kFirst);
-  EXPECT_EQ(edited.Undo(), kNumber);
-  EXPECT_EQ(edited.grid.Text(kNumber), "42");
-  EXPECT_EQ(edited.Redo(), kNumber);
-  EXPECT_EQ(edited.grid.Text(kNumber), "421");
-  edited.Type(kNumber, "9");
+  EXPECT_EQ(edited.Undo(), kSeventh);
+  EXPECT_EQ(edited.grid.Text(kSeventh), "42");
+  EXPECT_EQ(edited.Redo(), kSeventh);
+  EXPECT_EQ(edited.grid.Text(kSeventh), "421");
+  edited.Type(kSeventh, "9");
   EXPECT_EQ(edited.Redo(), std::nullopt) << "another way was taken";
-  for (int step = 0; step < 3; ++step) EXPECT_EQ(edited.Undo(), kNumber);
+  for (int step = 0; step < 3; ++step) EXPECT_EQ(edited.Undo(), kSeventh);
   EXPECT_EQ(edited.Undo(), std::nullopt);
   EXPECT_EQ(edited.grid, RosterGrid());
 
-  edited.Type(kNumber, "1");
-  edited.Type(kNumber, "");
+  edited.Type(kSeventh, "1");
+  edited.Type(kSeventh, "");
   EXPECT_EQ(edited.Undo(), std::nullopt) << "typed and taken back by hand";
-  edited.Type(kNumber, "1");
+  edited.Type(kSeventh, "1");
   edited.history.Clear();
   EXPECT_FALSE(edited.history.can_undo());
 }
@@ -140,10 +140,10 @@ TEST(History, ALongOneDropsItsOldestStepsAndNoMore) {
   typed.Type(kFirst, "first");
   typed.history.EndVisit();
   for (int round = 0; round < 2000; ++round) {
-    typed.Type(kNumber, text_of(round % 2));
-    typed.Type(kNumber, "short" + std::to_string(round % 2));
+    typed.Type(kSeventh, text_of(round % 2));
+    typed.Type(kSeventh, "short" + std::to_string(round % 2));
   }
-  EXPECT_EQ(typed.Undo(), kNumber);
+  EXPECT_EQ(typed.Undo(), kSeventh);
   EXPECT_EQ(typed.Undo(), kFirst) << "one visit never fills the history";
 }
 

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QLineEdit>
+#include <optional>
+
+namespace morlek {
+
+/// A line edit that holds one value and is visited: receiving the focus begins a visit and selects
+/// the whole text, so that typing replaces it. A short absence, to a menu or another window, ends
+/// no visit and keeps the selection.
+class ValueEdit : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit ValueEdit(QWidget* parent);
+
+  /// Shows a text that was not typed here. Typing replaces it, now or when the focus returns, as
+  /// after a visit.
+  void ShowText(const QString& text);
+
+  /// What the box holds now is what TakeBack gives back, as if the box were entered now.
+  void BeginVisit();
+
+  /// Gives back the text that the visit found, selected.
+  void TakeBack();
+
+  /// Selects the whole text if the box has the focus, or for the return of the focus from a menu or
+  /// another window; does nothing for a box without the focus.
+  void SelectForTyping();
+
+ signals:
+  /// The focus came by keyboard, mouse or program, not by a return from a menu or another window;
+  /// or the box was clicked while it had the focus.
+  void Visited();
+
+  /// The focus came likewise: what is typed from now on belongs to a new visit.
+  void Entered();
+
+  /// The focus went for good.
+  void Left();
+
+ protected:
+  /// True from the mouse press that gave the focus up to its release: neither may drop the
+  /// selection.
+  [[nodiscard]] bool is_swallowing_press() const { return is_swallowing_press_; }
+
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  struct Selection {
+    int start = 0;
+    int length = 0;
+  };
+
+  QString entry_text_;
+  bool is_swallowing_press_ = false;
+  // While the focus is away in a menu or another window: what to select when it returns.
+  std::optional<Selection> left_selection_;
+};
+
+}  // namespace morlek

@@ -1,0 +1,201 @@
+#include "shell/roster_box.h"
+
+#include <QAccessible>
+#include <QMimeData>
+#include <QSignalSpy>
+
+#include "shell/box_menu.h"
+#include "shell/eye.h"
+#include "shell/window_fixture.h"
+#include "team/roster_grid.h"
+#include "ui/theme.h"
+
+namespace morlek {
+namespace {
+
+class RosterBoxTest : public WindowTest {
+ protected:
+  using Edit = std::function<void(QLineEdit&)>;
+
+  static void PasteDirectly(QLineEdit& box, const QString& text) {
+    QApplication::clipboard()->setText(text);
+    box.paste();
+  }
+  static void Drop(QLineEdit& box, const QString& text) {
+    QMimeData data;
+    data.setText(text);
+    // Where the cursor stands.
+    const QPointF place = box.inputMethodQuery(Qt::ImCursorRectangle).toRectF().center();
+    QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&box, &enter);
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&box, &drop);
+  }
+  static void Commit(QLineEdit& box, const QString& text) {
+    QInputMethodEvent commit;
+    commit.setCommitString(text);
+    QApplication::sendEvent(&box, &commit);
+  }
+
+  /// A box with the focus and a text as an import leaves it, "|" where the cursor stands and
+  /// brackets around what is selected.
+  QLineEdit& BoxWith(const QString& picture) {
+    QLineEdit& box = Box(1, 3);
+    box.setFocus();
+    box.setText(QString(picture).remove('|').remove('[').remove(']'));
+    const auto start = static_cast<int>(picture.indexOf('['));
+    if (start >= 0) {
+      box.setSelection(start, static_cast<int>(picture.indexOf(']')) - start - 1);
+    } else {
+      box.setCursorPosition(static_cast<int>(picture.indexOf('|')));
+    }
+    return box;
+  }
+  static QString PictureOf(const QLineEdit& box) {
+    return box.text().insert(box.cursorPosition(), '|');
+  }
+};
+
+TEST_F(RosterBoxTest, OnlyWhatComesInLosesItsLineBreaks) {
+  StartWithTeam();
+  struct Case {
+    const char* before;
+    Edit edit;
+    const char* after;
+  };
+  const auto type = [](const QString& keys) {
+    return [keys](QLineEdit& box) { QTest::keyClicks(&box, keys); };
+  };
+  const auto press = [](Qt::Key key) {
+    return [key](QLineEdit& box) { QTest::keyClick(&box, key); };
+  };
+  const auto paste = [this](const QString& text) {
+    return [this, text](QLineEdit& /*box*/) {
+      QApplication::clipboard()->setText(text);
+      Press(Qt::Key_V, Qt::ControlModifier);
+    };
+  };
+  const auto with = [](auto way, const QString& text) {
+    return [way, text](QLineEdit& box) { way(box, text); };
+  };
+  const std::vector<Case> cases = {
+      {"A\nB|", type("CD"), "A\nBCD|"},
+      {"A|\nB", type("C"), "AC|\nB"},
+      {"A\n|B", press(Qt::Key_Delete), "A\n|"},
+      {"A\nB|\n", press(Qt::Key_Backspace), "A\n|\n"},
+      {"A\n|\nB", press(Qt::Key_Backspace), "A|\nB"},
+      {"A\n|B", paste("X\r\n"), "A\nX|B"},
+      {"A|\nB\n", with(&PasteDirectly, "X\n\r\nY\n"), "AXY|\nB\n"},
+      {"A\n|B", with(&PasteDirectly, "\n"), "A\n|B"},
+      {"[A\nB]", with(&PasteDirectly, "A\nC"), "AC|"},
+      {"A[\nB]\n", with(&PasteDirectly, "\n1\n"), "A1|\n"},
+      {"|A\nB", with(&PasteDirectly, QString::fromUtf8("😀\n中")), "??|A\nB"},
+      {"A\nB|", with(&Drop, "X\nY\r"), "A\nBXY|"},
+      {"\nAB|", with(&Commit, "X\nY"), "\nABXY|"},
+      {"[\nA]B\n", with(&Commit, "\nY"), "Y|B\n"}};
+  for (const Case& each : cases) {
+    QLineEdit& box = BoxWith(each.before);
+    each.edit(box);
+    EXPECT_EQ(PictureOf(box).toStdString(), each.after) << each.before;
+    EXPECT_EQ(editor->state().grid.Text({Column::kName, 3}), box.text().toStdString());
+  }
+}
+
+TEST_F(RosterBoxTest, WhatAnImportBroughtStaysOnUndoAndEscape) {
+  StartWithTeam();
+  ChooseWith("mnuImport", TeamFile("A\nB"));
+  EXPECT_EQ(Box(1, 3).text(), "A\nB");
+  Box(1, 3).setFocus();
+  Press(Qt::Key_End);
+  Press(Qt::Key_C);
+  EXPECT_EQ(Box(1, 3).text(), "A\nBc");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Box(1, 3).text(), "A\nB");
+  Press(Qt::Key_End);
+  Press(Qt::Key_C);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Box(1, 3).text(), "A\nB");
+}
+
+TEST_F(RosterBoxTest, EachChangeIsReportedOnceAndNoTextGetsTooLong) {
+  StartWithTeam();
+  QLineEdit& box = BoxWith("AB|");
+  const QSignalSpy changes(&box, &QLineEdit::textChanged);
+  Commit(box, QString::fromUtf8("中"));
+  EXPECT_EQ(changes, (QList<QVariantList>{{"AB?"}}));
+
+  box.setText(QString(kLongestText - 1, 'x'));
+  box.setCursorPosition(0);
+  Commit(box, "YZ");
+  EXPECT_EQ(box.text(), "Y" + QString(kLongestText - 1, 'x'));
+}
+
+TEST_F(RosterBoxTest, TheRingFramesTheBoxWithTheFocusAboveItsNeighboursAndLetsTheMouseThrough) {
+  StartWithTeam();
+  QWidget& frame = Find("Frame1");
+  const QColor accent = theme::kLight.accent;
+  const auto ring_around = [&](const QLineEdit& box) {
+    const QImage seen = Seen(box);
+    const QImage inside = seen.copy(seen.rect().adjusted(2, 2, -2, -2));
+    const int ring = CountOf(seen, accent, 0) - CountOf(inside, accent, 0);
+    return ring == seen.width() * seen.height() - inside.width() * inside.height();
+  };
+  for (const int column : {3, 1, 14}) {
+    QLineEdit& box = Box(column, 7);
+    box.setFocus();
+    box.deselect();
+    EXPECT_TRUE(ring_around(box)) << column;
+    EXPECT_EQ(frame.childAt(box.geometry().topLeft() + QPoint(3, 1)), &box);
+    // A menu covers a part of the window at most.
+    QFocusEvent to_menu(QEvent::FocusOut, Qt::PopupFocusReason);
+    QApplication::sendEvent(&box, &to_menu);
+    EXPECT_TRUE(ring_around(box)) << column;
+  }
+  EXPECT_FALSE(ring_around(Box(1, 7)));
+  TypeInto(3, 7, "ABC");
+  EXPECT_GE(CountOf(Seen(Box(3, 7)).copy(23, 0, 2, 9), theme::kLight.unkept_mark), 6)
+      << "the red corner stands above the ring";
+  Box(3, 7).clearFocus();
+  EXPECT_EQ(CountOf(Seen(Box(3, 7)).copy(0, 0, 25, 2), accent, 0), 0);
+
+  const QAccessibleInterface& grid = *QAccessible::queryAccessibleInterface(&frame);
+  for (int child = 0; child < grid.childCount(); ++child) {
+    EXPECT_NE(grid.child(child)->role(), QAccessible::Client) << child << " is nothing to read";
+  }
+}
+
+TEST_F(RosterBoxTest, TheContextMenuOffersWhatCanBeDoneWithTheBoxBelowWhatTheGridOffers) {
+  StartWithTeam();
+  QLineEdit& box = Box(1, 3);
+  const auto menu_of = [&box] {
+    BoxMenu menu(box, [] {});
+    QStringList items;
+    for (const QAction* action : menu.actions()) {
+      items << (action->isSeparator() ? "-" : action->isEnabled() ? action->text() : "");
+    }
+    return items.join(' ').toStdString();
+  };
+  box.selectAll();
+  PasteDirectly(box, "A.B");
+  EXPECT_EQ(menu_of(), "&Undo  -   &Paste  - Select All");
+  box.selectAll();
+  auto* separator = new QAction(box.parentWidget());
+  separator->setSeparator(true);
+  box.parentWidget()->addAction(separator);
+  box.parentWidget()->addAction(new QAction("More", box.parentWidget()));
+  EXPECT_EQ(menu_of(), "&Undo  - Cu&t &Copy &Paste Delete - Select All - More");
+
+  int pastes = 0;
+  BoxMenu menu(box, [&pastes] { ++pastes; });
+  for (const char* caption : {"&Paste", "&Copy", "Cu&t"}) {
+    for (QAction* action : menu.actions()) {
+      if (action->text() == caption) action->trigger();
+    }
+  }
+  EXPECT_EQ(pastes, 1);
+  EXPECT_EQ(QApplication::clipboard()->text(), "A.B");
+  EXPECT_EQ(box.text(), "");
+}
+
+}  // namespace
+}  // namespace morlek
