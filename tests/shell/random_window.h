@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QStringList>
+#include <array>
 #include <cstdlib>
 #include <functional>
 #include <random>
@@ -72,8 +72,8 @@ class RandomWindowTest : public WindowTest {
   /// What a person could put into this column, now and then with a slip.
   QString RandomText(int column) {
     if (dice.OneIn(4)) {
-      return dice.OneOf({"", "ZZ", "300", "255", "12", ".999", "10", "0", "007", "00", "-1", "&H5",
-                         "1e1", "5 ", "G", "x", "9.99", "199", "8."});
+      return dice.OneOf({"",    "",   "",   "",    "ZZ",  "300", "255", "12", ".999", "10",  "0",
+                         "007", "00", "-1", "&H5", "1e1", "5 ",  "G",   "x",  "9.99", "199", "8."});
     }
     switch (column) {
       case 1:
@@ -95,44 +95,55 @@ class RandomWindowTest : public WindowTest {
     }
   }
 
-  /// Some cells with tabs and line breaks between them.
-  QString RandomBlock(int first_column) {
+  /// A box, mostly of a few rows, so that steps meet.
+  int RandomPlace() {
+    constexpr std::array<int, 4> kOftenRows = {0, 6, 15, 21};
+    const int row =
+        dice.OneIn(3) ? dice.Below(kRows) : kOftenRows.at(static_cast<std::size_t>(dice.Below(4)));
+    return row * kColumns + dice.Below(kColumns);
+  }
+
+  /// Pastes some cells with tabs and line breaks between them.
+  void PasteRandomBlock(int place) {
     QStringList lines;
     for (int count = 1 + dice.Below(4); count > 0; --count) {
       QStringList fields;
       for (int field = 1 + dice.Below(4); field >= 0; --field) {
-        fields << RandomText(std::min(first_column + static_cast<int>(fields.size()), kColumns));
+        fields << RandomText(dice.OneIn(2) ? ColumnOf(place) : 3);
       }
       lines << fields.join('\t');
     }
-    return lines.join('\n');
+    Note("paste at " + boxes[place]->objectName() + " " + lines.join('\n'));
+    PasteInto(ColumnOf(place), RowOf(place), lines.join('\n'));
+    EXPECT_EQ(boxes[place]->text(), lines[0].section('\t', 0, 0));
   }
 
-  /// The path of a new team file; one that is short leaves the rest of the grid empty, and is still
-  /// open after an import.
-  QString RandomTeamFile(bool is_short) {
+  /// Imports a new team file; true for one that is too short, which is still open then.
+  bool ImportRandomFile() {
+    const bool is_short = dice.OneIn(2);
+    Note(is_short ? "import of a short file" : "import");
     QString content;
     for (int row = is_short ? 20 : 0; row < kRows; ++row) {
       for (int column = 1; column <= kColumns; ++column) {
-        const bool has_line_feed = dice.OneIn(100);
-        content += (has_line_feed ? QString("4\n2") : RandomText(column)) + ",";
+        content += (dice.OneIn(100) ? QString("4\n2") : RandomText(column)) + ",";
       }
       content += "\r\n";
     }
     PutFile(folder / "random.txt", content.toStdString());
-    return PathOf("random.txt");
+    ChooseWith("mnuImport", PathOf("random.txt"));
+    return is_short;
   }
 
   /// Clicks a features box and then a picture of its chooser, whose code it gives.
   QString PickInto(int place) {
     const int column = ColumnOf(place);
     QTest::mouseClick(boxes[place], Qt::LeftButton);
-    // Pictures of legs fill four rows of twelve in part.
+    // Legs fill the rows of twelve in part.
     const int index = column == 14 ? 12 * dice.Below(3) + dice.Below(2) : dice.Below(48);
-    const auto& picture =
-        Find<QAbstractButton>(QString("Picture%1(%2)").arg(column - 11).arg(index));
-    Click(picture.objectName());
-    return picture.accessibleName().section(' ', -1);
+    const QString picture = QString("Picture%1(%2)").arg(column - 11).arg(index);
+    Note("pick " + picture + " into " + boxes[place]->objectName());
+    Click(picture);
+    return Find(picture).accessibleName().section(' ', -1);
   }
 
   Dice dice{0};

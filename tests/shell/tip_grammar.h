@@ -10,6 +10,7 @@ namespace morlek {
 
 /// What the tip of a box says, word by word: of every sentence that may stand there.
 struct SpokenTip {
+  QString all;
   enum class Save { kKeeps, kStores, kSkips, kEnds, kNotReached };
   Save save = Save::kKeeps;
   // What a load after SAVE shows, unless SAVE keeps the text.
@@ -45,6 +46,7 @@ inline SpokenTip ReadTip(const QString& tip) {
   const QRegularExpressionMatch match = grammar.match(tip.startsWith("Not") ? "\n" + tip : tip);
   EXPECT_TRUE(match.hasMatch() && tip[0] != '\n') << "no such sentence: " << tip.toStdString();
   SpokenTip spoken;
+  spoken.all = tip;
   const auto say = [&](SpokenTip::Save save, int group) {
     if (match.captured(group).isEmpty()) return;
     spoken.save = save;
@@ -67,6 +69,8 @@ struct SpokenSummary {
   int unsaved = 0;
   int unkept = 0;
   bool is_file_open = false;
+
+  friend bool operator==(const SpokenSummary&, const SpokenSummary&) = default;
 };
 
 /// Understands the line to the last letter, one and many included.

@@ -109,6 +109,7 @@ void WayBackPropertyTest::TypeAtRandom() {
     case 2:
       Note("Escape");
       Press(Qt::Key_Escape);
+      EXPECT_EQ(box.selectedText(), box.text());
       AddTyping(place, entry_text);
       break;
     case 3:
@@ -127,44 +128,44 @@ void WayBackPropertyTest::TypeAtRandom() {
 
 void WayBackPropertyTest::TakeRandomStep() {
   // Often the same box again: what comes next to each other is what could be merged.
-  const bool stays = FocusedBox() != nullptr && dice.OneIn(2);
-  const int place = stays ? FocusedPlace() : dice.Below(kCells);
+  const bool stays = FocusedBox() != nullptr && !dice.OneIn(3);
+  const int place = stays ? FocusedPlace() : RandomPlace();
   Note("in " + boxes[place]->objectName());
   Enter(place);
-  switch (dice.Below(12)) {
+  switch (dice.Below(14)) {
     case 0:
     case 1: {
       const int feature = IsFeature(place) ? place : RowOf(place) * kColumns + 11 + dice.Below(3);
       Enter(feature);
       Texts texts = states[now];
       texts[feature] = PickInto(feature);
-      Note("pick " + texts[feature]);
       AddStep(texts);
       break;
     }
-    case 2: {
-      const QString block = RandomBlock(ColumnOf(place));
-      Note("paste " + block);
-      PasteInto(ColumnOf(place), RowOf(place), block);
+    case 2:
+    case 3:
+      PasteRandomBlock(place);
       AddStep(Shown());
       break;
-    }
-    case 3: {
+    case 4: {
       if (!dice.OneIn(3)) break;
-      const bool is_short = dice.OneIn(2);
-      Note(is_short ? "import of a short file" : "import");
-      ChooseWith("mnuImport", RandomTeamFile(is_short));
+      const bool is_open = ImportRandomFile();
       AddStep(Shown());
       // So that the file is not in the way of a load.
-      if (is_short) ChooseWith("mnuOpen", std::nullopt);
+      if (is_open) ChooseWith("mnuOpen", std::nullopt);
       break;
     }
-    case 4:
+    case 5:
       Note("SAVE");
       Press(Qt::Key_S, Qt::ControlModifier);
       break;
-    case 5:
     case 6:
+      Note("away and back");
+      Enter(RandomPlace());
+      Enter(place);
+      break;
+    case 7:
+    case 8:
       GoBackAndForth(1 + dice.Below(3), dice.OneIn(2));
       break;
     default:
