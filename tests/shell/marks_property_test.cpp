@@ -57,7 +57,7 @@ class MarksPropertyTest : public RandomWindowTest {
 
   /// The text without what makes no difference to the image.
   static QString Essence(int place, QString text) {
-    if (IsFeature(place)) text.remove(QRegularExpression("^0+(?=.)"));
+    while (IsFeature(place) && text.size() > 1 && text[0] == '0') text.remove(0, 1);
     return text.toUpper();
   }
   static bool IsSame(int place, const QString& one, const QString& other) {
@@ -302,7 +302,8 @@ void MarksPropertyTest::SaveWithRefusedWrites() {
   TypeInto(1, row, dice.OneOf({"Q.ZWYXVUTS", "Z.QXYZ"}));
   TypeInto(4, row, dice.OneOf(is_pitcher ? QStringList{"LS<", "R>"} : QStringList{"L", "S"}));
   TypeInto(9, row, is_pitcher ? dice.OneOf({"5.11", "0.00"}) : dice.OneOf({".511", ".000"}));
-  const int byte = dice.OneIn(2) ? 1 + dice.Below(8) : 22 + dice.Below(8);
+  const int halves = is_pitcher ? (dice.OneIn(2) ? 22 + dice.Below(2) : 29) : 25;
+  const int byte = dice.OneIn(2) ? 1 + dice.Below(8) : halves;
   const int offset = kSlotBytes * row + byte;
   Note(QString("refused from byte %1 on").arg(offset));
   {
@@ -340,13 +341,13 @@ TEST_F(MarksPropertyTest, TellTheTruth) {
       TakeRandomStep();
       ReadEveryMark();
       if (!dice.OneIn(4) || HasFailure()) continue;
-      if (dice.OneIn(3)) LookAtEveryMark();
+      if (dice.OneIn(4)) LookAtEveryMark();
       if (dice.OneIn(2)) WalkByKeys();
       // A decoder that does not know a byte shows something else at each load.
       const int end = dice.Below(is_odd ? 1 : 6);
-      if (end < 2) SaveAndLoad();
-      if (end == 2) LoadAlone();
-      if (end == 3) SaveWithRefusedWrites();
+      if (end == 0) SaveAndLoad();
+      if (end == 1) LoadAlone();
+      if (end == 2 || end == 3) SaveWithRefusedWrites();
       if (end > 3) SaveIntoAnotherRecord();
     }
   });

@@ -132,7 +132,8 @@ void WayBackPropertyTest::TakeRandomStep() {
   const int place = stays ? FocusedPlace() : RandomPlace();
   Note("in " + boxes[place]->objectName());
   Enter(place);
-  switch (dice.Below(14)) {
+  if (dice.OneIn(2)) TypeAtRandom();
+  switch (dice.Below(9)) {
     case 0:
     case 1: {
       const int feature = IsFeature(place) ? place : RowOf(place) * kColumns + 11 + dice.Below(3);
@@ -165,12 +166,12 @@ void WayBackPropertyTest::TakeRandomStep() {
       Enter(place);
       break;
     case 7:
-    case 8:
       GoBackAndForth(1 + dice.Below(3), dice.OneIn(2));
       break;
     default:
-      TypeAtRandom();
+      break;
   }
+  if (dice.OneIn(2)) TypeAtRandom();
 }
 
 void WayBackPropertyTest::GoBackAndForth(int most, bool backwards) {
@@ -202,7 +203,7 @@ void WayBackPropertyTest::GoBackAndForth(int most, bool backwards) {
 
 TEST_F(WayBackPropertyTest, LeadsThroughTheTextsOfEveryStepToWhereItWas) {
   constexpr int kRounds = 3;
-  constexpr int kSteps = 120;
+  constexpr int kSteps = 100;
   constexpr int kAll = kSteps * 20;
   Repeat(kRounds, [this](int seed) {
     StartRound(seed % 2 == 0 ? "Cubs" : "Mets", Sample());
