@@ -127,7 +127,7 @@ void MarksPropertyTest::TakeRandomStep() {
       if (ImportRandomFile()) {
         EXPECT_TRUE(ReadSummary(Find("labelStatus").accessibleDescription()).is_file_open);
         // SAVE stores nothing then, but frees the file as well.
-        if (dice.OneIn(2)) Press(Qt::Key_S, Qt::ControlModifier);
+        if (dice.OneIn(2)) Save();
         ChooseWith("mnuOpen", std::nullopt);
       }
       break;
