@@ -46,10 +46,8 @@ class MarksPropertyTest : public RandomWindowTest {
   void SaveIntoAnotherRecord();
   void SaveWithRefusedWrites();
   void LoadAlone();
+  void LookRoundAndLoad();
 
-  bool is_odd = false;  // some bytes of the team are known to no decoder
-
- private:
   void Save();
   [[nodiscard]] std::ptrdiff_t Place(const QString& key, int offset = 0) const {
     return FindTeam(key.toStdString())->base - 1 + offset;
@@ -77,14 +75,15 @@ class MarksPropertyTest : public RandomWindowTest {
     return column == 1 || column == 9 || (column == 4 && RowOf(place) >= kBatters);
   }
   [[nodiscard]] std::string Where(int place) const {
-    return QString("%1 with \"%2\" over \"%3\", \"%4\"")
+    return QString("%1 with [%2] over [%3]: %4")
         .arg(boxes[place]->objectName(), texts[place], held[place], tips[place].all)
         .toStdString();
   }
 
   QString team;
-  QImage calm_save;  // the button without its dot
-  Texts held;        // what the image holds now
+  bool is_odd = false;  // some bytes of the team are known to no decoder
+  QImage calm_save;     // the button without its dot
+  Texts held;           // what the image holds now
   // As last read.
   Texts texts;
   QList<SpokenTip> tips;
@@ -236,7 +235,8 @@ void MarksPropertyTest::WalkByKeys() {
   if (dice.OneIn(2)) {
     const int from = RandomPlace();
     boxes[from]->setFocus();
-    std::ranges::rotate(marked, std::ranges::upper_bound(marked, where(from), {}, where));
+    const auto behind = std::ranges::upper_bound(marked, where(from), {}, where);
+    std::rotate(marked.begin(), behind, marked.end());
   }
   if (!marked.isEmpty()) marked << marked.first();
   const QString before = Focused();
@@ -332,6 +332,17 @@ void MarksPropertyTest::LoadAlone() {
   }
 }
 
+void MarksPropertyTest::LookRoundAndLoad() {
+  if (dice.OneIn(4)) LookAtEveryMark();
+  if (dice.OneIn(2)) WalkByKeys();
+  // A decoder that does not know a byte shows something else at each load.
+  const int end = dice.Below(is_odd ? 1 : 6);
+  if (end == 0) SaveAndLoad();
+  if (end == 1) LoadAlone();
+  if (end == 2 || end == 3) SaveWithRefusedWrites();
+  if (end > 3) SaveIntoAnotherRecord();
+}
+
 TEST_F(MarksPropertyTest, TellTheTruth) {
   constexpr int kRounds = 6;
   constexpr int kSteps = 50;
@@ -340,15 +351,7 @@ TEST_F(MarksPropertyTest, TellTheTruth) {
     for (int step = 0; step < kSteps && !HasFailure(); ++step) {
       TakeRandomStep();
       ReadEveryMark();
-      if (!dice.OneIn(4) || HasFailure()) continue;
-      if (dice.OneIn(4)) LookAtEveryMark();
-      if (dice.OneIn(2)) WalkByKeys();
-      // A decoder that does not know a byte shows something else at each load.
-      const int end = dice.Below(is_odd ? 1 : 6);
-      if (end == 0) SaveAndLoad();
-      if (end == 1) LoadAlone();
-      if (end == 2 || end == 3) SaveWithRefusedWrites();
-      if (end > 3) SaveIntoAnotherRecord();
+      if (dice.OneIn(4) && !HasFailure()) LookRoundAndLoad();
     }
   });
 }

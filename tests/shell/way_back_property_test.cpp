@@ -31,7 +31,6 @@ class WayBackPropertyTest : public RandomWindowTest {
     EXPECT_EQ(keys[1]->isEnabled(), now + 1 < states.size()) << "redo";
   }
 
- private:
   [[nodiscard]] QLineEdit* FocusedBox() const {
     return qobject_cast<QLineEdit*>(QApplication::focusWidget());
   }
