@@ -37,7 +37,7 @@ class WayBackPropertyTest : public RandomWindowTest {
   [[nodiscard]] QString FocusedText() const {
     return FocusedBox() == nullptr ? QString() : FocusedBox()->text();
   }
-  int FocusedPlace() const {
+  [[nodiscard]] int FocusedPlace() const {
     return static_cast<int>(std::ranges::find(boxes, FocusedBox()) - boxes.begin());
   }
 
