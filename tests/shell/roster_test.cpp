@@ -150,53 +150,6 @@ TEST_F(RosterTest, UpDownAndReturnKeepThePlaceInTheRow) {
   }
 }
 
-TEST_F(RosterTest, EscapeGivesBackWhatTheVisitFound) {
-  StartWithTeam();
-  TypeInto(3, 0, "99");
-  Press(Qt::Key_Escape);
-  EXPECT_EQ(Box(3, 0).text(), "21");
-  ExpectAllSelected(3, 0);
-  Click("Mets");
-  const QString number = Box(3, 0).text();
-  Press(Qt::Key_Escape);
-  EXPECT_EQ(Box(3, 0).text(), number) << "not the other team's";
-}
-
-TEST_F(RosterTest, UndoAndRedoWalkTypingPicksPastesAndImports) {
-  StartWithTeam();
-  std::vector<std::vector<QString>> states = {GridTexts()};
-  const auto note = [&] { states.push_back(GridTexts()); };
-  TypeInto(3, 0, "24");
-  note();
-  Box(12, 5).setFocus();
-  Click("Picture1(0)");
-  note();
-  PasteInto(1, 13, "A.ONE\t1B\nB.TWO\nC.BEYOND");
-  EXPECT_EQ(Box(2, 13).text() + " " + Box(1, 14).text(), "1B B.TWO");
-  EXPECT_NE(Box(1, 15).text(), "C.BEYOND");
-  note();
-  Click("Command1");
-  ChooseWith("mnuImport", TeamFile("I.MPORT"));
-  note();
-  for (std::size_t place = states.size() - 1; place > 0; --place) {
-    EXPECT_EQ(GridTexts(), states[place]);
-    Press(Qt::Key_Z, Qt::ControlModifier);
-  }
-  ExpectAllSelected(3, 0);
-  Press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(GridTexts(), states[0]);
-  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-  for (std::size_t place = 2; place < states.size(); ++place) {
-    Press(Qt::Key_Y, Qt::ControlModifier);
-    EXPECT_EQ(GridTexts(), states[place]);
-  }
-  Click("Mets");
-  const std::vector<QString> mets = GridTexts();
-  Box(1, 0).setFocus();
-  Press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(GridTexts(), mets) << "a load begins a new history, in the boxes too";
-}
-
 TEST_F(RosterTest, TeamsCanBePickedByKeyboard) {
   Start(std::nullopt);
   user.messages.clear();
