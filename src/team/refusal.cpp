@@ -1,5 +1,6 @@
 #include "team/refusal.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "codecs/name_letter_codec.h"
@@ -13,8 +14,8 @@
 namespace morlek {
 namespace {
 
-/// Whether SAVE keeps the text of a cell beside neighbours that do not stand in its way: those of a
-/// record of zeros.
+/// Whether SAVE keeps the text of a cell, and what shares a byte with it, beside neighbours that do
+/// not stand in its way: those of a record of zeros.
 bool IsTakenAlone(Cell cell, const std::string& text) {
   RecordBytes zeros;
   for (int row = 0; row < kSlotCount; ++row) {
@@ -25,7 +26,12 @@ bool IsTakenAlone(Cell cell, const std::string& text) {
   DecodeRecord([](int /*row*/, int /*offset*/) { return std::uint8_t{0}; }, state, grid);
   grid.SetText(cell, text);
   const SavePreview alone(grid, state, zeros);
-  return IsSameText(cell.column, text, alone.TextAfter(cell));
+  return IsSameText(cell.column, text, alone.TextAfter(cell)) &&
+         std::ranges::all_of(BlockOf(cell.row).columns, [&](const BlockColumn& each) {
+           const Cell other{each.column, cell.row};
+           return other == cell || !ShareAByte(cell, other) ||
+                  grid.Text(other) == alone.TextAfter(other);
+         });
 }
 
 /// What is wrong with a name, by its first fault.

@@ -1,0 +1,56 @@
+#include "league/season.h"
+
+#include <algorithm>
+
+#include "league/season_columns.h"
+
+namespace morlek {
+namespace {
+
+/// Any text from outside, fit to be shown.
+std::string Shown(std::string_view text) {
+  constexpr std::size_t kLongest = 40;
+  constexpr unsigned char kFirstVisible = 0x20;
+  constexpr unsigned char kDelete = 0x7F;
+  const auto is_inside_character = [](char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+  };
+  std::string shown(text.substr(0, kLongest));
+  if (text.size() > kLongest) {
+    // Never a part of a character.
+    if (is_inside_character(text[kLongest])) {
+      while (!shown.empty() && is_inside_character(shown.back())) shown.pop_back();
+      if (!shown.empty()) shown.pop_back();
+    }
+    shown += "...";
+  }
+  std::ranges::replace_if(
+      shown,
+      [](char byte) {
+        const auto code = static_cast<unsigned char>(byte);
+        return code < kFirstVisible || code == kDelete;
+      },
+      '?');
+  return shown;
+}
+
+std::string KnownOr(std::string_view text) { return text.empty() ? "?" : Shown(text); }
+
+}  // namespace
+
+std::string PlayerOf(const Team& team, int row, std::string_view name) {
+  std::string player = std::string(team.key) + " " + std::to_string(row + 1);
+  if (!name.empty()) player += " " + Shown(name);
+  return player;
+}
+
+std::string ChangeText(const SeasonChange& change) {
+  const bool is_name = change.cell.column == Column::kName;
+  return PlayerOf(*change.team, change.cell.row, change.name) + ": " +
+         std::string(is_name ? "name" : HeadOf(change.cell.column)) + " " + KnownOr(change.before) +
+         " -> " + KnownOr(change.after);
+}
+
+std::string Quoted(std::string_view text) { return "\"" + Shown(text) + "\""; }
+
+}  // namespace morlek
