@@ -119,6 +119,8 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Morlek Editor developers <developers@morlek.example>")
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://morlek.example/editor)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The first line of each package's own description takes its place.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 
 set(CPACK_DEBIAN_EDITOR_PACKAGE_NAME morlek-editor)
 # The desktop's own file dialogs, and a window on Wayland without XWayland.
