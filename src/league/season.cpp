@@ -40,17 +40,20 @@ std::string KnownOr(std::string_view text) { return text.empty() ? "?" : Shown(t
 
 std::string PlayerOf(const Team& team, int row, std::string_view name) {
   std::string player = std::string(team.key) + " " + std::to_string(row + 1);
-  if (!name.empty()) player += " " + Shown(name);
+  if (!name.empty()) player.append(" ").append(Shown(name));
   return player;
 }
 
 std::string ChangeText(const SeasonChange& change) {
   const bool is_name = change.cell.column == Column::kName;
-  return PlayerOf(*change.team, change.cell.row, change.name) + ": " +
-         std::string(is_name ? "name" : HeadOf(change.cell.column)) + " " + KnownOr(change.before) +
-         " -> " + KnownOr(change.after);
+  std::string text = PlayerOf(*change.team, change.cell.row, change.name);
+  text.append(": ").append(is_name ? "name" : HeadOf(change.cell.column));
+  return text.append(" ")
+      .append(KnownOr(change.before))
+      .append(" -> ")
+      .append(KnownOr(change.after));
 }
 
-std::string Quoted(std::string_view text) { return "\"" + Shown(text) + "\""; }
+std::string Quoted(std::string_view text) { return std::string(1, '"').append(Shown(text)) += '"'; }
 
 }  // namespace morlek
