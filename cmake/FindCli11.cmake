@@ -1,6 +1,7 @@
 # Finds the headers of CLI11, which are all that it consists of, and names in MORLEK_CLI11_FOLDER a
 # folder that holds nothing else: a build for another system must not see the headers beside them.
-find_path(MORLEK_CLI11_HEADERS CLI/CLI.hpp NO_CMAKE_FIND_ROOT_PATH)
+find_path(MORLEK_CLI11_HEADERS CLI/CLI.hpp PATHS /usr/local/include /usr/include
+                                           NO_CMAKE_FIND_ROOT_PATH)
 if(NOT MORLEK_CLI11_HEADERS)
   message(
     FATAL_ERROR

@@ -13,8 +13,8 @@ class LeagueAnomalyTest : public LeagueTest {
  protected:
   template <typename Check>
   void FailEachAccess(const std::vector<std::string>& arguments, int reads, Check check) {
-    constexpr int kStride = 2999;
-    constexpr int kEdge = 30;
+    constexpr int kStride = 4999;
+    constexpr int kEdge = 35;
     const auto files = disk.files;
     disk.failing_access = kMany;
     Run(arguments);
