@@ -12,6 +12,10 @@ namespace morlek {
 inline constexpr std::int64_t kIdentityPosition = 988297;
 inline constexpr std::uint8_t kIdentityByte = 0x3C;
 
+/// The 1-based position of a byte of the record that begins at `base`: slot 0 to 24, offset 0
+/// to 31.
+[[nodiscard]] std::int64_t FieldPosition(std::int64_t base, int slot, int offset);
+
 /// A team's record in an image: the image's path and the 1-based position of the record's first
 /// byte, which is nothing before a team has been picked.
 struct RecordLocation {
@@ -32,6 +36,13 @@ class CartridgeImage {
 
   /// Opens the image at `path` for one operation; false when that fails.
   [[nodiscard]] bool Open(const std::filesystem::path& path);
+
+  /// Opens it for an operation that only reads; so it may be one that may not be written.
+  [[nodiscard]] bool OpenForReading(const std::filesystem::path& path);
+
+  /// The identity byte of the open image; 0 when it ends before it. Throws OperationFailed when the
+  /// read fails.
+  [[nodiscard]] std::uint8_t ReadIdentityByte();
 
   /// Closes channel 1, whatever is open on it. False when something written may be lost.
   bool Close();

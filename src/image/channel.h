@@ -29,7 +29,8 @@ using FileOpener = std::function<std::unique_ptr<File>(const std::filesystem::pa
                                                        std::ios_base::openmode mode)>;
 
 /// The opener of the real program. It reads regular files only and never writes to a folder, a pipe
-/// or a socket, which might keep the program waiting. Nothing is buffered but text that is read.
+/// or a socket, which might keep the program waiting. Nothing is buffered but text that is read:
+/// what is only read is taken for text unless `mode` says binary.
 [[nodiscard]] std::unique_ptr<File> OpenFile(const std::filesystem::path& path,
                                              std::ios_base::openmode mode);
 
@@ -44,6 +45,10 @@ class Channel {
   /// Opens an existing file for reading and writing single bytes. Never creates a file.
   /// False when the channel is open already or the file cannot be opened for both.
   [[nodiscard]] bool OpenBinary(const std::filesystem::path& path);
+
+  /// Opens an existing file for reading single bytes alone; false as above. It may be one that may
+  /// not be written.
+  [[nodiscard]] bool OpenBinaryForReading(const std::filesystem::path& path);
 
   /// Opens an existing file for reading text; false as above.
   [[nodiscard]] bool OpenTextInput(const std::filesystem::path& path);

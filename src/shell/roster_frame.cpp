@@ -116,7 +116,8 @@ void RosterFrame::AddHeaders(const BlockLayout& layout) {
     auto* label = new QLabel(FromCodePage(column.caption), this);
     label->setObjectName(QString("Label4(%1)").arg(layout.first_header + static_cast<int>(place)));
     label->setAccessibleName(FromCodePage(column.meaning));
-    const std::string accepted = AcceptedTexts(column.column);
+    std::string accepted = AcceptedTexts(column.column);
+    if (IsFeature(column.column)) accepted += "; click a box to pick from pictures";
     label->setToolTip(FromCodePage(std::string(column.meaning) + ", " + accepted));
     label->setAccessibleDescription(FromCodePage(accepted));
     label->setGeometry(HeaderRectOf(layout, place));

@@ -64,8 +64,7 @@ std::string AcceptedTexts(Column column) {
     case kFace:
     case kBody:
     case kLegs:
-      return FromTo(ByteToText(0x00), ByteToText(0xFF)) +
-             " in hexadecimal; click a box to pick from pictures";
+      return FromTo(ByteToText(0x00), ByteToText(0xFF)) + " in hexadecimal";
   }
   return {};
 }

@@ -1,5 +1,6 @@
 #include "team/column_bytes.h"
 
+#include <algorithm>
 #include <array>
 
 namespace morlek {
@@ -56,6 +57,24 @@ std::span<const int> BytesOf(Column column) {
       return kBytesAt<offset::kLegs>;
   }
   return {};
+}
+
+std::span<const int> WrittenBytesOf(Cell cell) {
+  using namespace offset;
+  if (cell.column == Column::kThrowingHand) {
+    return kBytesAt<kPitcherSFlag, offset::kThrowingHand, kPitcherMarks>;
+  }
+  if (cell.column == Column::kFace && kPitchers.Contains(cell.row)) {
+    return kBytesAt<offset::kFace, offset::kThrowingHand>;
+  }
+  return BytesOf(cell.column);
+}
+
+bool ShareAByte(Cell one, Cell other) {
+  return one.row == other.row &&
+         std::ranges::any_of(WrittenBytesOf(one), [others = WrittenBytesOf(other)](int offset) {
+           return std::ranges::find(others, offset) != others.end();
+         });
 }
 
 }  // namespace morlek

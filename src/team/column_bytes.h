@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "team/blocks.h"
+#include "team/cell.h"
 
 namespace morlek {
 
@@ -12,5 +12,13 @@ namespace morlek {
 
 /// The first of them.
 [[nodiscard]] inline int OffsetOf(Column column) { return BytesOf(column).front(); }
+
+/// The offsets of the bytes that a save writes for a cell: those that its column shows; for a
+/// pitcher's hand the S flag as well, which nothing shows; and for a pitcher's face the byte of his
+/// hand, half of which repeats it. Lives for ever.
+[[nodiscard]] std::span<const int> WrittenBytesOf(Cell cell);
+
+/// Whether a save writes one byte for both columns of a row.
+[[nodiscard]] bool ShareAByte(Cell one, Cell other);
 
 }  // namespace morlek

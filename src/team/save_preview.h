@@ -14,8 +14,8 @@ namespace morlek {
 class SavePreview {
  public:
   /// `state` is what loads and saves keep now, `known` the bytes that the image is known to hold.
-  /// When such a load would fail, as it does where `known` lacks a byte, nothing can be said: every
-  /// cell then comes out as it stands in the grid.
+  /// When such a load would lack a byte of `known`, nothing can be said: every cell then comes out
+  /// as it stands in the grid. A rating that is none comes out empty.
   SavePreview(const RosterGrid& grid, CodecState state, const RecordBytes& known);
 
   enum class Fate {
@@ -31,6 +31,9 @@ class SavePreview {
 
   /// The whole grid as such a load would show it.
   [[nodiscard]] const RosterGrid& after() const { return after_; }
+
+  /// The bytes that SAVE would write.
+  [[nodiscard]] const RecordBytes& written() const { return written_; }
 
   /// The row of the name that ends SAVE, or nothing when none does.
   [[nodiscard]] std::optional<int> end_row() const { return end_row_; }
