@@ -51,7 +51,7 @@ inline constexpr std::array<SeasonColumn, 20> kSeasonColumns = {{
 
 // Every column of both blocks has a place.
 static_assert([] {
-  for (const Block* block : {&kBatters, &kPitchers}) {
+  for (const auto* block : {&kBatters, &kPitchers}) {
     for (const BlockColumn& each : block->columns) {
       bool is_there = false;
       for (const SeasonColumn& column : kSeasonColumns) {

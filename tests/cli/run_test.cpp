@@ -98,12 +98,11 @@ TEST_F(LeagueTest, RealFilesOfAnyNameAreReadAndWritten) {
   std::vector<std::uint8_t> expected = file();
   expected.at(kBraves - 1 + 10) = 99;
   EXPECT_TRUE(GetFile(image_path) == std::string(expected.begin(), expected.end()));
-  std::filesystem::permissions(folder / "import", std::filesystem::perms::owner_all);
+  const auto open_to_all = std::filesystem::perms{0666};
+  std::filesystem::permissions(folder / "import", open_to_all);
   EXPECT_EQ(Run({"export", image_name, season, "--force"}), 0);
   EXPECT_NE(GetFile(folder / "import"), table);
-  EXPECT_EQ(
-      std::filesystem::status(folder / "import").permissions() & std::filesystem::perms::owner_all,
-      std::filesystem::perms::owner_all);
+  EXPECT_EQ(std::filesystem::status(folder / "import").permissions(), open_to_all);
 }
 
 }  // namespace

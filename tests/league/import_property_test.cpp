@@ -75,7 +75,7 @@ TEST_F(ImportPropertyTest, AnExportThatIsImportedChangesNoByte) {
 
 TEST_F(ImportPropertyTest, ACellBecomesWhatSaveMakesOfItAndNothingElseChanges) {
   int imported = 0;
-  const int rounds = 100;
+  const int rounds = 60;
   for (int round = 0; round < rounds; ++round) {
     if (round % 10 == 0) Scramble(false);
     const std::vector<std::uint8_t> before = file();
