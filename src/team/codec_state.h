@@ -4,8 +4,7 @@
 #include <optional>
 
 #include "codecs/appearance_codec.h"
-#include "codecs/batting_average_codec.h"
-#include "codecs/earned_run_average_codec.h"
+#include "codecs/average_codec.h"
 #include "codecs/fielding_position_codec.h"
 #include "codecs/hand_codec.h"
 #include "codecs/name_letter_codec.h"

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "codecs/average_word.h"
+#include "codecs/average_codec.h"
 #include "codecs/hex_text.h"
 #include "codecs/rating_digit_codec.h"
 #include "image/failure.h"
@@ -34,17 +34,19 @@ class RecordDecoder {
   void LoadAll();
 
  private:
-  void LoadNames();
-  void LoadFieldingPositions();
   void LoadHands();
   void LoadPitcherMarks();
   void LoadRatingPairs(const Block& block, Column first, Column second);
   void LoadFatigueRatings();
-  void LoadAppearance(Column column);
-  void LoadBattingAverages();
-  void LoadEarnedRunAverages();
   void LoadNumbers(Column column);
 
+  /// One pass: shows what `decode` makes of the cell of every row.
+  template <typename Decode>
+  void ShowAll(Column column, Decode decode) {
+    for (int row = 0; row < kSlotCount; ++row) Show({column, row}, decode(Cell{column, row}));
+  }
+
+  /// Shows a text, if the grid has the cell.
   void Show(Cell cell, std::string_view text);
   void ShowRating(Cell cell, std::string_view digits);
   [[nodiscard]] std::uint8_t Read(int row, int offset);
@@ -61,8 +63,16 @@ class RecordDecoder {
 };
 
 void RecordDecoder::LoadAll() {
-  LoadNames();
-  LoadFieldingPositions();
+  ShowAll(kName, [this](Cell cell) {
+    std::string letters;
+    for (const int offset : BytesOf(kName)) {
+      letters += state_.name_letter.DecodeNameLetter(Read(cell.row, offset)).text;
+    }
+    return WithPoint(letters);
+  });
+  ShowAll(kPosition, [this](Cell cell) {
+    return state_.fielding_position.DecodeFieldingPosition(Read(cell)).text;
+  });
   LoadNumbers(kUniformNumber);
   LoadHands();
   LoadPitcherMarks();
@@ -70,28 +80,17 @@ void RecordDecoder::LoadAll() {
   LoadRatingPairs(kPitchers, kPitchSpeed, kControl);
   LoadRatingPairs(kBatters, kSpeed, kFielding);
   LoadFatigueRatings();
-  for (const Column column : kFeatures) LoadAppearance(column);
-  LoadBattingAverages();
-  LoadEarnedRunAverages();
+  for (const Column column : kFeatures) {
+    ShowAll(column, [this](Cell cell) { return ByteToText(Read(cell)); });
+  }
+  ShowAll(kBattingAverage, [this](Cell cell) {
+    return state_.batting_average.DecodeBattingAverage(ReadPairKey(cell)).text;
+  });
+  ShowAll(kEarnedRunAverage, [this](Cell cell) {
+    return WithPoint(state_.earned_run_average.DecodeEarnedRunAverage(ReadPairKey(cell)).text);
+  });
   for (const Column column : {kHomeRuns, kRunsBattedIn, kWins, kLosses, kSaves}) {
     LoadNumbers(column);
-  }
-}
-
-void RecordDecoder::LoadNames() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    std::string letters;
-    for (const int offset : BytesOf(kName)) {
-      letters += state_.name_letter.DecodeNameLetter(Read(row, offset)).text;
-    }
-    Show({kName, row}, WithPoint(letters));
-  }
-}
-
-void RecordDecoder::LoadFieldingPositions() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const Cell cell{kPosition, row};
-    Show(cell, state_.fielding_position.DecodeFieldingPosition(Read(cell)).text);
   }
 }
 
@@ -130,31 +129,12 @@ void RecordDecoder::LoadFatigueRatings() {
   }
 }
 
-void RecordDecoder::LoadAppearance(Column column) {
-  for (int row = 0; row < kSlotCount; ++row) Show({column, row}, ByteToText(Read({column, row})));
-}
-
-void RecordDecoder::LoadBattingAverages() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const Cell cell{kBattingAverage, row};
-    Show(cell, state_.batting_average.DecodeBattingAverage(ReadPairKey(cell)).text);
-  }
-}
-
-void RecordDecoder::LoadEarnedRunAverages() {
-  for (int row = 0; row < kSlotCount; ++row) {
-    const Cell cell{kEarnedRunAverage, row};
-    const std::string key = ReadPairKey(cell);
-    Show(cell, WithPoint(state_.earned_run_average.DecodeEarnedRunAverage(key).text));
-  }
-}
-
 void RecordDecoder::LoadNumbers(Column column) {
-  for (int row = 0; row < kSlotCount; ++row) {
+  ShowAll(column, [this](Cell cell) {
     SmallNumberCodec& codec = state_.small_number;
-    codec.number_bytes.at(static_cast<std::size_t>(row)) = Read({column, row});
-    Show({column, row}, codec.DecodeSmallNumber(row).text);
-  }
+    codec.number_bytes.at(static_cast<std::size_t>(cell.row)) = Read(cell);
+    return codec.DecodeSmallNumber(cell.row).text;
+  });
 }
 
 void RecordDecoder::Show(Cell cell, std::string_view text) {
