@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QValidator>
 #include <string>
 #include <string_view>
 
@@ -13,5 +14,15 @@ namespace morlek {
 
 /// One byte a character; a character that the code page lacks becomes "?".
 [[nodiscard]] std::string ToCodePage(const QString& text);
+
+/// Characters of a line edit that the code page lacks become "?" at once, in the same change as
+/// what brought them. One validator serves any number of line edits.
+class CodePageValidator : public QValidator {
+  Q_OBJECT
+
+ public:
+  /// Every text is valid once it is corrected; the cursor stays behind the same character.
+  State validate(QString& text, int& cursor) const override;
+};
 
 }  // namespace morlek

@@ -1,20 +1,20 @@
 #include "shell/main_window.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
 #include <algorithm>
 
+#include "shell/code_page_text.h"
 #include "shell/content_area.h"
 #include "shell/help_pane.h"
 #include "shell/hint_label.h"
-#include "shell/identity_label.h"
-#include "shell/menu_bar.h"
-#include "shell/questions.h"
 #include "shell/roster_frame.h"
 #include "shell/stance_panel.h"
 #include "shell/status_line.h"
@@ -23,6 +23,7 @@
 #include "ui/dropped_file.h"
 #include "ui/toolkit_workarounds.h"
 #include "ui/twips.h"
+#include "version.h"
 
 namespace morlek {
 namespace {
@@ -31,6 +32,25 @@ constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
 constexpr int kHintBottom = 560;  // above the middle, in logical pixels
 constexpr int kRowMargin = 24;    // what stays in view around a box, likewise
+
+constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
+
+/// The path of an image, or nothing when the dialog was cancelled.
+std::optional<QString> AskForImage(User& user) {
+  return user.AskOpenPath({"Open Dale Harrow Jr. Baseball Rom", "SNES File (*.smc)|*.smc"});
+}
+
+bool AskToQuit(User& user) {
+  return user.AskYesNo("Are you sure you want to quit MORLEK EDITOR?\n\nIf not then click NO.",
+                       kProgramTitle);
+}
+
+void ShowAbout(User& user) {
+  const QString text =
+      "MORLEK EDITOR for SNES Dale Harrow Baseball.\n"
+      "Version %1, free software under the MIT licence; uses Qt under the LGPL version 3.";
+  user.ShowMessage(text.arg(kVersion), kProgramTitle, Message::Icon::kNone);
+}
 
 std::filesystem::path ToPath(const QString& path) { return QFileInfo(path).filesystemFilePath(); }
 
@@ -65,7 +85,7 @@ void MainWindow::BuildContent() {
   content_ = area_->widget();
   content_->installEventFilter(this);
 
-  identity_ = new IdentityLabel(content_);
+  AddIdentity();
 
   hint_ = new HintLabel({0, 0, FromTwips(kNarrowWidth), kHintBottom}, content_);
   connect(hint_, &HintLabel::OpenRequested, this, [this] { Run(Command::kOpen); });
@@ -82,6 +102,16 @@ void MainWindow::BuildContent() {
           [this](int places) { editor_.LoadTeamBeside(places); });
 
   identity_->raise();
+}
+
+void MainWindow::AddIdentity() {
+  identity_ = new QLabel(content_);
+  identity_->setObjectName("Label3");
+  identity_->setAccessibleName("identity byte");
+  identity_->setToolTip("identity byte of the last file opened");
+  identity_->setGeometry(FromTwips(6060), 635, FromTwips(555), 16);
+  identity_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  identity_->setForegroundRole(QPalette::PlaceholderText);
 }
 
 void MainWindow::AddRoster() {
@@ -110,7 +140,8 @@ void MainWindow::AddRoster() {
 }
 
 void MainWindow::Show(const EditorState& state, const StateChange& change) {
-  identity_->ShowByte(state.identity);
+  identity_->setText(FromCodePage(state.identity));
+  identity_->setAccessibleDescription(identity_->text());
   toolbar_->Show(state);
   hint_->Show(state);
   if (change.layout_set) SetLayout(state.layout);
@@ -153,7 +184,7 @@ void MainWindow::Run(Command command) {
       if (AskToQuit(user_)) close();
       break;
     case Command::kAbout:
-      TellAboutProgram(user_);
+      ShowAbout(user_);
       break;
     case Command::kImport:
       ImportTeam();
@@ -193,7 +224,8 @@ void MainWindow::OpenAnotherImage() {
 }
 
 void MainWindow::ImportTeam() {
-  if (const auto path = AskForTeamToImport(user_)) {
+  if (const auto path =
+          user_.AskOpenPath({"Open Dale Harrow Jr. Baseball Team Data", kTeamDataFilter})) {
     editor_.ImportTeam(ToPath(*path));
   } else {
     editor_.CancelDialog();
@@ -201,8 +233,11 @@ void MainWindow::ImportTeam() {
 }
 
 void MainWindow::ExportTeam() {
-  if (const auto path = AskWhereToExport(user_)) {
-    if (editor_.ExportTeam(ToPath(*path)) == ExportResult::kWritten) TellOfExport(user_, *path);
+  if (const auto path =
+          user_.AskSavePath({"Save Dale Harrow Jr. Baseball Team Data", kTeamDataFilter})) {
+    if (editor_.ExportTeam(ToPath(*path)) != ExportResult::kWritten) return;
+    user_.ShowMessage("Your team data has been saved to " + QDir::toNativeSeparators(*path),
+                      kProgramTitle, Message::Icon::kNone);
   } else {
     editor_.CancelDialog();
   }

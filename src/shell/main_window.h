@@ -4,16 +4,16 @@
 #include <memory>
 
 #include "editor/editor.h"
-#include "shell/menu_table.h"
+#include "shell/menu_bar.h"
 #include "shell/user.h"
+
+class QLabel;
 
 namespace morlek {
 
 class ContentArea;
 class HelpPane;
 class HintLabel;
-class IdentityLabel;
-class MenuBar;
 class RosterFrame;
 class StancePanel;
 class StatusLine;
@@ -39,6 +39,7 @@ class MainWindow : public QMainWindow {
 
  private:
   void BuildContent();
+  void AddIdentity();
 
   /// Adds the grid and the choosers. Their 500 controls take as long as the rest of the window,
   /// which need not wait for them.
@@ -75,7 +76,7 @@ class MainWindow : public QMainWindow {
   // There from the answer to the first question on, which is asked over the painted window.
   RosterFrame* roster_ = nullptr;
   StancePanel* stances_ = nullptr;
-  IdentityLabel* identity_ = nullptr;
+  QLabel* identity_ = nullptr;
   HintLabel* hint_ = nullptr;
   StatusLine* status_ = nullptr;
   Editor::Subscription subscription_;

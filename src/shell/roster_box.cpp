@@ -10,7 +10,7 @@
 #include "shell/code_page_text.h"
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"
-#include "shell/menu_table.h"
+#include "shell/menu_bar.h"
 #include "ui/dropped_file.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"

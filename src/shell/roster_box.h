@@ -5,7 +5,7 @@
 
 #include "editor/grid_marks.h"
 #include "ui/line_break_filter.h"
-#include "ui/own_panel.h"
+#include "ui/style.h"
 #include "ui/value_edit.h"
 
 namespace morlek {

@@ -7,7 +7,6 @@
 #include <QToolTip>
 #include <utility>
 
-#include "shell/code_page_text.h"
 #include "shell/focus_ring.h"
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "editor/editor.h"
-#include "shell/code_page_validator.h"
+#include "shell/code_page_text.h"
 
 class QAction;
 class QLabel;

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "editor/message_port.h"
+#include "shell/code_page_text.h"
 
 namespace morlek {
 
@@ -33,7 +34,9 @@ class User : public MessagePort {
   virtual void ShowMessage(const QString& text, const QString& title, Message::Icon icon) = 0;
 
   /// The same for a message of the core, whose texts are in the code page.
-  void Show(const Message& message) final;
+  void Show(const Message& message) final {
+    ShowMessage(FromCodePage(message.text), FromCodePage(message.title), message.icon);
+  }
 };
 
 }  // namespace morlek

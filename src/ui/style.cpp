@@ -9,7 +9,6 @@
 
 #include "ui/dialog_icons.h"
 #include "ui/filled_button.h"
-#include "ui/own_panel.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
 

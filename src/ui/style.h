@@ -3,7 +3,24 @@
 #include <QPalette>
 #include <QProxyStyle>
 
+class QPainter;
+
 namespace morlek {
+
+/// A line edit that paints its own panel where the style would paint one, so that the style need
+/// not know the widgets that use it.
+class OwnPanel {
+ public:
+  OwnPanel(const OwnPanel&) = delete;
+  OwnPanel& operator=(const OwnPanel&) = delete;
+  virtual ~OwnPanel() = default;
+
+  /// Paints frame and background of the widget, as they are now.
+  virtual void PaintPanel(QPainter& painter) const = 0;
+
+ protected:
+  OwnPanel() = default;
+};
 
 /// Fusion in the program's own shades, with flat buttons, one sheet of grid boxes, plain scroll
 /// bars and menu bar, and icons in one style.
