@@ -26,9 +26,7 @@ void PaintGlasses(QPainter& painter, bool is_round) {
     square.addRoundedRect(QRectF(center - QPointF(6.4, 4.8), QSizeF(12.4, 9.4)), 2, 2);
     PaintFrame(painter, is_round ? Ellipse(center, 6, 6) : square, thickness);
   }
-  QPainterPath bridge(QPointF(4.6, 0.4));
-  bridge.quadTo({6.4, -1.2}, {8.2, 0.4});
-  PaintLine(painter, bridge, kInk, thickness);
+  PaintLine(painter, Bow({4.6, 0.4}, {6.4, -1.2}, {8.2, 0.4}), kInk, thickness);
   PaintTemple(painter, thickness);
 }
 

@@ -53,6 +53,12 @@ QPainterPath Segment(QPointF from, QPointF to) {
   return path;
 }
 
+QPainterPath Bow(QPointF from, QPointF towards, QPointF to) {
+  QPainterPath path(from);
+  path.quadTo(towards, to);
+  return path;
+}
+
 QPainterPath Polygon(std::span<const QPointF> points) {
   QPainterPath path(points[0]);
   for (const QPointF& point : points.subspan(1)) path.lineTo(point);

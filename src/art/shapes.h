@@ -25,6 +25,9 @@ struct Disc {
 
 [[nodiscard]] QPainterPath Segment(QPointF from, QPointF to);
 
+/// A curve between two points that is drawn towards a third.
+[[nodiscard]] QPainterPath Bow(QPointF from, QPointF towards, QPointF to);
+
 /// A closed shape of straight edges.
 [[nodiscard]] QPainterPath Polygon(std::span<const QPointF> points);
 

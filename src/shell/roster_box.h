@@ -4,7 +4,6 @@
 #include <string>
 
 #include "editor/grid_marks.h"
-#include "ui/line_break_filter.h"
 #include "ui/style.h"
 #include "ui/value_edit.h"
 
@@ -57,7 +56,6 @@ class RosterBox : public ValueEdit, public OwnPanel {
   [[nodiscard]] QColor Ground() const;
   void PaintFrame(QPainter& painter, const QColor& ground) const;
 
-  LineBreakFilter line_breaks_{*this};  // one would break an exported line in two
   Cell cell_;
   CellMark mark_;
   Tint tint_ = Tint::kNone;

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QMouseEvent>
+#include <algorithm>
 #include <utility>
 
 namespace morlek {
@@ -14,9 +15,28 @@ bool IsShortAbsence(Qt::FocusReason reason) {
          reason == Qt::MenuBarFocusReason;
 }
 
+QString WithoutLineBreaks(QString text) { return text.remove('\r').remove('\n'); }
+
+/// How many characters at the beginning are the same.
+qsizetype SharedLength(QStringView one, QStringView other) {
+  const auto [end, other_end] = std::ranges::mismatch(one, other);
+  return end - one.begin();
+}
+
+qsizetype SharedLengthAtEnd(QStringView one, QStringView other) {
+  const auto [end, other_end] =
+      std::mismatch(one.rbegin(), one.rend(), other.rbegin(), other.rend());
+  return end - one.rbegin();
+}
+
 }  // namespace
 
-ValueEdit::ValueEdit(QWidget* parent) : QLineEdit(parent) {}
+ValueEdit::ValueEdit(QWidget* parent) : QLineEdit(parent) {
+  connect(this, &QLineEdit::textEdited, this, &ValueEdit::FilterLineBreaks);
+  connect(this, &QLineEdit::textChanged, this, &ValueEdit::NoteText);
+  connect(this, &QLineEdit::selectionChanged, this, &ValueEdit::NoteStart);
+  connect(this, &QLineEdit::cursorPositionChanged, this, &ValueEdit::NoteStart);
+}
 
 void ValueEdit::ShowText(const QString& text) {
   setText(text);
@@ -37,6 +57,35 @@ void ValueEdit::TakeBack() {
 void ValueEdit::SelectForTyping() {
   if (left_selection_) left_selection_ = {0, static_cast<int>(text().size())};
   if (hasFocus()) selectAll();
+}
+
+void ValueEdit::NoteText() {
+  text_before_ = text();
+  NoteStart();
+}
+
+void ValueEdit::NoteStart() {
+  // An input method moves the cursor before the change that it makes is reported.
+  if (text() != text_before_) return;
+  start_ = hasSelectedText() ? selectionStart() : cursorPosition();
+}
+
+void ValueEdit::FilterLineBreaks() {
+  const QString edited = text();
+  const qsizetype cursor = cursorPosition();
+  // What came in ends at the cursor, and replaced all in between that was there before.
+  const QStringView now = edited;
+  const QStringView before = text_before_;
+  const qsizetype start = SharedLength(now, before.first(start_));
+  const qsizetype rest =
+      SharedLengthAtEnd(now.sliced(std::max(start, cursor)), before.sliced(start));
+  const QString came_in = edited.sliced(start, edited.size() - rest - start);
+  const QString filtered = WithoutLineBreaks(came_in);
+  if (filtered == came_in) return;
+
+  const QString up_to_cursor = came_in.first(std::max<qsizetype>(cursor - start, 0));
+  setText(edited.first(start) + filtered + edited.last(rest));
+  setCursorPosition(static_cast<int>(start + WithoutLineBreaks(up_to_cursor).size()));
 }
 
 void ValueEdit::focusInEvent(QFocusEvent* event) {

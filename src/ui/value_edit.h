@@ -7,7 +7,8 @@ namespace morlek {
 
 /// A line edit that holds one value and is visited: receiving the focus begins a visit and selects
 /// the whole text, so that typing replaces it. A short absence, to a menu or another window, ends
-/// no visit and keeps the selection.
+/// no visit and keeps the selection. What is typed, pasted or dropped loses its line breaks; those
+/// that the program itself has put there stay when the text around them is edited.
 class ValueEdit : public QLineEdit {
   Q_OBJECT
 
@@ -58,6 +59,13 @@ class ValueEdit : public QLineEdit {
     int length = 0;
   };
 
+  void FilterLineBreaks();
+  void NoteText();
+  void NoteStart();
+
+  // As the text is between two changes, and where something that comes in would begin.
+  QString text_before_;
+  int start_ = 0;
   QString entry_text_;
   bool is_swallowing_press_ = false;
   // While the focus is away in a menu or another window: what to select when it returns.
