@@ -21,7 +21,7 @@
 namespace morlek::bench {
 namespace {
 
-/// Counts the single-byte accesses of an operation at the seam through which all of them go.
+/// Records the position of every single-byte access of an operation.
 class CountingFile : public File, private std::streambuf {
  public:
   explicit CountingFile(std::vector<std::int64_t>& positions) : positions_(positions) {}
@@ -102,7 +102,7 @@ void BareReads(benchmark::State& state) {
 void BareWrites(benchmark::State& state) {
   const std::vector<std::int64_t> offsets = OffsetsOf(true);
   // The very file that is saved into: how long a write takes depends on how the system holds a file
-  // in memory. What stands there is written again.
+  // in memory. It writes what the file holds already.
   const std::string image = Folder().ImageOf(kGameBytes).string();
   std::vector<std::uint8_t> bytes(offsets.size());
   const int read_file = open(image.c_str(), O_RDONLY | O_CLOEXEC);
