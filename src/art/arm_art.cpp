@@ -55,14 +55,8 @@ void PaintExtras(QPainter& painter, const Arm& arm, Extras extras, const Kit& ki
 }  // namespace
 
 Tone UndershirtOf(Sleeves sleeves, const Kit& kit) {
-  switch (sleeves) {
-    case Sleeves::kLongNavy:
-      return kit.dark;
-    case Sleeves::kThreeQuarterRed:
-      return kit.bright;
-    default:
-      return kit.main;
-  }
+  if (sleeves == Sleeves::kLongNavy) return kit.dark;
+  return sleeves == Sleeves::kThreeQuarterRed ? kit.bright : kit.main;
 }
 
 void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Tone& skin,

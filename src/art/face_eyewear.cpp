@@ -59,25 +59,11 @@ void PaintEyeBlack(QPainter& painter) {
 }  // namespace
 
 void PaintEyewear(QPainter& painter, Eyewear eyewear) {
-  switch (eyewear) {
-    case Eyewear::kNone:
-      break;
-    case Eyewear::kRoundGlasses:
-      PaintGlasses(painter, true);
-      break;
-    case Eyewear::kSquareGlasses:
-      PaintGlasses(painter, false);
-      break;
-    case Eyewear::kShades:
-      PaintShades(painter);
-      break;
-    case Eyewear::kGoggles:
-      PaintGoggles(painter);
-      break;
-    case Eyewear::kEyeBlack:
-      PaintEyeBlack(painter);
-      break;
-  }
+  const bool is_round = eyewear == Eyewear::kRoundGlasses;
+  if (is_round || eyewear == Eyewear::kSquareGlasses) PaintGlasses(painter, is_round);
+  if (eyewear == Eyewear::kShades) PaintShades(painter);
+  if (eyewear == Eyewear::kGoggles) PaintGoggles(painter);
+  if (eyewear == Eyewear::kEyeBlack) PaintEyeBlack(painter);
 }
 
 }  // namespace morlek::art

@@ -7,7 +7,7 @@
 
 class QPainter;
 
-/// What a head is put together from. All of it is in the units of the head frame.
+/// The parts of a head, in the units of the head frame.
 namespace morlek::art {
 
 void PaintEyes(QPainter& painter, Eyes eyes);

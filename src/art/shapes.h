@@ -9,7 +9,7 @@
 
 class QPainter;
 
-/// Shapes and strokes that all pictures share: lengths are in the units of the picture.
+/// Shapes and strokes for all pictures. Lengths are in the units of the picture.
 namespace morlek::art {
 
 struct Disc {
@@ -35,8 +35,8 @@ struct Disc {
 
 [[nodiscard]] QRectF SquareAround(const Disc& disc);
 
-/// Two discs and all that lies between. All capsules are wound the same way and fill by winding, so
-/// that adding one to another joins them into one shape.
+/// Two discs and everything between them. All capsules are wound the same way and fill by winding,
+/// so that adding one to another joins them into one shape.
 [[nodiscard]] QPainterPath Capsule(const Disc& from, const Disc& to);
 
 /// The point at a share, 0 to 1, of the way.

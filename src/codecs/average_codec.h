@@ -12,8 +12,8 @@ namespace morlek {
 /// high byte, which is the marker up to 255 and one more from 256 on.
 inline constexpr int kLargestAverage = 511;
 
-/// The text by which both decoders know a pair of bytes: the byte text of the low byte, then that
-/// of the high byte. Without leading zeros some pairs share a key; the format has it so.
+/// The key by which both decoders look up a pair of bytes: the byte text of the low byte, then that
+/// of the high byte. As it has no leading zeros, some pairs share a key.
 [[nodiscard]] std::string PairKey(std::uint8_t low, std::uint8_t high);
 
 /// The number, 0 to 511, in three decimal digits.
@@ -30,7 +30,7 @@ class BattingAverageCodec {
   /// exceed .511." never reaches the screen.
   CodecAnswer EncodeBattingAverage(std::string_view text);
 
-  /// The high byte that goes with a shown text, found by comparing texts and not numbers.
+  /// The high byte for a shown text, found by comparing texts instead of numbers.
   [[nodiscard]] static std::uint8_t HighByte(std::string_view text);
 
  private:
@@ -48,7 +48,7 @@ class EarnedRunAverageCodec {
   /// from "2.56" on it has two digits.
   CodecAnswer EncodeEarnedRunAverage(std::string_view text);
 
-  /// The high byte that goes with a shown text, found by comparing texts and not numbers.
+  /// The high byte for a shown text, found by comparing texts instead of numbers.
   [[nodiscard]] static std::uint8_t HighByte(std::string_view text);
 
  private:

@@ -8,7 +8,7 @@
 namespace morlek {
 namespace {
 
-/// False for the two halves of a character that takes two places, too.
+/// Also false for the two halves of a character outside the basic plane.
 bool IsKnown(QChar character) { return FromUnicode(character.unicode()).has_value(); }
 
 QString Corrected(const QString& text) { return FromCodePage(ToCodePage(text)); }

@@ -9,10 +9,12 @@ namespace morlek {
 
 /// The core's texts are bytes of code page Windows-1252; the window converts at its edge.
 
-/// Every byte is one character; the five that the code page leaves open are control characters.
+/// A text of the core for the window. Every byte is one character; the five that the code page
+/// leaves undefined are control characters.
 [[nodiscard]] QString FromCodePage(std::string_view text);
 
-/// One byte a character; a character that the code page lacks becomes "?".
+/// A text of the window for the core, one byte a character; a character that the code page lacks
+/// becomes "?".
 [[nodiscard]] std::string ToCodePage(const QString& text);
 
 /// Characters of a line edit that the code page lacks become "?" at once, in the same change as
@@ -21,7 +23,7 @@ class CodePageValidator : public QValidator {
   Q_OBJECT
 
  public:
-  /// Every text is valid once it is corrected; the cursor stays behind the same character.
+  /// Corrects the text, which makes it valid; the cursor stays behind the same character.
   State validate(QString& text, int& cursor) const override;
 };
 

@@ -22,7 +22,7 @@ namespace {
 /// break at the end.
 QString HelpText() {
   QFile file(":/help.txt");
-  // It is part of the program. As text, whatever line ends it was built from.
+  // It is part of the program. Opened as text, as its line ends may be those of the build system.
   if (!file.open(QFile::ReadOnly | QFile::Text)) return {};
   return QString::fromUtf8(file.readAll()).chopped(1).replace('\n', "\r\n");
 }
@@ -83,7 +83,7 @@ class HelpTextBox : public QPlainTextEdit {
   // The grid below is covered, so the tab key does not go there.
   bool focusNextPrevChild(bool /*next*/) override { return true; }
 
-  // It is read as a whole, so Home and End go to its ends and not to those of a line.
+  // It is read as a whole, so Home and End go to its ends rather than those of a line.
   void keyPressEvent(QKeyEvent* event) override {
     const int before = textCursor().position();
     const bool is_plain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
@@ -94,7 +94,7 @@ class HelpTextBox : public QPlainTextEdit {
     } else {
       QPlainTextEdit::keyPressEvent(event);
     }
-    // Another key is not to take away what has been scrolled to by the wheel.
+    // Other keys must not scroll away from where the wheel has scrolled to.
     if (goes_to_start || goes_to_end || textCursor().position() != before) cursor_moved_();
   }
 
@@ -139,7 +139,7 @@ void HelpPane::Open() {
 void HelpPane::Close() {
   emit Covered(false);
   if (QWidget* const before = focused_before_; before != nullptr && before->isVisible()) {
-    // Likewise on the way back: the box does not take it for a new visit.
+    // The same on the way back, so that the box does not begin a new visit.
     before->setFocus(Qt::PopupFocusReason);
   } else {
     // The grid may be hidden by now, and a hidden box that has the focus takes keys.

@@ -31,7 +31,7 @@ namespace {
 constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
 constexpr int kHintBottom = 560;  // above the middle, in logical pixels
-constexpr int kRowMargin = 24;    // what stays in view around a box, likewise
+constexpr int kRowMargin = 24;    // what stays in view around a box, in logical pixels
 
 constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
 
@@ -67,13 +67,11 @@ MainWindow::MainWindow(Editor& editor, User& user)
   SetLayout(Layout::kNarrow);
 }
 
-MainWindow::~MainWindow() = default;
-
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Paint) {
     content_->removeEventFilter(this);
-    // Only now, and from the event loop: the window is to stand on the screen, and not just its
-    // frame, while the dialog is made that asks over it.
+    // Only now, and from the event loop: the whole window, and not just its frame, should be
+    // visible while the dialog that covers it is created.
     QTimer::singleShot(0, this, &MainWindow::OpenFirstImage);
   }
   return QMainWindow::eventFilter(watched, event);
@@ -123,7 +121,7 @@ void MainWindow::AddRoster() {
     if (editor_.state().is_grid_shown && IsListening()) editor_.Save();
   });
   connect(roster_, &RosterFrame::CellVisited, this, [this](Cell cell) {
-    // On a screen with less room than the window needs.
+    // On a screen that is too low for the window.
     area_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
     editor_.Visit(cell);
   });
@@ -164,7 +162,7 @@ void MainWindow::FitToScreen() {
   const int room = screen()->availableGeometry().height() - borders - menu_height;
   setFixedSize(area_->FitInto(room) + QSize(0, menu_height));
   if (!isVisible()) return;
-  // What the window has grown by is not to stand beyond the desktop.
+  // The part by which the window has grown must not be beyond the desktop.
   const QRect desktop = screen()->availableVirtualGeometry();
   const int beyond = frameGeometry().right() - desktop.right();
   if (beyond > 0) move(std::max(x() - beyond, desktop.left()), y());
@@ -208,7 +206,7 @@ void MainWindow::Run(Command command) {
 }
 
 void MainWindow::OpenFirstImage() {
-  // Only now is it known how much the system's borders take.
+  // The size of the system's borders is known only now.
   FitToScreen();
   const QString path = AskForImage(user_).value_or(QString());
   AddRoster();
@@ -244,11 +242,10 @@ void MainWindow::ExportTeam() {
 }
 
 void MainWindow::SetAlwaysOnTop(bool on_top) {
-  if (!on_top_) on_top_ = std::make_unique<clsOnTop>();
   if (on_top) {
-    on_top_->MakeTopmost(*windowHandle());
+    clsOnTop::MakeTopmost(*windowHandle());
   } else {
-    on_top_->MakeNotTopmost(*windowHandle());
+    clsOnTop::MakeNotTopmost(*windowHandle());
   }
   menus_->OfferOnTop(!on_top);
 }
@@ -256,7 +253,7 @@ void MainWindow::SetAlwaysOnTop(bool on_top) {
 void MainWindow::OpenHelp() {
   if (help_ == nullptr) {
     help_ = new HelpPane(content_);
-    // What the pane covers is not reached by keys either.
+    // Keys must not reach what the pane covers.
     connect(help_, &HelpPane::Covered, toolbar_, &QWidget::setDisabled);
     connect(help_, &HelpPane::Covered, roster_, &QWidget::setDisabled);
     connect(help_, &HelpPane::LineReached, this,
@@ -279,7 +276,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   if (!path) return;
   event->setDropAction(Qt::CopyAction);
   event->accept();
-  // From the event loop: whoever drops is not to wait for an answer to a message.
+  // From the event loop, so that the other program does not wait until a message is answered.
   QTimer::singleShot(0, this, [this, path] { editor_.TakeFile(ToPath(*path)); });
 }
 

@@ -6,14 +6,14 @@
 
 namespace morlek {
 
-/// What the tip of a cell says of its marks; empty for a cell without any.
+/// The tip that explains the marks of a cell; empty for a cell without marks.
 [[nodiscard]] QString TipOf(const GridMarks& marks, Cell cell);
 
-/// How many changes are not saved and how many cells SAVE will not keep, in words; empty when all
-/// is well.
+/// How many changes are not saved and how many cells SAVE will not keep, in words; empty when both
+/// are zero.
 [[nodiscard]] QString SummaryOf(const GridMarks& marks);
 
-/// A text as a tool tip shows it to the letter: Qt would take some texts for marked-up ones.
+/// A text in the form in which a tool tip shows it literally: Qt would take some texts for markup.
 [[nodiscard]] QString PlainTip(const QString& text);
 
 }  // namespace morlek

@@ -38,9 +38,9 @@ class MenuBar : public QMenuBar {
   std::map<Command, QAction*> items_;
 };
 
-/// True when the event asks a text box whether it wants a menu item's shortcut key for itself; the
-/// event is then refused, and the box has to return false for it. Line and text editors would take
-/// Ctrl+A and Ctrl+E otherwise.
+/// True when the event asks a text box whether it wants a menu item's shortcut key for itself. The
+/// event is then ignored, and the box has to return false for it. Otherwise line and text editors
+/// would take Ctrl+A and Ctrl+E.
 [[nodiscard]] bool LeaveToMenu(QEvent& event);
 
 }  // namespace morlek

@@ -46,7 +46,7 @@ void PaintBadge(QPainter& painter, const QRectF& target, const ClubLook& look) {
   painter.drawText(letters, Qt::AlignCenter, look.letters);
 }
 
-/// A button that is all picture.
+/// A button that shows only its badge.
 class TeamButton : public MarkedButton {
  public:
   TeamButton(const Team& team, QWidget* parent) : MarkedButton(parent) {
@@ -74,7 +74,7 @@ class TeamButton : public MarkedButton {
       painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
     }
     const QRect badge = rect().adjusted(kGap, kGap, -kGap, -kGap);
-    // Many clubs wear colours that a dark window would swallow.
+    // Many clubs have colours that can hardly be seen on a dark window.
     painter.setPen(Qt::NoPen);
     painter.setBrush(shades.badge_rim);
     painter.drawRoundedRect(badge.adjusted(-1, -1, 1, 1), 4, 4);

@@ -34,10 +34,8 @@ class RecordDecoder {
   void LoadAll();
 
  private:
-  void LoadHands();
   void LoadPitcherMarks();
   void LoadRatingPairs(const Block& block, Column first, Column second);
-  void LoadFatigueRatings();
   void LoadNumbers(Column column);
 
   /// One pass: shows what `decode` makes of the cell of every row.
@@ -74,12 +72,19 @@ void RecordDecoder::LoadAll() {
     return state_.fielding_position.DecodeFieldingPosition(Read(cell)).text;
   });
   LoadNumbers(kUniformNumber);
-  LoadHands();
+  for (const Cell cell : kAllCells) {
+    if (cell.column == kBattingSide) {
+      Show(cell, state_.batting_side.DecodeBattingSide(Read(cell)).text);
+    }
+    if (cell.column == kThrowingHand) Show(cell, DecodeThrowingHand(Read(cell)));
+  }
   LoadPitcherMarks();
   LoadRatingPairs(kBatters, kBatting, kPower);
   LoadRatingPairs(kPitchers, kPitchSpeed, kControl);
   LoadRatingPairs(kBatters, kSpeed, kFielding);
-  LoadFatigueRatings();
+  for (int row = kPitchers.first_row; row < kPitchers.end_row; ++row) {
+    ShowRating({kFatigue, row}, RatingDigits({kFatigue, row}));
+  }
   for (const Column column : kFeatures) {
     ShowAll(column, [this](Cell cell) { return ByteToText(Read(cell)); });
   }
@@ -91,17 +96,6 @@ void RecordDecoder::LoadAll() {
   });
   for (const Column column : {kHomeRuns, kRunsBattedIn, kWins, kLosses, kSaves}) {
     LoadNumbers(column);
-  }
-}
-
-void RecordDecoder::LoadHands() {
-  for (int row = kBatters.first_row; row < kBatters.end_row; ++row) {
-    const Cell cell{kBattingSide, row};
-    Show(cell, state_.batting_side.DecodeBattingSide(Read(cell)).text);
-  }
-  for (int row = kPitchers.first_row; row < kPitchers.end_row; ++row) {
-    const Cell cell{kThrowingHand, row};
-    Show(cell, DecodeThrowingHand(Read(cell)));
   }
 }
 
@@ -120,12 +114,6 @@ void RecordDecoder::LoadRatingPairs(const Block& block, Column first, Column sec
     const std::string digits = RatingDigits({first, row});
     ShowRating({first, row}, digits.substr(0, 1));
     ShowRating({second, row}, digits.substr(1));
-  }
-}
-
-void RecordDecoder::LoadFatigueRatings() {
-  for (int row = kPitchers.first_row; row < kPitchers.end_row; ++row) {
-    ShowRating({kFatigue, row}, RatingDigits({kFatigue, row}));
   }
 }
 

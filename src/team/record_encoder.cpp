@@ -15,7 +15,7 @@ using enum Column;
 
 constexpr std::size_t kLongestName = kNameBytes + 1;  // with the period
 
-/// Assigns when there is a value. `Target` is a working value of the save or a kept one.
+/// Assigns when there is a value. `Target` is a working value of the save or of the codec state.
 template <typename Target>
 void Assign(Target& target, std::optional<std::int32_t> converted) {
   if (converted) target = *converted;
@@ -64,8 +64,7 @@ class RecordEncoder {
   void SaveRatings(Cell first, Cell second, auto& value);
   void SaveAverage(Cell source, CodecAnswer low, std::int32_t& value, std::uint8_t high);
   void SaveFace(int row);
-  void SaveThrowingHand(int row);
-  void SavePitcherMarks(int row);
+  void SaveHandAndMarks(int row);
   void SaveAppearance(Cell source, std::int32_t& value);
 
   /// Converts a field into its working value, and offers that when the cell is filled.
@@ -124,7 +123,7 @@ bool RecordEncoder::SaveName(int row) {
   }
   name.resize(kLongestName, ' ');
   for (int letter = 1; letter < kNameBytes; ++letter) {
-    // The second character, where the period stands, has no letter code.
+    // The second character is the period, which has no letter code.
     SaveLetter(row, letter, std::string_view(name).substr(static_cast<std::size_t>(letter) + 1, 1));
   }
   return true;
@@ -145,8 +144,8 @@ void RecordEncoder::SaveBatter(int row) {
   const std::string& average = Text({kBattingAverage, row});
   SaveAverage({kBattingAverage, row}, state_.batting_average.EncodeBattingAverage(average),
               values_.batting_average_low, BattingAverageCodec::HighByte(average));
-  // Four counts pass through the shared number text in every row, written or not: what one leaves
-  // there the next one may fall back on.
+  // Four counts pass through the shared number text in every row, written or not: when one cannot
+  // be converted, the result of the one before it is used.
   SaveCount({kHomeRuns, row}, values_.home_runs_or_losses);
   SaveCount({kRunsBattedIn, row}, values_.runs_batted_in);
   EncodeCount({kFielding, row}, values_.wins_or_saves);
@@ -167,8 +166,7 @@ void RecordEncoder::SavePitcher(int row) {
   SaveCount({kWins, row}, values_.wins_or_saves);
   SaveCount({kSaves, row}, values_.wins_or_saves);
   SaveFace(row);
-  SaveThrowingHand(row);
-  SavePitcherMarks(row);
+  SaveHandAndMarks(row);
 }
 
 void RecordEncoder::SavePitcherSFlag(int row) {
@@ -193,19 +191,14 @@ void RecordEncoder::SaveFace(int row) {
   Save(cell, values_.face, ByteTextToNumber(values_.face_code));
 }
 
-void RecordEncoder::SaveThrowingHand(int row) {
-  Assign(values_.hand,
-         ByteTextToNumber(
-             values_.hand_encoder.EncodeHandAndFace(Text({kThrowingHand, row}), values_.face_code)
-                 .text));
+void RecordEncoder::SaveHandAndMarks(int row) {
+  const std::string& text = Text({kThrowingHand, row});
+  const CodecAnswer hand = values_.hand_encoder.EncodeHandAndFace(text, values_.face_code);
+  Assign(values_.hand, ByteTextToNumber(hand.text));
   // The hand shares its byte with the face, so it is written when the face is filled.
   WriteFilled({kFace, row}, OffsetOf(kThrowingHand), values_.hand);
-}
-
-void RecordEncoder::SavePitcherMarks(int row) {
-  const Cell cell{kThrowingHand, row};
-  Assign(values_.marks, ByteTextToNumber(values_.hand_encoder.EncodeMarks(Text(cell)).text));
-  WriteFilled(cell, BytesOf(kThrowingHand).back(), values_.marks);
+  Assign(values_.marks, ByteTextToNumber(values_.hand_encoder.EncodeMarks(text).text));
+  WriteFilled({kThrowingHand, row}, BytesOf(kThrowingHand).back(), values_.marks);
 }
 
 void RecordEncoder::SaveAppearance(Cell source, std::int32_t& value) {

@@ -10,11 +10,11 @@
 
 namespace morlek {
 
-/// Takes the byte that a cell (by itself or with others of its row) has become, for a row (0 to 24)
-/// and an offset (0 to 31) of the record; false when it could not.
+/// Takes the byte that encodes a cell, alone or with others of its row, for a row (0 to 24) and an
+/// offset (0 to 31) of the record; false when it could not.
 using RecordSink = std::function<bool(int row, int offset, std::uint8_t byte)>;
 
-/// Hears, at the moment it is found, what of a name cannot be encoded. It may keep the encoder
+/// Is notified of what cannot be encoded in a name as soon as it is found. It may keep the encoder
 /// waiting, as a message box does.
 class EncodingListener {
  public:

@@ -10,7 +10,7 @@
 namespace morlek {
 namespace {
 
-class DeafListener : public EncodingListener {
+class NullListener : public EncodingListener {
  public:
   void UnknownLetter(int /*row*/, std::string_view /*letter*/) override {}
   void NameTooLong(int /*row*/) override {}
@@ -19,7 +19,7 @@ class DeafListener : public EncodingListener {
 }  // namespace
 
 SavePreview::SavePreview(const RosterGrid& grid, CodecState state, const RecordBytes& known) {
-  DeafListener listener;
+  NullListener listener;
   const auto sink = [this](int row, int offset, std::uint8_t byte) {
     written_.Put(row, offset, byte);
     return true;

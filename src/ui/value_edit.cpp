@@ -8,8 +8,8 @@
 namespace morlek {
 namespace {
 
-/// Whether the focus goes to a menu or another window, or comes back from there, which is no new
-/// visit.
+/// Whether the focus goes to a menu or another window, or returns from there, which does not begin
+/// a visit.
 bool IsShortAbsence(Qt::FocusReason reason) {
   return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
          reason == Qt::MenuBarFocusReason;
@@ -73,24 +73,24 @@ void ValueEdit::NoteStart() {
 void ValueEdit::FilterLineBreaks() {
   const QString edited = text();
   const qsizetype cursor = cursorPosition();
-  // What came in ends at the cursor, and replaced all in between that was there before.
+  // The inserted text ends at the cursor. It replaced whatever was between the shared parts.
   const QStringView now = edited;
   const QStringView before = text_before_;
   const qsizetype start = SharedLength(now, before.first(start_));
   const qsizetype rest =
       SharedLengthAtEnd(now.sliced(std::max(start, cursor)), before.sliced(start));
-  const QString came_in = edited.sliced(start, edited.size() - rest - start);
-  const QString filtered = WithoutLineBreaks(came_in);
-  if (filtered == came_in) return;
+  const QString inserted = edited.sliced(start, edited.size() - rest - start);
+  const QString filtered = WithoutLineBreaks(inserted);
+  if (filtered == inserted) return;
 
-  const QString up_to_cursor = came_in.first(std::max<qsizetype>(cursor - start, 0));
+  const QString up_to_cursor = inserted.first(std::max<qsizetype>(cursor - start, 0));
   setText(edited.first(start) + filtered + edited.last(rest));
   setCursorPosition(static_cast<int>(start + WithoutLineBreaks(up_to_cursor).size()));
 }
 
 void ValueEdit::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
-  // A window gives its focus to the first box when no box has it: that is no return.
+  // A window gives the focus to its first box when no box has it, which is not a return.
   if (IsShortAbsence(event->reason()) && left_selection_) {
     if (left_selection_->length > 0) setSelection(left_selection_->start, left_selection_->length);
     return;
@@ -115,7 +115,7 @@ void ValueEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 void ValueEdit::hideEvent(QHideEvent* event) {
-  // A window that is minimized comes back as it was left; what is hidden does not.
+  // A minimized window is restored as it was; a hidden box is not.
   if (!event->spontaneous()) left_selection_.reset();
   QLineEdit::hideEvent(event);
 }
@@ -127,7 +127,7 @@ void ValueEdit::mousePressEvent(QMouseEvent* event) {
 }
 
 void ValueEdit::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
-  // Of one value the line editor would select the part up to the point.
+  // The line editor would select only the digits before the point.
   selectAll();
 }
 
