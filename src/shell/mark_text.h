@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "editor/grid_marks.h"
+#include "editor/editor_state.h"
 
 namespace morlek {
 
@@ -12,6 +12,10 @@ namespace morlek {
 /// How many changes are not saved and how many cells SAVE will not keep, in words; empty when both
 /// are zero.
 [[nodiscard]] QString SummaryOf(const GridMarks& marks);
+
+/// How many changes the last step has left unsaved, and how to go back, in words; empty when it has
+/// left none.
+[[nodiscard]] QString LeftBehindText(const EditorState& state);
 
 /// A text in the form in which a tool tip shows it literally: Qt would take some texts for markup.
 [[nodiscard]] QString PlainTip(const QString& text);

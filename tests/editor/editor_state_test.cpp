@@ -27,10 +27,10 @@ class EditorStateTest : public TeamTest {
  protected:
   EditorStateTest() {
     subscription = editor.Subscribe([this](const EditorState& state, const StateChange& change) {
-      seen.push_back({state.place.team, state.identity, state.is_grid_shown, state.is_loaded,
-                      state.layout, state.marks.modified_count(), state.marks.lossy_count(),
-                      state.can_undo, state.can_redo, state.is_file_held, change.texts.size(),
-                      messages.shown.size()});
+      seen.push_back({state.scene.place.team, state.identity, state.scene.is_grid_shown,
+                      state.is_loaded, state.layout, state.marks.modified_count(),
+                      state.marks.lossy_count(), state.can_undo, state.can_redo, state.is_file_held,
+                      change.texts.size(), messages.shown.size()});
       layouts_set += change.layout_set ? 1 : 0;
       loads += change.loaded ? 1 : 0;
       picked_into = change.picked_into;
@@ -61,11 +61,11 @@ const Team* const kBravesTeam = FindTeam("Braves");
 const Team* const kOriolesTeam = FindTeam("Orioles");
 
 TEST_F(EditorStateTest, ASessionCanBeReadOffTheState) {
-  EXPECT_EQ(state().place, Place());
+  EXPECT_EQ(state().scene.place, Place());
   editor.OpenFirstImage(kImage);
-  EXPECT_EQ(state().place.image, kImage);
+  EXPECT_EQ(state().scene.place.image, kImage);
   EXPECT_EQ(std::get<OpenResult>(state().outcome), OpenResult::kOpened);
-  EXPECT_FALSE(state().is_grid_shown);
+  EXPECT_FALSE(state().scene.is_grid_shown);
   editor.LoadTeam("Braves");
   EXPECT_EQ(seen.back(), (Shown{kBravesTeam, "3C", true, true, Layout::kNarrow, 0, 0, false, false,
                                 false, 350, 0}));
@@ -94,8 +94,8 @@ TEST_F(EditorStateTest, ASessionCanBeReadOffTheState) {
   EXPECT_EQ(state().stance_row, 20) << "only the features move it";
 
   editor.OpenAnotherImage(kImage);
-  EXPECT_EQ(seen.back(), (Shown{kBravesTeam, "3C", false, false, Layout::kNarrow, 0, 0, false,
-                                false, false, 0, 0}));
+  EXPECT_EQ(seen.back(), (Shown{kBravesTeam, "3C", false, false, Layout::kNarrow, 0, 0, true, false,
+                                false, 0, 0}));
   EXPECT_EQ(state().grid.Text(kNumber), "300");
 }
 
@@ -152,8 +152,8 @@ TEST_F(EditorStateTest, AnImageThatCannotBeOpenedHidesTheGridOnlyAfterItsMessage
   seen.clear();
   disk.files.clear();
   EXPECT_EQ(editor.LoadTeam("Orioles").outcome, LoadResult::Outcome::kNotOpened);
-  EXPECT_EQ(seen, (std::vector<Shown>{{kBravesTeam, "3C", false, false, Layout::kNarrow, 0, 0,
-                                       false, false, false, 0, 1}}));
+  EXPECT_EQ(seen, (std::vector<Shown>{{kBravesTeam, "3C", false, false, Layout::kNarrow, 0, 0, true,
+                                       false, false, 0, 1}}));
   EXPECT_EQ(state().grid.Text(kNumber), "77");
   EXPECT_EQ(state().picked, kOriolesTeam);
   EXPECT_EQ(layouts_set, 0);
@@ -189,15 +189,15 @@ TEST_F(EditorStateTest, AFileThatIsHeldIsNoLongerReportedBehindTheMessageOfTheLo
 TEST_F(EditorStateTest, NextAndPreviousTeamGoRound) {
   editor.OpenFirstImage(kImage);
   editor.LoadTeamBeside(-1);
-  EXPECT_EQ(state().place.team, nullptr);
+  EXPECT_EQ(state().scene.place.team, nullptr);
   for (const auto& [places, key] :
        {std::pair(+1, "Braves"), {-1, "Blue Jays"}, {+1, "Braves"}, {+1, "Orioles"}}) {
     editor.LoadTeamBeside(places);
-    EXPECT_EQ(state().place.team, FindTeam(key));
+    EXPECT_EQ(state().scene.place.team, FindTeam(key));
   }
   editor.OpenAnotherImage(kImage);
   editor.LoadTeamBeside(+1);
-  EXPECT_EQ(state().place.team, kBravesTeam) << "each image starts anew";
+  EXPECT_EQ(state().scene.place.team, kBravesTeam) << "each image starts anew";
 }
 
 TEST_F(EditorStateTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {
@@ -205,7 +205,7 @@ TEST_F(EditorStateTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {
   Poke({{7, 10, 99}});
   editor.LoadTeam("braves");
   EXPECT_EQ(state().grid.Text(kNumber), "99");
-  EXPECT_EQ(state().place.team, kBravesTeam);
+  EXPECT_EQ(state().scene.place.team, kBravesTeam);
 }
 
 TEST_F(EditorStateTest, TypedTextsAreTruncated) {

@@ -77,10 +77,14 @@ void OneTruthTest::ExpectFoot() const {
   const int modified = state().marks.modified_count();
   const int lossy = state().marks.lossy_count();
   const QString dot = QString::fromUtf8(" · ");
-  QString foot = PathText(state().place.image.filename());
-  if (state().is_grid_shown && state().is_file_held) {
+  QString foot = PathText(state().scene.place.image.filename());
+  if (const auto& left = state().left_behind) {
+    foot += dot + FromCodePage(left->place.team->key) + ": " + QString::number(left->changes) +
+            (left->changes == 1 ? " change" : " changes") + " not saved, Ctrl+Z goes back";
+  }
+  if (state().scene.is_grid_shown && state().is_file_held) {
     foot += dot + "a file is still open and blocks SAVE (Ctrl+O, Cancel)";
-  } else if (state().is_grid_shown) {
+  } else if (state().scene.is_grid_shown) {
     if (modified == 1) foot += dot + "1 change not saved";
     if (modified > 1) foot += dot + QString::number(modified) + " changes not saved";
     if (lossy == 1) foot += dot + "SAVE will not keep 1 cell (F8)";
@@ -92,16 +96,16 @@ void OneTruthTest::ExpectFoot() const {
 }
 
 void OneTruthTest::ExpectTeam() const {
-  ASSERT_EQ(IsShown("Toolbar1"), !state().place.image.empty());
-  ASSERT_EQ(IsShown("Frame1"), state().is_grid_shown);
-  ASSERT_EQ(IsShown("labelHint"), !state().is_grid_shown);
-  ASSERT_EQ(LabelText("labelHint"), state().place.image.empty()
+  ASSERT_EQ(IsShown("Toolbar1"), !state().scene.place.image.empty());
+  ASSERT_EQ(IsShown("Frame1"), state().scene.is_grid_shown);
+  ASSERT_EQ(IsShown("labelHint"), !state().scene.is_grid_shown);
+  ASSERT_EQ(LabelText("labelHint"), state().scene.place.image.empty()
                                         ? "Open a ROM with Ctrl+O"
                                         : "Pick a team above, or press Ctrl+Page Down");
-  const Team* team = state().place.team;
+  const Team* team = state().scene.place.team;
   ASSERT_EQ(LabelText("Label4(0)"), team == nullptr ? "" : FromCodePage(team->display_name));
   for (const Team& each : kTeamDirectory) {
-    ASSERT_EQ(IsChecked(FromCodePage(each.key)), state().is_grid_shown && team == &each)
+    ASSERT_EQ(IsChecked(FromCodePage(each.key)), state().scene.is_grid_shown && team == &each)
         << each.key;
   }
   for (const QAction* action : Find("Frame1").actions()) {
@@ -146,16 +150,16 @@ void OneTruthTest::Step(std::mt19937& random) {
       break;
     case 3:
     case 4:
-      if (state().is_grid_shown) TypeInto(1 + any(14), any(25), texts[any(16)]);
+      if (state().scene.is_grid_shown) TypeInto(1 + any(14), any(25), texts[any(16)]);
       break;
     case 5:
-      if (state().is_grid_shown) Box(12 + any(3), any(25)).setFocus();
+      if (state().scene.is_grid_shown) Box(12 + any(3), any(25)).setFocus();
       break;
     case 6:
       Find<QAbstractButton>(QString("Picture%1(%2)").arg(1 + any(2)).arg(any(48))).click();
       break;
     case 7:
-      if (state().is_grid_shown) PasteInto(1 + any(14), any(25), "A.ONE\tP\t7\nB.TWO\t1B");
+      if (state().scene.is_grid_shown) PasteInto(1 + any(14), any(25), "A.ONE\tP\t7\nB.TWO\t1B");
       break;
     case 8:
       Press(any(2) == 0 ? Qt::Key_Z : Qt::Key_Y, Qt::ControlModifier);
