@@ -26,8 +26,8 @@ struct Ratio {
   double limit;
 };
 
-/// Collects the least times of a run, whose benchmarks alternate: other work on the machine only adds
-/// to them.
+/// Collects the least times of a run, whose benchmarks alternate: other work on the machine only
+/// adds to them.
 class LeastCollector : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context& /*context*/) override { return true; }

@@ -47,14 +47,6 @@ void FitColumns(const QFileDialog& dialog) {
 
 }  // namespace
 
-std::optional<QString> DialogUser::AskOpenPath(const FileQuestion& question) {
-  return Ask(QFileDialog::AcceptOpen, question);
-}
-
-std::optional<QString> DialogUser::AskSavePath(const FileQuestion& question) {
-  return Ask(QFileDialog::AcceptSave, question);
-}
-
 std::optional<QString> DialogUser::Ask(QFileDialog::AcceptMode mode, const FileQuestion& question) {
   QFileDialog dialog(window_);
   dialog.setAcceptMode(mode);

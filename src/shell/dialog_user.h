@@ -22,8 +22,12 @@ class DialogUser : public User {
   /// Sets the window over which dialogs open from now on; null for none. It may be destroyed first.
   void SetWindow(QWidget* window) { window_ = window; }
 
-  [[nodiscard]] std::optional<QString> AskOpenPath(const FileQuestion& question) override;
-  [[nodiscard]] std::optional<QString> AskSavePath(const FileQuestion& question) override;
+  [[nodiscard]] std::optional<QString> AskOpenPath(const FileQuestion& question) override {
+    return Ask(QFileDialog::AcceptOpen, question);
+  }
+  [[nodiscard]] std::optional<QString> AskSavePath(const FileQuestion& question) override {
+    return Ask(QFileDialog::AcceptSave, question);
+  }
   [[nodiscard]] bool AskYesNo(const QString& text, const QString& title) override;
   void ShowMessage(const QString& text, const QString& title, Message::Icon icon) override;
 

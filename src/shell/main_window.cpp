@@ -40,11 +40,6 @@ std::optional<QString> AskForImage(User& user) {
   return user.AskOpenPath({"Open Dale Harrow Jr. Baseball Rom", "SNES File (*.smc)|*.smc"});
 }
 
-bool AskToQuit(User& user) {
-  return user.AskYesNo("Are you sure you want to quit MORLEK EDITOR?\n\nIf not then click NO.",
-                       kProgramTitle);
-}
-
 void ShowAbout(User& user) {
   const QString text =
       "MORLEK EDITOR for SNES Dale Harrow Baseball.\n"
@@ -179,7 +174,10 @@ void MainWindow::Run(Command command) {
       OpenAnotherImage();
       break;
     case Command::kQuit:
-      if (AskToQuit(user_)) close();
+      if (user_.AskYesNo("Are you sure you want to quit MORLEK EDITOR?\n\nIf not then click NO.",
+                         kProgramTitle)) {
+        close();
+      }
       break;
     case Command::kAbout:
       ShowAbout(user_);

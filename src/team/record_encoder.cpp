@@ -60,7 +60,6 @@ class RecordEncoder {
   void SaveLetter(int row, int letter, std::string_view character);
   void SaveBatter(int row);
   void SavePitcher(int row);
-  void SavePitcherSFlag(int row);
   void SaveRatings(Cell first, Cell second, auto& value);
   void SaveAverage(Cell source, CodecAnswer low, std::int32_t& value, std::uint8_t high);
   void SaveFace(int row);
@@ -154,7 +153,9 @@ void RecordEncoder::SaveBatter(int row) {
 }
 
 void RecordEncoder::SavePitcher(int row) {
-  SavePitcherSFlag(row);
+  const auto flag = ByteTextToNumber(EncodePitcherSFlag(Text({kThrowingHand, row})));
+  // Written for an empty cell too.
+  if (flag) Write(row, offset::kPitcherSFlag, *flag);
   SaveRatings({kPitchSpeed, row}, {kControl, row}, state_.first_ratings);
   const std::string& fatigue = Text({kFatigue, row});
   Save({kFatigue, row}, values_.pitcher_second_rating, PackSingleRating(fatigue));
@@ -167,12 +168,6 @@ void RecordEncoder::SavePitcher(int row) {
   SaveCount({kSaves, row}, values_.wins_or_saves);
   SaveFace(row);
   SaveHandAndMarks(row);
-}
-
-void RecordEncoder::SavePitcherSFlag(int row) {
-  const auto flag = ByteTextToNumber(EncodePitcherSFlag(Text({kThrowingHand, row})));
-  // Written for an empty cell too.
-  if (flag) Write(row, offset::kPitcherSFlag, *flag);
 }
 
 void RecordEncoder::SaveRatings(Cell first, Cell second, auto& value) {

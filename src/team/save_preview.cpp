@@ -8,18 +8,9 @@
 #include "team/record_encoder.h"
 
 namespace morlek {
-namespace {
-
-class NullListener : public EncodingListener {
- public:
-  void UnknownLetter(int /*row*/, std::string_view /*letter*/) override {}
-  void NameTooLong(int /*row*/) override {}
-};
-
-}  // namespace
 
 SavePreview::SavePreview(const RosterGrid& grid, CodecState state, const RecordBytes& known) {
-  NullListener listener;
+  EncodingListener listener;
   const auto sink = [this](int row, int offset, std::uint8_t byte) {
     written_.Put(row, offset, byte);
     return true;

@@ -11,15 +11,10 @@ namespace morlek {
 /// not depend on the widgets that use it.
 class OwnPanel {
  public:
-  OwnPanel(const OwnPanel&) = delete;
-  OwnPanel& operator=(const OwnPanel&) = delete;
   virtual ~OwnPanel() = default;
 
   /// Paints frame and background of the widget in its current state.
   virtual void PaintPanel(QPainter& painter) const = 0;
-
- protected:
-  OwnPanel() = default;
 };
 
 /// Fusion in the program's own shades, with flat buttons, one sheet of grid boxes, plain scroll
