@@ -13,9 +13,12 @@ namespace morlek {
 /// are zero.
 [[nodiscard]] QString SummaryOf(const GridMarks& marks);
 
-/// How many changes the last step has left unsaved, and how to go back, in words; empty when it has
-/// left none.
-[[nodiscard]] QString LeftBehindText(const EditorState& state);
+/// What a person should know of the last step, in words; empty when there is nothing to report.
+[[nodiscard]] QString NoteOf(const EditorState& state);
+
+/// The details of that note, a paragraph with a line break at its end; empty when there are none.
+[[nodiscard]] QString DetailsOf(const EditorState& state);
+
 
 /// A text in the form in which a tool tip shows it literally: Qt would take some texts for markup.
 [[nodiscard]] QString PlainTip(const QString& text);

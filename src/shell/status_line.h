@@ -14,8 +14,12 @@ class StatusLine : public QLabel {
   explicit StatusLine(QWidget* parent);
 
   /// Shows the file name of the image (its whole path in the tool tip), truncated if necessary,
-  /// followed by the counts of marks. Without an image the line is empty.
+  /// followed by the outcome of the last step and the counts of marks. Alerts screen readers when
+  /// that changes.
   void Show(const EditorState& state);
+
+ private:
+  QString said_;
 };
 
 }  // namespace morlek
