@@ -19,7 +19,6 @@ namespace morlek {
 /// The details of that note, a paragraph with a line break at its end; empty when there are none.
 [[nodiscard]] QString DetailsOf(const EditorState& state);
 
-
 /// A text in the form in which a tool tip shows it literally: Qt would take some texts for markup.
 [[nodiscard]] QString PlainTip(const QString& text);
 
