@@ -8,7 +8,7 @@
 
 namespace morlek {
 
-/// The byte that tells the game's image from other files, and its 1-based position.
+/// The byte that distinguishes the game's image from other files, and its 1-based position.
 inline constexpr std::int64_t kIdentityPosition = 988297;
 inline constexpr std::uint8_t kIdentityByte = 0x3C;
 
@@ -24,7 +24,7 @@ struct RecordLocation {
 };
 
 /// Cartridge images behind file channel 1. Between operations no file is open and nothing is
-/// cached, so what is on the disk is the truth.
+/// cached, so every read shows what is on the disk.
 class CartridgeImage {
  public:
   /// The channel outlives the object.
@@ -52,8 +52,8 @@ class CartridgeImage {
   /// base or the read fails.
   [[nodiscard]] std::uint8_t ReadField(std::optional<std::int64_t> base, int slot, int offset);
 
-  /// Writes such a byte. False when there is no base, when the last Open failed (a file that
-  /// something else left open is never touched), or when the write fails.
+  /// Writes a byte of a team record. False when there is no base, when the last Open failed (a file
+  /// that something else left open is never touched), or when the write fails.
   [[nodiscard]] bool WriteField(std::optional<std::int64_t> base, int slot, int offset,
                                 std::uint8_t value);
 

@@ -12,8 +12,8 @@ namespace {
 
 using Traits = std::streambuf::traits_type;
 
-/// Runs one read and gives its result. A device reports a failed read by an exception of the
-/// library's own, and the end of the file by its end value.
+/// Runs one read and returns its result. A device reports a failed read by an exception of the
+/// standard library, and the end of the file by its end value.
 template <typename Read>
 std::optional<char> ReadOrEnd(Read read) {
   try {

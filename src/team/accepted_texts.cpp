@@ -1,6 +1,6 @@
 #include "team/accepted_texts.h"
 
-#include "codecs/average_word.h"
+#include "codecs/average_codec.h"
 #include "codecs/fielding_position_codec.h"
 #include "codecs/hand_codec.h"
 #include "codecs/hex_text.h"

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "codecs/average_word.h"
+#include "codecs/average_codec.h"
 #include "codecs/hex_text.h"
 #include "codecs/rating_digit_codec.h"
 #include "image/failure.h"

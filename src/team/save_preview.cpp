@@ -10,12 +10,7 @@
 namespace morlek {
 namespace {
 
-class DeafListener : public EncodingListener {
- public:
-  void UnknownLetter(int /*row*/, std::string_view /*letter*/) override {}
-  void NameTooLong(int /*row*/) override {}
-};
-
+/// Goes on past a rating that is no number.
 class TolerantListener : public DecodingListener {
  public:
   void UnknownByte(Cell /*cell*/) override {}
@@ -25,7 +20,7 @@ class TolerantListener : public DecodingListener {
 }  // namespace
 
 SavePreview::SavePreview(const RosterGrid& grid, CodecState state, const RecordBytes& known) {
-  DeafListener deaf;
+  EncodingListener deaf;
   const auto sink = [this](int row, int offset, std::uint8_t byte) {
     written_.Put(row, offset, byte);
     return true;
