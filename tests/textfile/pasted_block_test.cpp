@@ -35,11 +35,11 @@ TEST(PastedBlock, IsLaidRightAndDownAndEndsAtTheEdgesOfItsHalf) {
   for (const Block& block : kBlocks) {
     RosterGrid expected = old;
     for (const auto& [cell, text] : block.cells) expected.SetText(cell, text);
-    EXPECT_EQ(WithBlock(old, block.start, block.text), expected) << block.text;
+    EXPECT_EQ(WithBlock(old, block.start, block.text).grid, expected) << block.text;
   }
   std::string huge;
   huge.resize(10000000, 'x');
-  const RosterGrid laid = WithBlock(old, CellOfArray(2, 0), huge + "\t" + huge);
+  const RosterGrid laid = WithBlock(old, CellOfArray(2, 0), huge + "\t" + huge).grid;
   EXPECT_EQ(laid.Text(CellOfArray(2, 0)).size(), 32767U);
   EXPECT_EQ(laid.Text(CellOfArray(3, 0)).size(), 32767U);
 }
