@@ -8,7 +8,6 @@
 #include "codecs/code_page.h"
 #include "codecs/hex_text.h"
 #include "team/column_bytes.h"
-#include "textfile/pasted_block.h"
 
 namespace morlek {
 namespace {
@@ -272,8 +271,25 @@ void Editor::Pick(Column feature, std::string code_text) {
 }
 
 void Editor::PasteBlock(Cell start, std::string_view block) {
-  const GridChange texts = Replace(WithBlock(state_.grid, start, block));
+  const GridWithBlock pasted = WithBlock(state_.grid, start, block);
+  const GridChange texts = Replace(pasted.grid);
+  if (!texts.empty() || pasted.without_place != PasteResult()) {
+    EndStep({.texts = texts}, pasted.without_place);
+  }
+}
+
+void Editor::PastePlayer(int row, const Player& player) {
+  const GridChange texts = Replace(WithPlayer(state_.grid, row, player));
   if (!texts.empty()) EndStep({.texts = texts});
+}
+
+std::optional<int> Editor::MovePlayer(int row, int direction) {
+  const std::optional<int> neighbor = NeighborOf(row, direction);
+  if (!neighbor) return std::nullopt;
+  const RosterGrid moved = WithPlayer(state_.grid, *neighbor, PlayerAt(state_.grid, row));
+  const GridChange texts = Replace(WithPlayer(moved, row, PlayerAt(state_.grid, *neighbor)));
+  if (!texts.empty()) EndStep({.texts = texts});
+  return neighbor;
 }
 
 std::optional<Cell> Editor::Undo() { return Follow(history_.Undo()); }
@@ -317,8 +333,8 @@ GridChange Editor::Replace(const RosterGrid& grid) {
   return texts;
 }
 
-void Editor::EndStep(const StateChange& change) {
-  state_.outcome = {};
+void Editor::EndStep(const StateChange& change, StepOutcome outcome) {
+  state_.outcome = std::move(outcome);
   state_.note = {};
   if (!change.texts.empty()) RefreshMarks();
   Publish(change);

@@ -16,6 +16,7 @@
 #include "image/cartridge_image.h"
 #include "image/channel.h"
 #include "team/codec_state.h"
+#include "team/player.h"
 
 namespace morlek {
 
@@ -84,8 +85,16 @@ class Editor {
   /// Puts the code of a picked picture into a features column of the stance row, in one step.
   void Pick(Column feature, std::string code_text);
 
-  /// Lays a pasted block of cells into the grid from a cell on, in one step.
+  /// Lays a pasted block of cells into the grid from a cell on, in one step. The outcome says what
+  /// found no place.
   void PasteBlock(Cell start, std::string_view block);
+
+  /// Puts a player into a row, in one step.
+  void PastePlayer(int row, const Player& player);
+
+  /// Has the player of a row trade places with the neighbour above (-1) or below (+1), in one step.
+  /// Gives his row then; nothing where the block ends.
+  std::optional<int> MovePlayer(int row, int direction);
 
   /// Takes the last step back, or makes it again: every step but SAVE, since the program began. No
   /// file is opened. Gives the first cell that changed; nothing when there was no such step, and
@@ -133,7 +142,7 @@ class Editor {
   void RefreshMarks();
 
   /// Ends a step that has to do with no file.
-  void EndStep(const StateChange& change);
+  void EndStep(const StateChange& change, StepOutcome outcome = {});
 
   /// Ends a step that had to do with a file.
   void EndFileStep(StepOutcome outcome, const StateChange& change = {}, StepNote note = {});

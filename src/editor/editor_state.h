@@ -9,6 +9,7 @@
 #include "editor/place.h"
 #include "team/team_loader.h"
 #include "team/team_saver.h"
+#include "textfile/pasted_block.h"
 #include "textfile/team_export.h"
 #include "textfile/team_import.h"
 
@@ -24,9 +25,9 @@ enum class OpenResult {
 /// How much of the window is in view: the grid, or the choosers right of it as well.
 enum class Layout { kNarrow, kWide };
 
-/// What came of the last step, when that had to do with a file; else nothing.
-using StepOutcome =
-    std::variant<std::monostate, OpenResult, LoadResult, SaveResult, ImportResult, ExportResult>;
+/// What came of the last step, when that had to do with a file or pasted a block; else nothing.
+using StepOutcome = std::variant<std::monostate, OpenResult, LoadResult, SaveResult, ImportResult,
+                                 ExportResult, PasteResult>;
 
 /// Changes that a step to another team or image has left unsaved; taking it back brings them back.
 struct LeftBehind {

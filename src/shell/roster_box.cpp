@@ -139,7 +139,15 @@ void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void RosterBox::contextMenuEvent(QContextMenuEvent* event) {
+  emit MenuOpens();
   BoxMenu(*this, [this] { PasteFrom(QClipboard::Clipboard); }).exec(event->globalPos());
+  emit MenuCloses();
+}
+
+void RosterBox::OpenMenuAtCursor() {
+  const QPoint place = cursorRect().center();
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, place, mapToGlobal(place));
+  contextMenuEvent(&event);
 }
 
 void RosterBox::keyPressEvent(QKeyEvent* event) {
@@ -157,6 +165,8 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
     emit RowStepRequested(+1);
   } else if (plain && event->key() == Qt::Key_Escape) {
     TakeBack();
+  } else if (event->modifiers() == Qt::ShiftModifier && event->key() == Qt::Key_F10) {
+    OpenMenuAtCursor();
   } else if (const auto clipboard = PastingClipboard(*event)) {
     PasteFrom(*clipboard);
   } else if (!event->matches(QKeySequence::Undo) && !event->matches(QKeySequence::Redo)) {

@@ -41,6 +41,10 @@ class RosterBox : public ValueEdit, public OwnPanel {
   /// Up (-1), or Down or Return (+1) was pressed, also where no row follows.
   void RowStepRequested(int rows);
 
+  /// The context menu is about to open, or has closed.
+  void MenuOpens();
+  void MenuCloses();
+
  protected:
   bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -52,6 +56,7 @@ class RosterBox : public ValueEdit, public OwnPanel {
 
  private:
   void PasteFrom(QClipboard::Mode clipboard);
+  void OpenMenuAtCursor();
   void ColorText();
   [[nodiscard]] QColor Background() const;
   void PaintFrame(QPainter& painter, const QColor& background) const;

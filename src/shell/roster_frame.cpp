@@ -12,6 +12,7 @@
 
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"
+#include "shell/player_commands.h"
 #include "shell/roster_box.h"
 #include "team/accepted_texts.h"
 #include "ui/filled_button.h"
@@ -187,6 +188,8 @@ void RosterFrame::AddBox(Cell cell) {
   connect(box, &RosterBox::BlockPasted, this,
           [this, cell](const std::string& block) { editor_.PasteBlock(cell, block); });
   connect(box, &RosterBox::RowStepRequested, this, [this, cell](int rows) { StepRow(cell, rows); });
+  connect(box, &RosterBox::MenuOpens, this, [this] { players_->MenuOpens(); });
+  connect(box, &RosterBox::MenuCloses, this, [this] { players_->MenuCloses(); });
 }
 
 void RosterFrame::AddTeamNameAndSave() {
@@ -230,6 +233,12 @@ void RosterFrame::AddKeys() {
           [this] { GoToLossy(false); });
   connect(new QShortcut(Qt::SHIFT | Qt::Key_F8, this), &QShortcut::activated, this,
           [this] { GoToLossy(true); });
+  players_ = new PlayerCommands(editor_, *this, [this]() -> std::optional<Cell> {
+    const RosterBox* focused = FocusedBox();
+    return focused == nullptr ? std::nullopt : std::optional(focused->cell());
+  });
+  connect(players_, &PlayerCommands::Moved, this,
+          [this](Cell cell) { BoxAt(cell).setFocus(Qt::OtherFocusReason); });
 }
 
 void RosterFrame::GoTo(std::optional<Cell> cell) {

@@ -13,6 +13,7 @@ class QLabel;
 namespace morlek {
 
 class FilledButton;
+class PlayerCommands;
 class RosterBox;
 struct BlockLayout;
 
@@ -66,6 +67,7 @@ class RosterFrame : public QFrame {
   FilledButton* save_ = nullptr;
   QAction* undo_ = nullptr;
   QAction* redo_ = nullptr;
+  PlayerCommands* players_ = nullptr;
   std::array<RosterBox*, kCellCount> boxes_{};
   // Whether each box shows a mark, by the index of its cell.
   std::array<bool, kCellCount> is_marked_{};

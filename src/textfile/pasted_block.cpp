@@ -1,18 +1,61 @@
 #include "textfile/pasted_block.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
+
+#include "codecs/code_page.h"
+#include "textfile/pasted_lines.h"
 
 namespace morlek {
 namespace {
 
-/// Takes what stands before the first of `ends` off the front of `text`, and the end with it. A
-/// carriage return and a line feed behind it are one end.
-std::string_view TakeUpTo(std::string_view& text, std::string_view ends) {
-  const std::size_t length = std::min(text.find_first_of(ends), text.size());
-  const std::string_view taken = text.substr(0, length);
-  const bool is_pair = text.substr(length, 2) == "\r\n";
-  text.remove_prefix(std::min(length + (is_pair ? 2 : 1), text.size()));
-  return taken;
+// Heads that the table of a season has instead of the sheet's own.
+constexpr std::array<std::pair<Column, std::string_view>, 4> kOtherHeads = {
+    {{Column::kName, "NAME"},
+     {Column::kBattingSide, "HAND"},
+     {Column::kThrowingHand, "HAND"},
+     {Column::kLegs, "LEGS"}}};
+
+bool IsHead(const BlockColumn& column, std::string_view capitals) {
+  return capitals == UpperCase(column.caption) ||
+         std::ranges::find(kOtherHeads, std::pair(column.column, capitals)) != kOtherHeads.end();
+}
+
+/// A pitcher's position is P, and F a face like others.
+bool IsHeadAndValue(Column column) {
+  return column == Column::kPosition || column == Column::kFace;
+}
+
+/// Whether all that a line has for the columns from a place on are heads that stand there, of
+/// batters or of pitchers.
+bool HoldsHeads(const PastedLine& line, std::size_t place) {
+  bool holds_heads = false;
+  for (const std::string& cell : line.cells) {
+    if (place >= kColumnCount) break;
+    const BlockColumn& of_batters = kBatters.columns.at(place);
+    const BlockColumn& of_pitchers = kPitchers.columns.at(place);
+    ++place;
+    if (cell.empty()) continue;
+    const std::string capitals = UpperCase(cell);
+    if (!IsHead(of_batters, capitals) && !IsHead(of_pitchers, capitals)) return false;
+    holds_heads = holds_heads || !IsHeadAndValue(of_batters.column);
+  }
+  return holds_heads;
+}
+
+/// Lays a line into a row from a place on. Gives how many of its texts find none.
+int LayLine(const PastedLine& line, int row, std::size_t place, RosterGrid& grid) {
+  int without_place = line.more;
+  for (const std::string& cell : line.cells) {
+    if (place < kColumnCount) {
+      const Column column = BlockOf(row).columns.at(place++).column;
+      grid.SetText({column, row}, PastedText(column, cell));
+    } else if (!cell.empty()) {
+      ++without_place;
+    }
+  }
+  return without_place;
 }
 
 }  // namespace
@@ -27,25 +70,26 @@ std::string_view WithoutLastLineBreak(std::string_view text) {
   return text;
 }
 
-RosterGrid WithBlock(RosterGrid grid, Cell start, std::string_view text) {
+GridWithBlock WithBlock(RosterGrid grid, Cell start, std::string_view text) {
   const Block& block = BlockOf(start.row);
-  const std::size_t first = block.PlaceOf(start.column).value_or(block.columns.size());
+  const std::size_t first = block.PlaceOf(start.column).value_or(kColumnCount);
+  const int end_row = first == 0 ? kSlotCount : block.end_row;
 
-  text = WithoutLastLineBreak(text);
-  for (int row = start.row; row < block.end_row; ++row) {
-    const std::size_t left = text.size();
-    std::string_view line = TakeUpTo(text, "\r\n");
-    const bool is_last = line.size() == left;
-    for (std::size_t place = first; place < block.columns.size(); ++place) {
-      const std::size_t rest = line.size();
-      const std::string_view cell_text = TakeUpTo(line, "\t");
-      grid.SetText({block.columns.at(place).column, row},
-                   std::string(cell_text.substr(0, kLongestText)));
-      if (cell_text.size() == rest) break;
+  PasteResult result;
+  PastedLines lines(WithoutLastLineBreak(text));
+  int row = start.row;
+  while (const std::optional<PastedLine> line = lines.Next()) {
+    if (HoldsHeads(*line, first)) continue;
+    if (row < end_row) {
+      result.cells += LayLine(*line, row++, first, grid);
+      continue;
     }
-    if (is_last) break;
+    const auto is_filled = [](const std::string& cell) { return !cell.empty(); };
+    const auto filled = static_cast<int>(std::ranges::count_if(line->cells, is_filled));
+    result.cells += filled + line->more;
+    if (filled + line->more > 0) ++result.lines;
   }
-  return grid;
+  return {.grid = std::move(grid), .without_place = result};
 }
 
 }  // namespace morlek

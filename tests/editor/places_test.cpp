@@ -26,7 +26,7 @@ class PlacesTest : public TeamTest {
     const auto any = [&random](unsigned count) { return random() % count; };
     const Cell cell = kAllCells.at(any(kCellCount));
     const std::vector<const char*> teams = {"Braves", "Orioles", "Cubs", "Mets"};
-    switch (any(8)) {
+    switch (any(10)) {
       case 0:
       case 1:
         editor.EndVisit();
@@ -52,6 +52,12 @@ class PlacesTest : public TeamTest {
       }
       case 6:
         editor.LoadTeam(teams.at(any(4)));
+        break;
+      case 7:
+        editor.PastePlayer(cell.row, PlayerAt(state().grid, static_cast<int>(any(25))));
+        break;
+      case 8:
+        editor.MovePlayer(cell.row, any(2) == 0 ? -1 : +1);
         break;
       default:
         if (any(3) == 0) editor.OpenAnotherImage(any(2) == 0 ? kImage : kOtherImage);
