@@ -29,7 +29,7 @@ void FocusRing::paintEvent(QPaintEvent* /*event*/) {
   if (!box_) return;
   QPainter painter(this);
   FrameSnapped(painter, rect(), 2, theme::ShadesOf(palette()).accent);
-  box_->PaintMark(painter);
+  box_->PaintMarks(painter);
 }
 
 }  // namespace morlek

@@ -12,9 +12,11 @@ namespace morlek {
 class ContentArea;
 class HelpPane;
 class HintLabel;
+class HintNote;
 class IdentityLabel;
 class MenuBar;
 class RosterFrame;
+class StanceMark;
 class StancePanel;
 class StatusLine;
 class TeamToolbar;
@@ -75,8 +77,10 @@ class MainWindow : public QMainWindow {
   // There from the answer to the first question on, which is asked over the painted window.
   RosterFrame* roster_ = nullptr;
   StancePanel* stances_ = nullptr;
+  StanceMark* stance_mark_ = nullptr;
   IdentityLabel* identity_ = nullptr;
   HintLabel* hint_ = nullptr;
+  HintNote* hint_note_ = nullptr;
   StatusLine* status_ = nullptr;
   Editor::Subscription subscription_;
   // Made when they are first needed: the start does not wait for them.

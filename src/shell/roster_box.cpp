@@ -89,14 +89,26 @@ void RosterBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     PaintFrame(painter, Qt::transparent);
   }
-  // The ring of the focus, which stands above the box, paints the mark above itself.
-  if (hasFocus() || !mark_.is_lossy) return;
+  // The ring of the focus, which stands above the box, paints the marks above itself.
+  if (hasFocus() || !mark_.is_marked()) return;
   QPainter painter(this);
-  PaintMark(painter);
+  PaintMarks(painter);
 }
 
-void RosterBox::PaintMark(QPainter& painter) const {
-  if (!mark_.is_lossy) return;
+void RosterBox::PaintMarks(QPainter& painter) const {
+  if (mark_.is_modified) PaintBar(painter);
+  if (mark_.is_lossy) PaintCorner(painter);
+}
+
+void RosterBox::PaintBar(QPainter& painter) const {
+  const theme::Shades& shades = theme::ShadesOf(palette());
+  const QColor color = Ground() == shades.fill ? shades.on_fill : shades.accent;
+  // Over the line that the box shares with its neighbour, but within the ring of the focus.
+  const QRect bar = hasFocus() ? QRect(2, 2, 2, height() - 4) : QRect(0, 0, 3, height());
+  FrameSnapped(painter, bar, 1, color, color);
+}
+
+void RosterBox::PaintCorner(QPainter& painter) const {
   // Over text and selection alike, with an edge that parts it from both.
   constexpr qreal kSize = 7;
   const theme::Shades& shades = theme::ShadesOf(palette());
@@ -155,6 +167,10 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
     emit RowStepRequested(-1);
   } else if (plain && (event->key() == Qt::Key_Down || is_return)) {
     emit RowStepRequested(+1);
+  } else if (plain && IsFeature(cell_.column) && event->key() == Qt::Key_PageUp) {
+    emit LeafRequested(-1);
+  } else if (plain && IsFeature(cell_.column) && event->key() == Qt::Key_PageDown) {
+    emit LeafRequested(+1);
   } else if (plain && event->key() == Qt::Key_Escape) {
     TakeBack();
   } else if (const auto clipboard = PastingClipboard(*event)) {

@@ -31,9 +31,9 @@ class RosterBox : public ValueEdit, public OwnPanel {
   /// Paints the box as a cell of the sheet: neighbours share their border lines.
   void PaintPanel(QPainter& painter) const override;
 
-  /// Paints the corner of a cell that SAVE will not keep, or nothing. To be painted above the ring
-  /// of the focus.
-  void PaintMark(QPainter& painter) const;
+  /// Paints the bar of a cell that is not saved and the corner of one that SAVE will not keep. To
+  /// be painted above the ring of the focus.
+  void PaintMarks(QPainter& painter) const;
 
  signals:
   /// A block of cells, in the code page, was pasted here.
@@ -41,6 +41,9 @@ class RosterBox : public ValueEdit, public OwnPanel {
 
   /// Up (-1), or Down or Return (+1) was pressed, also where no row follows.
   void RowStepRequested(int rows);
+
+  /// Page Down (+1) or Page Up (-1) was pressed in a features box.
+  void LeafRequested(int pictures);
 
  protected:
   bool event(QEvent* event) override;
@@ -56,6 +59,8 @@ class RosterBox : public ValueEdit, public OwnPanel {
   void ColorText();
   [[nodiscard]] QColor Ground() const;
   void PaintFrame(QPainter& painter, const QColor& ground) const;
+  void PaintBar(QPainter& painter) const;
+  void PaintCorner(QPainter& painter) const;
 
   LineBreakFilter line_breaks_{*this};  // one would break an exported line in two
   Cell cell_;

@@ -10,6 +10,7 @@
 #include "shell/code_page_text.h"
 #include "shell/focus_ring.h"
 #include "shell/form_layout.h"
+#include "shell/leafing.h"
 #include "shell/mark_text.h"
 #include "shell/roster_box.h"
 #include "team/accepted_texts.h"
@@ -78,7 +79,7 @@ void RosterFrame::ShowMarks(const EditorState& state) {
     if (!std::exchange(is_marked_.at(IndexOf(cell)), is_marked) && !is_marked) continue;
     BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
   }
-  save_->SetDotted(marks.modified_count() > 0);
+  save_->SetFilled(marks.modified_count() > 0);
   save_->setAccessibleDescription(SummaryOf(marks));
   undo_->setEnabled(state.can_undo);
   redo_->setEnabled(state.can_redo);
@@ -89,7 +90,7 @@ void RosterFrame::ShowTints() {
   const EditorState& state = editor_.state();
   for (const Cell cell : kAllCells) {
     const bool is_stance = state.layout == Layout::kWide && cell.row == state.stance_row;
-    BoxAt(cell).SetTint(is_stance ? kStanceRow : cell.row == focus_row_ ? kFocusRow : kNone);
+    BoxAt(cell).SetTint(cell.row == focus_row_ ? kFocusRow : is_stance ? kStanceRow : kNone);
   }
 }
 
@@ -152,6 +153,8 @@ void RosterFrame::AddBox(Cell cell) {
   connect(box, &RosterBox::BlockPasted, this,
           [this, cell](const std::string& block) { editor_.PasteBlock(cell, block); });
   connect(box, &RosterBox::RowStepRequested, this, [this, cell](int rows) { StepRow(cell, rows); });
+  connect(box, &RosterBox::LeafRequested, this,
+          [this, cell](int pictures) { LeafPictures(editor_, cell, pictures); });
 }
 
 void RosterFrame::AddTeamNameAndSave() {

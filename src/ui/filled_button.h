@@ -4,22 +4,23 @@
 
 namespace morlek {
 
-/// A push button filled with the accent colour: the one that does what the window is for.
+/// The push button that does what the window is for. While there is something left to do it is
+/// filled with the accent colour and has a dot behind its caption, else it is outlined.
 class FilledButton : public QPushButton {
   Q_OBJECT
 
  public:
   FilledButton(const QString& caption, QWidget* parent);
 
-  /// A dot behind the caption shows that there is something left to do.
-  void SetDotted(bool dotted);
+  [[nodiscard]] bool is_filled() const { return is_filled_; }
+  void SetFilled(bool filled);
 
  protected:
   void initStyleOption(QStyleOptionButton* option) const override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  bool is_dotted_ = false;
+  bool is_filled_ = false;
 };
 
 }  // namespace morlek
