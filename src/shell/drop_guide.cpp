@@ -59,10 +59,14 @@ void DropGuide::ShowFor(const QDropEvent& drag) {
 
 void DropGuide::paintEvent(QPaintEvent* /*event*/) {
   constexpr int kMargin = 24;
+  constexpr float kVeil = 0.7F;
   constexpr QMargins kPadding(18, 14, 18, 14);
   const theme::Shades& shades = theme::ShadesOf(palette());
   const QColor color = is_taken_ ? shades.accent : shades.unkept_mark;
+  QColor veil = shades.window;
+  veil.setAlphaF(kVeil);
   QPainter painter(this);
+  painter.fillRect(rect(), veil);
   FrameSnapped(painter, rect(), 4, color);
 
   const QRect room = rect().marginsRemoved(kPadding).adjusted(kMargin, 0, -kMargin, 0);

@@ -102,9 +102,13 @@ void RosterBox::PaintMarks(QPainter& painter) const {
 
 void RosterBox::PaintBar(QPainter& painter) const {
   const theme::Shades& shades = theme::ShadesOf(palette());
-  const QColor color = Ground() == shades.fill ? shades.on_fill : shades.accent;
-  // Over the line that the box shares with its neighbour, but within the ring of the focus.
-  const QRect bar = hasFocus() ? QRect(2, 2, 2, height() - 4) : QRect(0, 0, 3, height());
+  const bool is_selected = Ground() == shades.fill;
+  const QColor color = is_selected ? shades.on_fill : shades.accent;
+  // Over the line that the box shares with its neighbour; where the focus has its ring there,
+  // within or, on the ground of a selection, on it, so that three digits stay clear of the bar.
+  const QRect bar = !hasFocus()   ? QRect(0, 0, 3, height())
+                    : is_selected ? QRect(1, 1, 2, height() - 2)
+                                  : QRect(2, 2, 2, height() - 4);
   FrameSnapped(painter, bar, 1, color, color);
 }
 
@@ -142,8 +146,8 @@ void RosterBox::changeEvent(QEvent* event) {
 }
 
 void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
-  // A file is for the window, also where it comes with its path as a text.
-  if (DroppedFile(*event->mimeData())) {
+  // Files are for the window to take or refuse, also where they come with their paths as a text.
+  if (HoldsFiles(*event->mimeData())) {
     event->ignore();
     return;
   }
