@@ -240,6 +240,7 @@ void Editor::Pick(Column feature, std::string code_text) {
 }
 
 void Editor::Leaf(Cell cell, std::string code_text) {
+  if (code_text == state_.grid.Text(cell)) return;
   const CellChange leafed = {cell, state_.grid.Text(cell), std::move(code_text)};
   history_.AddLeafing(leafed);
   state_.grid.SetText(cell, leafed.after);
