@@ -23,13 +23,18 @@ const std::map<std::string, std::set<std::string>> kBelow = {
     {"team", {"image", "codecs"}},
     {"textfile", {"image", "codecs", "team"}},
     {"editor", {"image", "codecs", "team", "textfile"}},
+    {"league", {"image", "codecs", "team", "textfile"}},
+    {"cli", {"image", "codecs", "team", "textfile", "league"}},
     {"art", {}},
     {"ui", {}},
     {"shell", {"image", "codecs", "team", "textfile", "editor", "art", "ui"}}};
 const std::set<std::string> kKnowsQt = {"art", "ui", "shell"};
 // Headers that the build writes, or that only one system has.
-const std::map<std::string, std::string> kSpecial = {{"\"version.h\"", "shell"},
-                                                     {"<windows.h>", "ui"}};
+const std::map<std::string, std::set<std::string>> kSpecial = {{"\"version.h\"", {"shell", "cli"}},
+                                                               {"<CLI/CLI.hpp>", {"cli"}},
+                                                               {"<fcntl.h>", {"cli"}},
+                                                               {"<io.h>", {"cli"}},
+                                                               {"<windows.h>", {"ui"}}};
 
 std::string_view AfterBlanks(std::string_view text) {
   return text.substr(std::min(text.find_first_not_of(" \t"), text.size()));
@@ -56,7 +61,7 @@ bool MayStand(const std::string& layer, std::string_view line) {
   const std::optional<std::string_view> header = Included(line);
   if (!header) return true;
   const auto special = kSpecial.find(std::string(*header));
-  if (special != kSpecial.end()) return special->second == layer;
+  if (special != kSpecial.end()) return special->second.contains(layer);
   if (header->size() < 3) return false;
   const std::string_view name = header->substr(1, header->size() - 2);
   const std::string small_letters = "abcdefghijklmnopqrstuvwxyz";

@@ -62,7 +62,7 @@ void DropGuide::paintEvent(QPaintEvent* /*event*/) {
   constexpr float kVeil = 0.7F;
   constexpr QMargins kPadding(18, 14, 18, 14);
   const theme::Shades& shades = theme::ShadesOf(palette());
-  const QColor color = is_taken_ ? shades.accent : shades.unkept_mark;
+  const QColor color = is_taken_ ? shades.accent : shades.lossy_mark;
   QColor veil = shades.window;
   veil.setAlphaF(kVeil);
   QPainter painter(this);

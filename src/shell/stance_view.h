@@ -26,8 +26,8 @@ struct TriedPicture {
 };
 
 /// A card with one player: his face, body and legs put together in his club's colours, and a plate
-/// with his number, position and name, which stands below the figure where the card is higher than
-/// wide, and beside it where not.
+/// with his number, position and name, which is below the figure on a card that is higher than
+/// wide, and beside it otherwise.
 class StanceView : public QWidget {
   Q_OBJECT
 
@@ -37,10 +37,10 @@ class StanceView : public QWidget {
   /// Shows a player; a code without a picture becomes a question mark, an empty one is left blank.
   void ShowPlayer(const ShownPlayer& player);
 
-  /// Shows the player with another piece; without one as he is.
+  /// Shows the player with another piece; without one, as he is.
   void Try(const std::optional<TriedPicture>& picture);
 
-  /// Dresses the player in these colours; without a club in the blue of the single pieces.
+  /// Dresses the player in these colours; without a club, in the blue of the single pieces.
   void ShowClub(const std::optional<ClubColors>& club);
 
  protected:

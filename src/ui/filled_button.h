@@ -4,16 +4,18 @@
 
 namespace morlek {
 
-/// The push button that does what the window is for. While there is something left to do it is
-/// filled with the accent colour and has a dot behind its caption, else it is outlined.
+/// A push button for the main action of a window. While there is something left to do it is filled
+/// with the accent colour and has a dot behind its caption; otherwise it is outlined.
 class FilledButton : public QPushButton {
   Q_OBJECT
 
  public:
   FilledButton(const QString& caption, QWidget* parent);
 
-  [[nodiscard]] bool is_filled() const { return is_filled_; }
+  /// Shows whether there is something left to do.
   void SetFilled(bool filled);
+
+  [[nodiscard]] bool is_filled() const { return is_filled_; }
 
  protected:
   void initStyleOption(QStyleOptionButton* option) const override;

@@ -26,11 +26,11 @@ struct Shades {
   QColor focus_row;
   QColor stance_row;
   QColor stance_mark;
-  QColor unkept_mark;
+  QColor lossy_mark;
   QColor critical;
   QColor tip;
   QColor tip_text;
-  // Pictures are painted for a light background, which they keep in the dark.
+  // Pictures are painted for a light background, which they keep in a dark window.
   QColor tile;
   QColor tile_text;
   QColor tile_faint_text;
@@ -56,7 +56,7 @@ inline constexpr Shades kLight{
     .focus_row = {0xdb, 0xe8, 0xff},
     .stance_row = {0xff, 0xf5, 0xdb},
     .stance_mark = {0xa8, 0x6b, 0x00},
-    .unkept_mark = {0xd3, 0x2f, 0x2f},
+    .lossy_mark = {0xd3, 0x2f, 0x2f},
     .critical = {0xc6, 0x28, 0x28},
     .tip = {0x1b, 0x22, 0x2d},
     .tip_text = {0xff, 0xff, 0xff},
@@ -85,7 +85,7 @@ inline constexpr Shades kDark{
     .focus_row = {0x28, 0x3d, 0x6b},
     .stance_row = {0x45, 0x3b, 0x1d},
     .stance_mark = {0xe6, 0xb8, 0x4c},
-    .unkept_mark = {0xff, 0x6b, 0x64},
+    .lossy_mark = {0xff, 0x6b, 0x64},
     .critical = {0xd0, 0x33, 0x2f},
     .tip = {0x3d, 0x48, 0x58},
     .tip_text = {0xf2, 0xf5, 0xf9},
@@ -103,8 +103,8 @@ inline constexpr Shades kDark{
 /// The shades as the colours of every part of every window, dialogs and menus included.
 [[nodiscard]] QPalette PaletteOf(const Shades& shades);
 
-/// Makes the embedded font known to the program; call once, before Font. Should that fail, texts
-/// stand in a font of the system.
+/// Makes the embedded font known to the program; call once, before Font. If that fails, texts are
+/// shown in a font of the system.
 void LoadFonts();
 
 /// The size of texts that have no reason for another, in logical pixels.

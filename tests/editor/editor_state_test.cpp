@@ -34,6 +34,8 @@ class EditorStateTest : public TeamTest {
       layouts_set += change.layout_set ? 1 : 0;
       loads += change.loaded ? 1 : 0;
       picked_into = change.picked_into;
+      const auto* letter = std::get_if<UnknownLetter>(&state.note);
+      if (letter != nullptr) notes.push_back(*letter);
     });
   }
 
@@ -54,6 +56,7 @@ class EditorStateTest : public TeamTest {
   int layouts_set = 0;
   int loads = 0;
   std::optional<Cell> picked_into;
+  std::vector<UnknownLetter> notes;
 };
 
 constexpr Cell kNumber{kUniformNumber, 7};
@@ -128,9 +131,12 @@ TEST_F(EditorStateTest, BehindTheMessageOfASaveTheMarksAreFresh) {
   editor.Save();
   EXPECT_EQ(messages.shown,
             (std::vector<Message>{{kUnknownLetter, "MORLEK EDITOR"}, {kSaved, "MORLEK EDITOR"}}));
-  ASSERT_EQ(seen.size(), 1U);
-  EXPECT_EQ(seen[0].messages, 1U) << "after the letter's message, before that of the save";
-  EXPECT_EQ(seen[0].modified, 1) << "the letter that the game lacks";
+  ASSERT_EQ(seen.size(), 2U);
+  EXPECT_EQ(notes.at(0).row, 3);
+  EXPECT_EQ(notes.at(0).letter, "1");
+  EXPECT_EQ(seen[0].messages, 0U) << "before the letter's message";
+  EXPECT_EQ(seen[1].messages, 1U) << "after it, before the message of the save";
+  EXPECT_EQ(seen[1].modified, 1) << "the letter that the game lacks";
 }
 
 TEST_F(EditorStateTest, ANameThatIsTooLongIsReportedBeforeTheFileIsClosedAndTheMarksFollow) {

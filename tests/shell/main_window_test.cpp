@@ -5,8 +5,8 @@
 #include <QWindow>
 
 #include "shell/eye.h"
+#include "shell/splash_window.h"
 #include "shell/window_fixture.h"
-#include "ui/window_place.h"
 
 namespace morlek {
 namespace {

@@ -92,7 +92,7 @@ TEST(ShadesTest, EveryTextCanBeReadAndEveryLineThatTellsSomethingBeSeen) {
       {"ring of the focus", &S::accent, {&S::base, &S::focus_row, &S::stance_row}, kPlain},
       {"ring of a picked team or picture", &S::accent, {&S::window, &S::hover}, kPlain},
       {"ring under the pointer", &S::hover_ring, {&S::window, &S::hover}, kPlain},
-      {"red corner", &S::unkept_mark, boxes, kPlain},
+      {"red corner", &S::lossy_mark, boxes, kPlain},
       {"bar of a selected text that is not saved", &S::on_fill, {&S::fill}, kPlain},
       {"mark of the player in view", &S::stance_mark, {&S::window}, kPlain},
       {"handle of a scroll bar", &S::faint_text, {&S::header_band}, kPlain},

@@ -153,7 +153,7 @@ TEST_F(RosterBoxTest, TheRingFramesTheBoxWithTheFocusAboveItsNeighboursAndLetsTh
   }
   EXPECT_FALSE(ring_around(Box(1, 7)));
   TypeInto(3, 7, "ABC");
-  EXPECT_GE(CountOf(Seen(Box(3, 7)).copy(23, 0, 2, 9), theme::kLight.unkept_mark), 6)
+  EXPECT_GE(CountOf(Seen(Box(3, 7)).copy(23, 0, 2, 9), theme::kLight.lossy_mark), 6)
       << "the red corner stands above the ring";
   Box(3, 7).clearFocus();
   EXPECT_EQ(CountOf(Seen(Box(3, 7)).copy(3, 0, 22, 2), accent, 0), 0) << "right of the bar";
