@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace morlek {
 
@@ -32,6 +33,17 @@ class PictureCodes {
     return static_cast<std::uint8_t>(16 * (place / low_digits_) + place % low_digits_);
   }
 
+  /// The next higher code that has a picture, or backwards the next lower one; nothing at that end.
+  /// `code` may have any value; without one every code is ahead.
+  [[nodiscard]] constexpr std::optional<std::uint8_t> NextTo(std::optional<int> code,
+                                                             bool backwards) const {
+    for (int step = 0; step < count(); ++step) {
+      const std::uint8_t next = CodeAt(backwards ? count() - 1 - step : step);
+      if (!code || (backwards ? next < *code : next > *code)) return next;
+    }
+    return std::nullopt;
+  }
+
   /// The picture index of a place.
   [[nodiscard]] static constexpr int IndexAt(int place) {
     return kPictureRows * (place % kPictureColumns) + place / kPictureColumns;
@@ -44,5 +56,10 @@ class PictureCodes {
 
 inline constexpr PictureCodes kFaceAndBodyCodes{6, 8};
 inline constexpr PictureCodes kLegsCodes{2, 5};
+
+/// Whether faces and bodies of these codes have one skin: two neighbouring high digits share one.
+[[nodiscard]] constexpr bool HaveOneSkin(int one_code, int other_code) {
+  return one_code / 32 == other_code / 32;
+}
 
 }  // namespace morlek

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "team/record_bytes.h"
 #include "team/roster_grid.h"
 #include "team/save_preview.h"
@@ -12,7 +14,7 @@ namespace morlek {
 class Baseline {
  public:
   /// A load has read these bytes and shown these texts.
-  Baseline(const RecordBytes& read, const RosterGrid& shown) : bytes_(read), texts_(shown) {}
+  Baseline(const RecordBytes& read, RosterGrid shown) : bytes_(read), texts_(std::move(shown)) {}
 
   /// Takes over what a save has written; `preview` was made just before it. A cell of which a byte
   /// was refused keeps its text.

@@ -66,7 +66,7 @@ OpenResult Editor::OpenFirstImage(const std::filesystem::path& path) {
                                        : OpenResult::kNotOpened;
   StepNote note;
   if (!accepted && !path.empty()) note = RefusedFile{path, LacksHeader(path)};
-  EndFileStep(result, {}, note);
+  EndOpening(path, result, {}, note);
   if (!accepted) {
     messages_.Show({"You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
   }
@@ -77,12 +77,12 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
   const std::optional<std::uint8_t> identity = image_.ReadIdentityByte(path);
   if (!identity) {
     // The image that was current stays so, and nothing is reported.
-    EndFileStep(OpenResult::kNotOpened);
+    EndOpening(path, OpenResult::kNotOpened);
     return OpenResult::kNotOpened;
   }
   if (!ShowIdentity(*identity)) {
     image_.Close();
-    EndFileStep(OpenResult::kRefused, {}, RefusedFile{path, LacksHeader(path)});
+    EndOpening(path, OpenResult::kRefused, {}, RefusedFile{path, LacksHeader(path)});
     messages_.Show({"This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
     return OpenResult::kRefused;
   }
@@ -92,7 +92,7 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
   const StepNote left_behind = LeftBehindIn(before);
   AddStep(before, {});
   Enter(state_.scene);
-  EndFileStep(OpenResult::kOpened, {.layout_set = true}, left_behind);
+  EndOpening(path, OpenResult::kOpened, {.layout_set = true}, left_behind);
   return OpenResult::kOpened;
 }
 
@@ -119,7 +119,7 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
 
   const Scene before = state_.scene;
   RosterGrid grid = state_.grid;
-  const LoadResult result = morlek::LoadTeam(image_, LocationOf(team), codec_state_, grid);
+  LoadResult result = morlek::LoadTeam(image_, LocationOf(team), codec_state_, grid);
   const StepNote left_behind = LeftBehindIn(before);
   state_.note = {};
   baseline_ = nullptr;
@@ -238,8 +238,12 @@ ExportResult Editor::ExportTeam(const std::filesystem::path& path) {
   return result;
 }
 
+bool Editor::IsTeamFile(const std::filesystem::path& path) {
+  return UpperCase(path.extension().string()) == ".TXT";
+}
+
 void Editor::TakeFile(const std::filesystem::path& path) {
-  if (UpperCase(path.extension().string()) == ".TXT") {
+  if (IsTeamFile(path)) {
     ImportTeam(path);
   } else {
     OpenAnotherImage(path);
@@ -268,6 +272,17 @@ void Editor::Pick(Column feature, std::string code_text) {
   const Cell cell{feature, state_.stance_row};
   grid.SetText(cell, std::move(code_text));
   EndStep({.texts = Replace(grid), .picked_into = cell});
+}
+
+void Editor::Leaf(Cell cell, std::string code_text) {
+  if (code_text == state_.grid.Text(cell)) return;
+  const CellChange leafed = {cell, state_.grid.Text(cell), std::move(code_text)};
+  history_.AddLeafing(leafed);
+  state_.grid.SetText(cell, leafed.after);
+  state_.stance_row = cell.row;
+  state_.chooser = cell.column;
+  const bool widened = std::exchange(state_.layout, Layout::kWide) != Layout::kWide;
+  EndStep({.texts = {leafed}, .picked_into = cell, .layout_set = widened});
 }
 
 void Editor::PasteBlock(Cell start, std::string_view block) {
@@ -356,6 +371,13 @@ void Editor::EndFileStep(StepOutcome outcome, const StateChange& change, StepNot
   state_.outcome = std::move(outcome);
   state_.is_file_held = channel_.is_open();
   Publish(change);
+}
+
+void Editor::EndOpening(const std::filesystem::path& path, OpenResult result,
+                        const StateChange& change, StepNote note) {
+  state_.refused.reset();
+  if (result != OpenResult::kOpened) state_.refused = {path, result};
+  EndFileStep(result, change, std::move(note));
 }
 
 void Editor::Publish(const StateChange& change) {

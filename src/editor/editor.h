@@ -68,9 +68,12 @@ class Editor {
   /// Writes the grid to a team data file. A failure is not reported.
   ExportResult ExportTeam(const std::filesystem::path& path);
 
-  /// Takes a file that was given without a question as if it had been chosen: a ".txt" to import,
-  /// anything else as another image.
+  /// Takes a file that was given without a question as if it had been chosen: a team file to
+  /// import, anything else as another image.
   void TakeFile(const std::filesystem::path& path);
+
+  /// Whether a file is a team file by its name: a ".txt".
+  [[nodiscard]] static bool IsTeamFile(const std::filesystem::path& path);
 
   /// The focus came to a cell: what is typed from now on is a step of its own.
   void EndVisit() { history_.EndVisit(); }
@@ -84,6 +87,10 @@ class Editor {
 
   /// Puts the code of a picked picture into a features column of the stance row, in one step.
   void Pick(Column feature, std::string code_text);
+
+  /// Puts the code of a next picture into a features cell, whose chooser comes into view as by a
+  /// visit. All leafing of one visit is one step.
+  void Leaf(Cell cell, std::string code_text);
 
   /// Lays a pasted block of cells into the grid from a cell on, in one step. The outcome says what
   /// found no place.
@@ -146,6 +153,10 @@ class Editor {
 
   /// Ends a step that had to do with a file.
   void EndFileStep(StepOutcome outcome, const StateChange& change = {}, StepNote note = {});
+
+  /// Ends a step that chose an image.
+  void EndOpening(const std::filesystem::path& path, OpenResult result,
+                  const StateChange& change = {}, StepNote note = {});
 
   void Publish(const StateChange& change = {});
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <variant>
@@ -28,6 +29,12 @@ enum class Layout { kNarrow, kWide };
 /// What came of the last step, when that had to do with a file or pasted a block; else nothing.
 using StepOutcome = std::variant<std::monostate, OpenResult, LoadResult, SaveResult, ImportResult,
                                  ExportResult, PasteResult>;
+
+/// A file that was chosen as an image and did not become one.
+struct RefusedImage {
+  std::filesystem::path path;
+  OpenResult why = OpenResult::kNotOpened;
+};
 
 /// Changes that a step to another team or image has left unsaved; taking it back brings them back.
 struct LeftBehind {
@@ -86,6 +93,8 @@ struct EditorState {
   /// Whether a step that is over has left a file open, which keeps others from being opened.
   bool is_file_held = false;
   StepOutcome outcome;
+  /// What became of the last file that was chosen as an image; nothing once one was opened.
+  std::optional<RefusedImage> refused;
   StepNote note;
 };
 

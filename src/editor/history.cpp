@@ -29,16 +29,17 @@ void History::Add(Step step) {
   done_ = steps_.size();
 }
 
-void History::AddTyping(const CellChange& typed) {
-  if (visited_ != typed.cell) {
-    Add({.texts = {typed}, .scenes = {}});
-    visited_ = typed.cell;
+void History::AddToVisit(const CellChange& change, Way way) {
+  const Visit visit{change.cell, way};
+  if (visited_ != visit) {
+    Add({.texts = {change}, .scenes = {}});
+    visited_ = visit;
     return;
   }
   CellChange& step = steps_.back().texts.front();
-  bytes_ += typed.after.size();
+  bytes_ += change.after.size();
   bytes_ -= step.after.size();
-  step.after = typed.after;
+  step.after = change.after;
   if (step.after == step.before) {
     DropLastStep();
     done_ = steps_.size();

@@ -29,9 +29,12 @@ class History {
 
   /// Adds what was typed into a cell. All that is typed into one cell in one visit is one step,
   /// and none at all when it comes back to what it was.
-  void AddTyping(const CellChange& typed);
+  void AddTyping(const CellChange& typed) { AddToVisit(typed, Way::kTyping); }
 
-  /// Ends a visit: what is typed from now on is another step.
+  /// Likewise for a code that was leafed to. Typing and leafing are steps of their own.
+  void AddLeafing(const CellChange& leafed) { AddToVisit(leafed, Way::kLeafing); }
+
+  /// Ends a visit: what is typed or leafed from now on is another step.
   void EndVisit() { visited_.reset(); }
 
   /// The step that takes the last one back, or makes it again; nothing when there is none.
@@ -42,14 +45,23 @@ class History {
   [[nodiscard]] bool can_redo() const { return done_ < steps_.size(); }
 
  private:
+  /// How a text came into a cell that was visited.
+  enum class Way { kTyping, kLeafing };
+  struct Visit {
+    Cell cell;
+    Way way;
+    friend bool operator==(const Visit&, const Visit&) = default;
+  };
+
+  void AddToVisit(const CellChange& change, Way way);
   void DropLastStep();
 
   // Steps before `done_` have been made, later ones were taken back.
   std::deque<Step> steps_;
   std::size_t done_ = 0;
   std::size_t bytes_ = 0;
-  // The cell whose typing made the last step and goes on.
-  std::optional<Cell> visited_;
+  // What made the last step and goes on.
+  std::optional<Visit> visited_;
 };
 
 }  // namespace morlek

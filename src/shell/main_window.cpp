@@ -13,9 +13,12 @@
 
 #include "shell/code_page_text.h"
 #include "shell/content_area.h"
+#include "shell/drop_guide.h"
 #include "shell/help_pane.h"
 #include "shell/hint_label.h"
+#include "shell/hint_note.h"
 #include "shell/roster_frame.h"
+#include "shell/stance_mark.h"
 #include "shell/stance_panel.h"
 #include "shell/status_line.h"
 #include "shell/team_toolbar.h"
@@ -31,7 +34,8 @@ namespace {
 constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
 constexpr int kHintBottom = 560;  // above the middle, in logical pixels
-constexpr int kRowMargin = 24;    // what stays in view around a box, in logical pixels
+constexpr int kHintNoteHeight = 60;
+constexpr int kRowMargin = 24;  // what stays in view around a box, in logical pixels
 
 constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
 
@@ -83,6 +87,10 @@ void MainWindow::BuildContent() {
   hint_ = new HintLabel({0, 0, FromTwips(kNarrowWidth), kHintBottom}, content_);
   connect(hint_, &HintLabel::OpenRequested, this, [this] { Run(Command::kOpen); });
 
+  hint_note_ = new HintNote({kRowMargin, hint_->geometry().bottom(),
+                             FromTwips(kNarrowWidth) - 2 * kRowMargin, kHintNoteHeight},
+                            content_);
+
   status_ = new StatusLine(content_);
   area_->KeepInView(status_);
   area_->KeepInView(identity_);
@@ -126,10 +134,12 @@ void MainWindow::AddRoster() {
   connect(stances_, &StancePanel::Picked, this,
           [this](Column feature, const std::string& code) { editor_.Pick(feature, code); });
   stances_->show();
+  stance_mark_ = new StanceMark(*roster_, content_);
 
   subscription_ = editor_.Subscribe(
       [this](const EditorState& state, const StateChange& change) { Show(state, change); });
   setAcceptDrops(true);
+  new DropGuide(editor_, *area_);
 }
 
 void MainWindow::Show(const EditorState& state, const StateChange& change) {
@@ -137,9 +147,11 @@ void MainWindow::Show(const EditorState& state, const StateChange& change) {
   identity_->setAccessibleDescription(identity_->text());
   toolbar_->Show(state);
   hint_->Show(state);
+  hint_note_->Show(state);
   if (change.layout_set) SetLayout(state.layout);
   roster_->Show(state, change);
   stances_->Show(state);
+  stance_mark_->Show(state);
   status_->Show(state);
 }
 

@@ -13,7 +13,9 @@ namespace morlek {
 class ContentArea;
 class HelpPane;
 class HintLabel;
+class HintNote;
 class RosterFrame;
+class StanceMark;
 class StancePanel;
 class StatusLine;
 class TeamToolbar;
@@ -73,8 +75,10 @@ class MainWindow : public QMainWindow {
   // Created once the first question has been answered, which is asked over the painted window.
   RosterFrame* roster_ = nullptr;
   StancePanel* stances_ = nullptr;
+  StanceMark* stance_mark_ = nullptr;
   QLabel* identity_ = nullptr;
   HintLabel* hint_ = nullptr;
+  HintNote* hint_note_ = nullptr;
   StatusLine* status_ = nullptr;
   Editor::Subscription subscription_;
   // Created when it is first needed, so that the start does not wait for it.

@@ -89,14 +89,30 @@ void RosterBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     PaintFrame(painter, Qt::transparent);
   }
-  // The focus ring covers the box and paints the mark itself.
-  if (hasFocus() || !mark_.is_lossy) return;
+  // The focus ring covers the box and paints the marks itself.
+  if (hasFocus() || !mark_.is_marked()) return;
   QPainter painter(this);
-  PaintMark(painter);
+  PaintMarks(painter);
 }
 
-void RosterBox::PaintMark(QPainter& painter) const {
-  if (!mark_.is_lossy) return;
+void RosterBox::PaintMarks(QPainter& painter) const {
+  if (mark_.is_modified) PaintBar(painter);
+  if (mark_.is_lossy) PaintCorner(painter);
+}
+
+void RosterBox::PaintBar(QPainter& painter) const {
+  const theme::Shades& shades = theme::ShadesOf(palette());
+  const bool is_selected = Background() == shades.fill;
+  const QColor color = is_selected ? shades.on_fill : shades.accent;
+  // Over the line that the box shares with its neighbour; with the focus
+  // inside its ring or, on a selection, on it, so that three digits stay clear of the bar.
+  const QRect bar = !hasFocus()   ? QRect(0, 0, 3, height())
+                    : is_selected ? QRect(1, 1, 2, height() - 2)
+                                  : QRect(2, 2, 2, height() - 4);
+  FrameSnapped(painter, bar, 1, color, color);
+}
+
+void RosterBox::PaintCorner(QPainter& painter) const {
   // Above text and selection, with an edge that sets it off from both.
   constexpr qreal kSize = 7;
   const theme::Shades& shades = theme::ShadesOf(palette());
@@ -130,8 +146,8 @@ void RosterBox::changeEvent(QEvent* event) {
 }
 
 void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
-  // A file is for the window, even if its path comes along as a text.
-  if (DroppedFile(*event->mimeData())) {
+  // Files are for the window to take or refuse, even if their paths come along as a text.
+  if (HoldsFiles(*event->mimeData())) {
     event->ignore();
     return;
   }
@@ -163,6 +179,10 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
     emit RowStepRequested(-1);
   } else if (plain && (event->key() == Qt::Key_Down || is_return)) {
     emit RowStepRequested(+1);
+  } else if (plain && IsFeature(cell_.column) && event->key() == Qt::Key_PageUp) {
+    emit LeafRequested(-1);
+  } else if (plain && IsFeature(cell_.column) && event->key() == Qt::Key_PageDown) {
+    emit LeafRequested(+1);
   } else if (plain && event->key() == Qt::Key_Escape) {
     TakeBack();
   } else if (event->modifiers() == Qt::ShiftModifier && event->key() == Qt::Key_F10) {

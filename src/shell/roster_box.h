@@ -30,9 +30,9 @@ class RosterBox : public ValueEdit, public OwnPanel {
   /// Paints the box as a cell of the sheet: neighbours share their border lines.
   void PaintPanel(QPainter& painter) const override;
 
-  /// Paints the corner of a cell that SAVE will not keep; nothing for other cells. Belongs above
-  /// the focus ring.
-  void PaintMark(QPainter& painter) const;
+  /// Paints the bar of a cell that is not saved and the corner of one that SAVE will not keep.
+  /// Belongs above the focus ring.
+  void PaintMarks(QPainter& painter) const;
 
  signals:
   /// A block of cells, in the code page, was pasted here.
@@ -44,6 +44,9 @@ class RosterBox : public ValueEdit, public OwnPanel {
   /// The context menu is about to open, or has closed.
   void MenuOpens();
   void MenuCloses();
+
+  /// Page Down (+1) or Page Up (-1) was pressed in a features box.
+  void LeafRequested(int pictures);
 
  protected:
   bool event(QEvent* event) override;
@@ -60,6 +63,8 @@ class RosterBox : public ValueEdit, public OwnPanel {
   void ColorText();
   [[nodiscard]] QColor Background() const;
   void PaintFrame(QPainter& painter, const QColor& background) const;
+  void PaintBar(QPainter& painter) const;
+  void PaintCorner(QPainter& painter) const;
 
   Cell cell_;
   CellMark mark_;

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "shell/form_layout.h"
+#include "shell/leafing.h"
 #include "shell/mark_text.h"
 #include "shell/player_commands.h"
 #include "shell/roster_box.h"
@@ -44,7 +45,7 @@ class FocusRing : public QFocusFrame {
     if (!box_) return;
     QPainter painter(this);
     FrameSnapped(painter, rect(), 2, theme::ShadesOf(palette()).accent);
-    box_->PaintMark(painter);
+    box_->PaintMarks(painter);
   }
 
  private:
@@ -113,7 +114,7 @@ void RosterFrame::ShowMarks(const EditorState& state) {
     if (!std::exchange(is_marked_.at(IndexOf(cell)), is_marked) && !is_marked) continue;
     BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
   }
-  save_->SetDotted(marks.modified_count() > 0);
+  save_->SetFilled(marks.modified_count() > 0);
   save_->setAccessibleDescription(SummaryOf(marks));
   undo_->setEnabled(state.can_undo);
   redo_->setEnabled(state.can_redo);
@@ -124,7 +125,7 @@ void RosterFrame::ShowTints() {
   const EditorState& state = editor_.state();
   for (const Cell cell : kAllCells) {
     const bool is_stance = state.layout == Layout::kWide && cell.row == state.stance_row;
-    BoxAt(cell).SetTint(is_stance ? kStanceRow : cell.row == focus_row_ ? kFocusRow : kNone);
+    BoxAt(cell).SetTint(cell.row == focus_row_ ? kFocusRow : is_stance ? kStanceRow : kNone);
   }
 }
 
@@ -190,6 +191,8 @@ void RosterFrame::AddBox(Cell cell) {
   connect(box, &RosterBox::RowStepRequested, this, [this, cell](int rows) { StepRow(cell, rows); });
   connect(box, &RosterBox::MenuOpens, this, [this] { players_->MenuOpens(); });
   connect(box, &RosterBox::MenuCloses, this, [this] { players_->MenuCloses(); });
+  connect(box, &RosterBox::LeafRequested, this,
+          [this, cell](int pictures) { LeafPictures(editor_, cell, pictures); });
 }
 
 void RosterFrame::AddTeamNameAndSave() {

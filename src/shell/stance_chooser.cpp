@@ -1,7 +1,9 @@
 #include "shell/stance_chooser.h"
 
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
+#include <utility>
 
 #include "codecs/hex_text.h"
 #include "shell/code_page_text.h"
@@ -15,6 +17,7 @@ namespace {
 constexpr int kLeft = 8;  // the narrow layout ends 3 px inside the frame, where nothing may show
 constexpr int kTop = 26;
 constexpr int kTileGap = 2;
+constexpr QSize kCheckSize(7, 6);
 
 /// The size of a chooser's tiles. The few legs have room for higher ones, with the code below.
 QSize TileSize(StancePiece piece) {
@@ -25,6 +28,14 @@ QSize TileSize(StancePiece piece) {
 QRectF PictureArea(const QSize& tile) {
   return tile.height() > tile.width() ? QRectF(2, 4, tile.width() - 4, tile.width() - 4)
                                       : QRectF(2, 1, tile.height() - 2, tile.height() - 2);
+}
+
+void PaintCheck(QPainter& painter, const QPointF& top_left, const QColor& color) {
+  constexpr qreal kLine = 1.6;
+  const QPointF foot = top_left + QPointF(kCheckSize.width() * 0.38, kCheckSize.height());
+  painter.setPen(QPen(color, kLine, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(QPolygonF({top_left + QPointF(0, kCheckSize.height() * 0.55), foot,
+                                  top_left + QPointF(kCheckSize.width(), 0)}));
 }
 
 }  // namespace
@@ -41,6 +52,7 @@ class StancePicture : public MarkedButton {
     setAccessibleName(QString("%1 %2").arg(QString(kind.title).toLower(), code_text_));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
+    setMouseTracking(true);
     const QSize size = TileSize(kind.piece);
     setGeometry(QRect(QPoint(kLeft + (size.width() + kTileGap) * (index / kPictureRows),
                              kTop + (size.height() + kTileGap) * (index % kPictureRows)),
@@ -49,6 +61,13 @@ class StancePicture : public MarkedButton {
 
   [[nodiscard]] std::uint8_t code() const { return code_; }
   [[nodiscard]] const QString& code_text() const { return code_text_; }
+
+  /// Shows a check for what `meaning` says; no check without a meaning.
+  void SetCheck(const QString& meaning) {
+    if (meaning == accessibleDescription()) return;
+    setAccessibleDescription(meaning);
+    update();
+  }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
@@ -72,6 +91,10 @@ class StancePicture : public MarkedButton {
     painter.setFont(theme::Font(code_pixels, marked ? QFont::Bold : QFont::Normal));
     painter.drawText(QRectF(rect()).adjusted(0, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
                      code_text_);
+    if (!accessibleDescription().isEmpty()) {
+      PaintCheck(painter, QPointF(width() - 4.5 - kCheckSize.width(), 5.5),
+                 marked ? shades.marked_tile_text : shades.tile_faint_text);
+    }
   }
 
  private:
@@ -80,7 +103,8 @@ class StancePicture : public MarkedButton {
   QString code_text_;
 };
 
-StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent) : QFrame(parent) {
+StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent)
+    : QFrame(parent), kind_(kind) {
   constexpr int kTitlePixels = 12;
   setObjectName(kind.frame_name);
   setAccessibleName(QString("%1 chooser").arg(QString(kind.title).toLower()));
@@ -97,6 +121,7 @@ StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent) : QFrame(
     auto* picture =
         new StancePicture(kind, PictureCodes::IndexAt(place), codes.CodeAt(place), this);
     pictures_.push_back(picture);
+    picture->installEventFilter(this);
     connect(picture, &QAbstractButton::clicked, this,
             [this, picture] { emit CodePicked(picture->code_text()); });
   }
@@ -104,6 +129,48 @@ StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent) : QFrame(
 
 void StanceChooser::Mark(std::optional<int> code) {
   for (StancePicture* picture : pictures_) picture->SetMarked(code == picture->code());
+}
+
+void StanceChooser::ShowFitting(std::optional<int> other_code) {
+  const bool shows =
+      kind_.fitting != nullptr && other_code && PictureCodesOf(kind_.piece).Contains(*other_code);
+  for (StancePicture* picture : pictures_) {
+    const bool fits = shows && HaveOneSkin(picture->code(), *other_code);
+    picture->SetCheck(fits ? kind_.fitting : QString());
+  }
+  if (std::exchange(shows_fitting_, shows) != shows) update();
+}
+
+bool StanceChooser::eventFilter(QObject* watched, QEvent* event) {
+  const auto* picture = dynamic_cast<const StancePicture*>(watched);
+  if (picture != nullptr && event->type() == QEvent::MouseMove) {
+    // A button that is held down follows the pointer beyond its edge.
+    const bool is_inside = picture->rect().contains(static_cast<QMouseEvent*>(event)->pos());
+    emit PointedAt(is_inside ? std::optional<int>(picture->code()) : std::nullopt);
+  } else if (event->type() == QEvent::Leave || event->type() == QEvent::Hide) {
+    emit PointedAt(std::nullopt);
+  }
+  return QFrame::eventFilter(watched, event);
+}
+
+void StanceChooser::paintEvent(QPaintEvent* event) {
+  QFrame::paintEvent(event);
+  if (!shows_fitting_) return;
+  constexpr int kPixels = 11;
+  constexpr int kGap = 5;
+  const QColor color = theme::ShadesOf(palette()).faint_text;
+  const int right = pictures_.back()->geometry().right();
+  const QRect words(0, 5, right + 1, 16);
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setFont(theme::Font(kPixels));
+  painter.setPen(color);
+  painter.drawText(words, Qt::AlignRight | Qt::AlignVCenter, kind_.fitting);
+  const int width = painter.fontMetrics().horizontalAdvance(kind_.fitting);
+  PaintCheck(painter,
+             QPointF(words.right() - width - kGap - kCheckSize.width(),
+                     words.center().y() - kCheckSize.height() / 2.0),
+             color);
 }
 
 }  // namespace morlek

@@ -21,9 +21,10 @@ constexpr QRect kViewAreaBelowLegs(8, 246, 206, 403);  // of which there are few
 constexpr std::array<ChooserKind, kFeatures.size()> kKinds = {{
     {StancePiece::kFace, "Frame2", "Picture1", "Label1", "Face",
      "This will edit the skin color and facial features of a player but not hair color. Click to "
-     "make selection."},
-    {StancePiece::kBody, "Frame3", "Picture2", "Label2", "Body", ""},
-    {StancePiece::kLegs, "Frame4", "Picture3", "Label5", "Legs", ""},
+     "make selection.",
+     "skin of the body"},
+    {StancePiece::kBody, "Frame3", "Picture2", "Label2", "Body", "", "skin of the face"},
+    {StancePiece::kLegs, "Frame4", "Picture3", "Label5", "Legs", "", nullptr},
 }};
 
 /// Where the player is shown below a chooser.
@@ -49,6 +50,9 @@ void StancePanel::AddChooser(std::size_t place) {
   connect(chooser, &StanceChooser::CodePicked, this, [this, place](const QString& code_text) {
     emit Picked(kFeatures.at(place), ToCodePage(code_text));
   });
+  connect(chooser, &StanceChooser::PointedAt, this, [this, place](std::optional<int> code) {
+    view_->Try(code ? std::optional(TriedPicture{kKinds.at(place).piece, *code}) : std::nullopt);
+  });
   choosers_.at(place) = chooser;
 }
 
@@ -66,6 +70,10 @@ void StancePanel::Show(const EditorState& state) {
     choosers_.at(place)->Mark(code);
     if (!text_of(column).empty()) pieces.at(place) = code.value_or(kUnknownCode);
   }
+  choosers_[0]->ShowFitting(pieces[1]);
+  choosers_[1]->ShowFitting(pieces[0]);
+  // A pointer that is left at rest does not hide what a step has changed.
+  view_->Try({});
   if (state.scene.place.team != nullptr) view_->ShowClub(LookOf(*state.scene.place.team).colors);
   view_->ShowPlayer({.name = FromCodePage(text_of(Column::kName)),
                      .number = FromCodePage(text_of(Column::kUniformNumber)),

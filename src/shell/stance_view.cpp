@@ -80,6 +80,22 @@ void PaintWords(QPainter& painter, const QRectF& plate, const ShownPlayer& playe
   Write(painter, name, {is_wide ? 24 : 18, 11, left}, player.name);
 }
 
+StanceCodes WithTried(StanceCodes codes, const std::optional<TriedPicture>& tried) {
+  if (!tried) return codes;
+  switch (tried->piece) {
+    case StancePiece::kFace:
+      codes.face = tried->code;
+      break;
+    case StancePiece::kBody:
+      codes.body = tried->code;
+      break;
+    case StancePiece::kLegs:
+      codes.legs = tried->code;
+      break;
+  }
+  return codes;
+}
+
 }  // namespace
 
 StanceView::StanceView(QWidget* parent) : QWidget(parent) {
@@ -92,6 +108,12 @@ void StanceView::ShowPlayer(const ShownPlayer& player) {
   if (player == player_) return;
   player_ = player;
   setAccessibleDescription(player.name);
+  update();
+}
+
+void StanceView::Try(const std::optional<TriedPicture>& picture) {
+  if (picture == tried_) return;
+  tried_ = picture;
   update();
 }
 
@@ -111,8 +133,8 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(shades.line);
   painter.setBrush(shades.tile);
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
-  PaintStance(painter, parts.figure.adjusted(kMargin, kMargin, -kMargin, -kMargin), player_.codes,
-              club_);
+  PaintStance(painter, parts.figure.adjusted(kMargin, kMargin, -kMargin, -kMargin),
+              WithTried(player_.codes, tried_), club_);
 
   QPainterPath card;
   card.addRoundedRect(rect(), kRadius, kRadius);

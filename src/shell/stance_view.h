@@ -17,6 +17,14 @@ struct ShownPlayer {
   friend bool operator==(const ShownPlayer&, const ShownPlayer&) = default;
 };
 
+/// A picture that is tried on a player.
+struct TriedPicture {
+  StancePiece piece;
+  int code;
+
+  friend bool operator==(const TriedPicture&, const TriedPicture&) = default;
+};
+
 /// A card with one player: his face, body and legs put together in his club's colours, and a plate
 /// with his number, position and name, which is below the figure on a card that is higher than
 /// wide, and beside it otherwise.
@@ -29,6 +37,9 @@ class StanceView : public QWidget {
   /// Shows a player; a code without a picture becomes a question mark, an empty one is left blank.
   void ShowPlayer(const ShownPlayer& player);
 
+  /// Shows the player with another piece; without one, as he is.
+  void Try(const std::optional<TriedPicture>& picture);
+
   /// Dresses the player in these colours; without a club, in the blue of the single pieces.
   void ShowClub(const std::optional<ClubColors>& club);
 
@@ -37,6 +48,7 @@ class StanceView : public QWidget {
 
  private:
   ShownPlayer player_;
+  std::optional<TriedPicture> tried_;
   std::optional<ClubColors> club_;
 };
 

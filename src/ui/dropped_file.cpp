@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QMimeData>
 #include <QUrl>
+#include <algorithm>
 
 namespace morlek {
 
@@ -12,6 +13,10 @@ std::optional<QString> DroppedFile(const QMimeData& data) {
   const QString path = urls.front().toLocalFile();
   if (!QFileInfo(path).isFile()) return std::nullopt;
   return path;
+}
+
+bool HoldsFiles(const QMimeData& data) {
+  return std::ranges::any_of(data.urls(), &QUrl::isLocalFile);
 }
 
 }  // namespace morlek

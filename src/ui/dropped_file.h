@@ -11,4 +11,7 @@ namespace morlek {
 /// are several.
 [[nodiscard]] std::optional<QString> DroppedFile(const QMimeData& data);
 
+/// Whether files or folders of this machine are being dragged, however many.
+[[nodiscard]] bool HoldsFiles(const QMimeData& data);
+
 }  // namespace morlek

@@ -10,22 +10,22 @@ namespace morlek {
 FilledButton::FilledButton(const QString& caption, QWidget* parent)
     : QPushButton(caption, parent) {}
 
-void FilledButton::SetDotted(bool dotted) {
-  if (dotted == is_dotted_) return;
-  is_dotted_ = dotted;
+void FilledButton::SetFilled(bool filled) {
+  if (filled == is_filled_) return;
+  is_filled_ = filled;
   update();
 }
 
 void FilledButton::initStyleOption(QStyleOptionButton* option) const {
   QPushButton::initStyleOption(option);
   const theme::Shades& shades = theme::ShadesOf(palette());
-  option->palette.setColor(QPalette::Button, shades.fill);
-  option->palette.setColor(QPalette::ButtonText, shades.on_fill);
+  option->palette.setColor(QPalette::Button, is_filled_ ? shades.fill : shades.base);
+  option->palette.setColor(QPalette::ButtonText, is_filled_ ? shades.on_fill : shades.accent);
 }
 
 void FilledButton::paintEvent(QPaintEvent* event) {
   QPushButton::paintEvent(event);
-  if (!is_dotted_) return;
+  if (!is_filled_) return;
   constexpr qreal kRadius = 3.5;
   constexpr qreal kGap = 9;
   const qreal caption_end = (width() + fontMetrics().horizontalAdvance(text())) / 2.0;

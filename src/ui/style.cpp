@@ -15,15 +15,18 @@
 namespace morlek {
 namespace {
 
-/// A flat button in its palette's colour. The default button has an outline of the accent colour. A
-/// filled button has an outline of its own colour and gets lighter or darker under the mouse.
-void PaintButton(QPainter& painter, const QStyleOption& option, bool filled) {
+/// A flat button in its palette's colour; `main_button` is null for all but FilledButton. The
+/// default button and an outlined main one have an outline of the accent colour. A filled button
+/// has an outline of its own colour and gets lighter or darker under the mouse.
+void PaintButton(QPainter& painter, const QStyleOption& option, const FilledButton* main_button) {
   constexpr qreal kRadius = 4;
   const bool pressed = option.state.testFlag(QStyle::State_Sunken);
   const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
-  const bool is_default =
-      button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
+  const bool filled = main_button != nullptr && main_button->is_filled();
+  const bool is_outlined =
+      main_button != nullptr ||
+      (button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton));
   const bool focused = option.state.testFlag(QStyle::State_HasFocus);
 
   const theme::Shades& shades = theme::ShadesOf(option.palette);
@@ -40,7 +43,7 @@ void PaintButton(QPainter& painter, const QStyleOption& option, bool filled) {
 
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(filled ? fill : is_default ? shades.accent : shades.line);
+  painter.setPen(filled ? fill : is_outlined ? shades.accent : shades.line);
   painter.setBrush(fill);
   const QRectF outline = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
   painter.drawRoundedRect(outline, kRadius, kRadius);
@@ -112,7 +115,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     }
   }
   if (element == PE_PanelButtonCommand) {
-    PaintButton(*painter, *option, qobject_cast<const FilledButton*>(widget) != nullptr);
+    PaintButton(*painter, *option, qobject_cast<const FilledButton*>(widget));
     return;
   }
   if (element == PE_Frame) {

@@ -22,6 +22,10 @@ struct Edited {
     history.AddTyping({cell, grid.Text(cell), text});
     grid.SetText(cell, text);
   }
+  void Leaf(Cell cell, const std::string& text) {
+    history.AddLeafing({cell, grid.Text(cell), text});
+    grid.SetText(cell, text);
+  }
   void Replace(const RosterGrid& next) {
     const GridChange change = ChangeBetween(grid, next);
     if (!change.empty()) history.Add({.texts = change, .scenes = {}});
@@ -72,6 +76,21 @@ TEST(History, TypingInOneVisitIsOneStep) {
   edited.Type(kSeventh, "1");
   edited.Type(kSeventh, "");
   EXPECT_EQ(edited.Undo(), std::nullopt) << "typed and taken back by hand";
+}
+
+TEST(History, LeafingIsOneStepAVisitBesideTyping) {
+  Edited edited;
+  edited.Type(kSeventh, "5");
+  for (const char* text : {"6", "7", "10"}) edited.Leaf(kSeventh, text);
+  edited.Type(kSeventh, "101");
+  edited.Leaf(kSeventh, "57");
+  edited.history.EndVisit();
+  edited.Leaf(kSeventh, "56");
+  for (const char* text : {"57", "101", "10", "5", ""}) {
+    EXPECT_EQ(edited.Undo(), kSeventh);
+    EXPECT_EQ(edited.grid.Text(kSeventh), text);
+  }
+  EXPECT_EQ(edited.Undo(), std::nullopt);
 }
 
 /// Types into a cell, or replaces two cells in one step.

@@ -33,7 +33,12 @@ class PlacesTest : public TeamTest {
         editor.Type(cell, std::to_string(any(300)));
         break;
       case 2:
-        editor.Pick(kFeatures.at(any(3)), std::to_string(any(60)));
+        editor.EndVisit();
+        if (any(2) == 0) {
+          editor.Leaf({kFeatures.at(any(3)), cell.row}, std::to_string(any(60)));
+        } else {
+          editor.Pick(kFeatures.at(any(3)), std::to_string(any(60)));
+        }
         break;
       case 3:
         editor.PasteBlock(cell, "1\t2\n3");

@@ -6,6 +6,7 @@
 
 #include "shell/eye.h"
 #include "shell/window_fixture.h"
+#include "ui/theme.h"
 
 namespace morlek {
 namespace {
@@ -68,18 +69,21 @@ TEST_F(HonestMarksTest, TheWindowTellsWhereOneIs) {
 
   Box(12, 3).setFocus();
   const QString body = Box(13, 3).text();
-  EXPECT_EQ(GroundOf(Seen(Box(1, 3))), QColor(0xff, 0xf5, 0xdb));
+  EXPECT_EQ(GroundOf(Seen(Box(1, 3))), theme::kLight.focus_row);
+  EXPECT_TRUE(IsShown("StanceMark"));
   press("Picture2(5)");
   EXPECT_EQ(Box(13, 3).text(), body) << "out of view";
   press("Picture1(5)");
   EXPECT_EQ(Box(12, 3).text(), "24");
   EXPECT_TRUE(is_checked("Picture1(5)") && !is_checked("Picture1(6)"));
   Box(2, 8).setFocus();
-  EXPECT_EQ(GroundOf(Seen(Box(1, 8))), QColor(0xee, 0xf4, 0xff));
+  EXPECT_EQ(GroundOf(Seen(Box(1, 8))), theme::kLight.focus_row);
+  EXPECT_EQ(GroundOf(Seen(Box(1, 3))), theme::kLight.stance_row);
   Choose("mnuMini");
   press("Picture1(6)");
   EXPECT_EQ(Box(12, 3).text(), "24") << "right of the narrow window";
-  EXPECT_EQ(GroundOf(Seen(Box(1, 3))), QColor(0xf7, 0xf9, 0xfc));
+  EXPECT_EQ(GroundOf(Seen(Box(1, 3))), theme::kLight.odd_row);
+  EXPECT_FALSE(IsShown("StanceMark"));
   Find("Command1").setFocus();
   EXPECT_EQ(GroundOf(Seen(Box(1, 8))), QColor(0xff, 0xff, 0xff));
 

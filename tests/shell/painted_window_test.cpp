@@ -93,6 +93,8 @@ TEST(ShadesTest, EveryTextCanBeReadAndEveryLineThatTellsSomethingBeSeen) {
       {"ring of a picked team or picture", &S::accent, {&S::window, &S::hover}, kPlain},
       {"ring under the pointer", &S::hover_ring, {&S::window, &S::hover}, kPlain},
       {"red corner", &S::lossy_mark, boxes, kPlain},
+      {"bar of a selected text that is not saved", &S::on_fill, {&S::fill}, kPlain},
+      {"mark of the player in view", &S::stance_mark, {&S::window}, kPlain},
       {"handle of a scroll bar", &S::faint_text, {&S::header_band}, kPlain},
       {"SAVE itself", &S::fill, {&S::window}, kPlain}};
   for (const theme::Shades& shades : {theme::kLight, theme::kDark}) {
@@ -213,6 +215,52 @@ TEST_F(PaintedWindowTest, ATextTooLongForItsBoxShowsHowItBegins) {
   };
   EXPECT_EQ(left_behind("71111111111111"), left_behind("71111111111118"));
   EXPECT_NE(left_behind("71111111111111"), left_behind("81111111111111"));
+}
+
+TEST_F(PaintedWindowTest, ACellThatIsNotSavedHasABarWhateverElseItHas) {
+  StartWithTeam();
+  // The left and the right edge, without the ring and the lines.
+  const auto bar_of = [this](int row) {
+    const QImage seen = Seen(Box(6, row)).copy(2, 3, 20, 15);
+    const QColor ground = GroundOf(seen);
+    const auto least = [&](int x) {
+      double contrast = 21;
+      for (int y = 0; y < seen.height(); ++y) {
+        contrast = std::min(contrast, Contrast(seen.pixelColor(x, y), ground));
+      }
+      return contrast;
+    };
+    EXPECT_LT(least(19), kPlain) << "no bar on the right";
+    return least(0) >= kPlain;
+  };
+  for (const bool dark : {false, true}) {
+    QApplication::setPalette(dark ? theme::PaletteOf(theme::kDark) : QPalette());
+    for (const int row : {3, 4}) {
+      QLineEdit& box = Box(6, row);
+      Box(1, row).setFocus();
+      const QString saved = box.text();
+      EXPECT_FALSE(bar_of(row));
+      box.setText("X");
+      EXPECT_TRUE(bar_of(row)) << "in the row of the focus";
+      box.setFocus();
+      EXPECT_TRUE(bar_of(row)) << "selected";
+      box.deselect();
+      EXPECT_TRUE(bar_of(row)) << "with the focus";
+      Box(12, row).setFocus();
+      Box(1, 9).setFocus();
+      EXPECT_TRUE(bar_of(row)) << "in the row of the player in view";
+      Choose("mnuMini");
+      EXPECT_TRUE(bar_of(row)) << "in a row of its own";
+      box.setText(saved);
+      EXPECT_FALSE(bar_of(row));
+    }
+  }
+  QApplication::setPalette(QPalette());
+
+  const QImage idle = Seen(Find("Command1"));
+  TypeInto(6, 3, "X");
+  const QImage pending = Seen(Find("Command1"));
+  EXPECT_GT(CountOf(pending, theme::kLight.fill), 4 * CountOf(idle, theme::kLight.fill));
 }
 
 TEST_F(PaintedWindowTest, TheStanceShowsEachPieceOfItsRowInItsPlace) {

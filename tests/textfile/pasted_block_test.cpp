@@ -9,7 +9,7 @@
 namespace morlek {
 namespace {
 
-struct Block {
+struct PastedCase {
   Cell start;
   std::string text;
   std::vector<std::pair<Cell, std::string>> cells;
@@ -17,7 +17,7 @@ struct Block {
 };
 
 // clang-format off
-const std::vector<Block> kBlocks = {
+const std::vector<PastedCase> kBlocks = {
     {CellOfArray(3, 2), "7\t\tR\n8\t9\n",
      {{CellOfArray(3, 2), "7"}, {CellOfArray(4, 2), ""}, {CellOfArray(5, 2), "R"}, {CellOfArray(3, 3), "8"},
       {CellOfArray(4, 3), "9"}}},
@@ -70,7 +70,7 @@ const std::vector<Block> kBlocks = {
 TEST(PastedBlock, IsLaidRightAndDownAsItIsMeant) {
   RosterGrid old;
   for (const Cell cell : kAllCells) old.SetText(cell, "old");
-  for (const Block& block : kBlocks) {
+  for (const PastedCase& block : kBlocks) {
     RosterGrid expected = old;
     for (const auto& [cell, text] : block.cells) expected.SetText(cell, text);
     const GridWithBlock laid = WithBlock(old, block.start, block.text);
