@@ -6,9 +6,7 @@
 #include <QTest>
 #include <QWidget>
 #include <algorithm>
-#include <cmath>
 #include <map>
-#include <utility>
 
 namespace morlek {
 
@@ -32,13 +30,6 @@ namespace morlek {
   return colors;
 }
 
-/// The colour of most pixels.
-[[nodiscard]] inline QColor GroundOf(const QImage& image) {
-  const auto colors = ColorsOf(image);
-  return std::ranges::max_element(colors, {}, [](const auto& color) { return color.second; })
-      ->first;
-}
-
 /// How many pixels are of a colour, or nearly so.
 [[nodiscard]] inline int CountOf(const QImage& image, const QColor& wanted, int tolerance = 6) {
   int count = 0;
@@ -50,28 +41,6 @@ namespace morlek {
     if (distance <= tolerance) count += pixels;
   }
   return count;
-}
-
-/// How well two colours can be told apart, from 1 to 21.
-[[nodiscard]] inline double Contrast(const QColor& one, const QColor& other) {
-  const auto luminance = [](const QColor& color) {
-    return 0.2126 * std::pow(color.redF(), 2.2) + 0.7152 * std::pow(color.greenF(), 2.2) +
-           0.0722 * std::pow(color.blueF(), 2.2);
-  };
-  // Copies: what is compared is gone at the end of the line.
-  const std::pair<double, double> both = std::minmax(luminance(one), luminance(other));
-  const auto& [dark, light] = both;
-  return (light + 0.05) / (dark + 0.05);
-}
-
-/// The contrast of an image's ground with what stands out most from it.
-[[nodiscard]] inline double ContrastIn(const QImage& image) {
-  double best = 1;
-  const QColor ground = GroundOf(image);
-  for (const auto& [color, pixels] : ColorsOf(image)) {
-    best = std::max(best, Contrast(ground, color));
-  }
-  return best;
 }
 
 }  // namespace morlek

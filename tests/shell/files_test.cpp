@@ -1,8 +1,6 @@
 #include <QAbstractButton>
 #include <QMenuBar>
 
-#include "image/record_layout.h"
-#include "image/team_directory.h"
 #include "shell/code_page_text.h"
 #include "shell/window_fixture.h"
 
@@ -17,10 +15,6 @@ class FilesTest : public WindowTest {
   /// What a dialog may answer that cannot be opened.
   const std::vector<std::optional<QString>> unopenable = {std::nullopt, PathOf("missing"),
                                                           PathOf(".")};
-
-  [[nodiscard]] bool IsOpenFileTold() const {
-    return LabelText("labelStatus").contains("a file is still open and blocks SAVE");
-  }
 };
 
 TEST_F(FilesTest, TheFirstImageIsAskedForOnceAndBeforeAnyCommand) {
@@ -159,27 +153,6 @@ TEST_F(FilesTest, FailedExportsAndImportsAreSilentAndACancelFreesAShortFile) {
     EXPECT_TRUE(user.messages.empty()) << cancelled;
     EXPECT_EQ(GridTexts(), before);
   }
-}
-
-TEST_F(FilesTest, AFileLeftOpenIsToldAtTheFootUntilALoadClosesIt) {
-  StartWithTeam();
-  PutFile(folder / "short.txt", std::string("A.B,P,\r\n"));
-  std::vector<bool> told_behind;
-  user.while_told = [&] { told_behind.push_back(IsOpenFileTold()); };
-  ChooseWith("mnuImport", PathOf("short.txt"));
-  EXPECT_TRUE(IsOpenFileTold());
-  Click("Mets");
-  EXPECT_EQ(told_behind, std::vector<bool>{false});
-  EXPECT_FALSE(IsOpenFileTold());
-
-  // A rating that ends the load, whose file is then still open, but will not stay so.
-  std::vector<std::uint8_t> image = Sample();
-  image.at(static_cast<std::size_t>(FindTeam("Mets")->base - 1 + offset::kFirstRatings)) = 0xAB;
-  PutFile(ImageFile(), image);
-  Click("Braves");
-  told_behind.clear();
-  Click("Mets");
-  EXPECT_EQ(told_behind, std::vector<bool>{false});
 }
 
 }  // namespace

@@ -106,7 +106,8 @@ void MarksPropertyTest::StartRandomRound(int seed) {
     image.at(static_cast<std::size_t>(Place(team, offset))) = static_cast<std::uint8_t>(byte);
     Note(QString("byte %1 is %2").arg(offset).arg(byte));
   }
-  StartRound(team.toUtf8(), image);
+  StartRound(ImagePath(), image);
+  Click(team);
   held = Shown();
   Find("Command1").setFocus();
   calm_save = Seen(Find("Command1"));
