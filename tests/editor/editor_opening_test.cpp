@@ -111,20 +111,5 @@ TEST_F(EditorOpeningTest, AHeldChannelIsReportedByTheLoadAndFreedByIt) {
   EXPECT_TRUE(messages.shown.empty());
 }
 
-TEST_F(EditorOpeningTest, TheWayOutOfAHeldChannelBySaveWritesNothing) {
-  disk.files["short.txt"] = {'A', ',', '\r'};
-  disk.files["good"].resize(1300000, 0);
-  editor.OpenFirstImage("good");
-  editor.LoadTeam("Braves");
-  editor.ImportTeam("short.txt");
-  messages.shown.clear();
-  const SaveResult saved = editor.Save();
-  EXPECT_EQ(saved.taken, RecordBytes());
-  EXPECT_NE(saved.refused, RecordBytes());
-  EXPECT_EQ(messages.Texts().back(), kSaved);
-  EXPECT_FALSE(editor.state().is_file_held);
-  EXPECT_TRUE(disk.writes.empty());
-}
-
 }  // namespace
 }  // namespace morlek

@@ -38,25 +38,6 @@ TEST_F(TeamLoaderTest, BytesPastTheEndOfAShortImageShowAsZero) {
   ExpectShown({{24, 5, "1"}, {24, 7, "1"}, {24, 9, "2.80"}, {24, 11, "0"}, {24, 12, "0"}});
 }
 
-TEST_F(TeamLoaderTest, AnOpenChannelOrAMissingImageStopsItBeforeAnythingChanges) {
-  Load("Braves");
-  const RosterGrid before = grid;
-  const auto expect_nothing_done = [&] {
-    Load("Orioles");
-    EXPECT_EQ(load.outcome, LoadResult::Outcome::kNotOpened);
-    EXPECT_EQ(grid, before);
-    EXPECT_TRUE(disk.reads.empty());
-  };
-  ASSERT_TRUE(channel.OpenTextInput(kImage));
-  expect_nothing_done();
-  EXPECT_TRUE(channel.is_open());
-  channel.Close();
-  disk.files.clear();
-  expect_nothing_done();
-  EXPECT_FALSE(channel.is_open());
-  EXPECT_TRUE(disk.files.empty());
-}
-
 TEST_F(TeamLoaderTest, WithoutATeamNothingIsRead) {
   load = LoadTeam(image, location, codec_state, grid);
   EXPECT_EQ(load.outcome, LoadResult::Outcome::kEndedEarly);
