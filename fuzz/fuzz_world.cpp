@@ -30,7 +30,7 @@ World::World() : editor_(messages_, disk_.Opener()) {
   static const std::vector<std::uint8_t> sample = MakeSampleImage();
   disk_.files[kImage] = sample;
   editor_.OpenFirstImage(kImage);
-  Require(editor_.state().place.image == kImage, "the sample is accepted");
+  Require(editor_.state().scene.place.image == kImage, "the sample is accepted");
 }
 
 std::span<std::uint8_t> World::Record(std::int64_t base) {
@@ -42,7 +42,8 @@ bool World::Load(std::string_view key) {
   const LoadResult result = editor_.LoadTeam(key);
   RequireNoWrites();
   const bool loaded = result.outcome == LoadResult::Outcome::kLoaded;
-  Require(editor_.state().is_grid_shown == loaded, "what was loaded is shown, and nothing else");
+  Require(editor_.state().scene.is_grid_shown == loaded,
+          "what was loaded is shown, and nothing else");
   return loaded;
 }
 
@@ -60,11 +61,11 @@ void World::Save() {
 }
 
 void World::SaveAsPreviewed() {
-  if (!editor_.state().is_grid_shown || disk_.open_files > 0) return;
+  if (!editor_.state().scene.is_grid_shown || disk_.open_files > 0) return;
   const SavePreview preview = editor_.Preview();
   editor_.Save();
   Require(editor_.baseline()->texts() == preview.after(), "the baseline follows a save");
-  Require(Load(editor_.state().place.team->key), "a saved team loads");
+  Require(Load(editor_.state().scene.place.team->key), "a saved team loads");
   Require(editor_.state().grid == preview.after(), "a load shows what the preview said");
 }
 
@@ -109,7 +110,7 @@ void World::RequireNoWrites() const {
 }
 
 void World::CheckWrites() const {
-  const Team* team = editor_.state().place.team;
+  const Team* team = editor_.state().scene.place.team;
   for (const ByteAccess& write : disk_.writes) {
     Require(team != nullptr, "nothing is written before a team is loaded");
     const std::int64_t place = write.position - team->base;

@@ -60,7 +60,11 @@ std::unique_ptr<morlek::fuzz::World> Play(Script script, bool previews) {
         world->SaveAsPreviewed();
         break;
       case 6:
-        world->editor().Undo();
+        if (what < 0xC0) {
+          world->editor().Undo();
+        } else {
+          world->editor().Redo();
+        }
         break;
       default:
         world->Import(script.Bytes(script.Byte() * std::size_t{4}));

@@ -44,7 +44,8 @@ Editor::Subscription Editor::Subscribe(Observer observer) {
 
 OpenResult Editor::OpenFirstImage(const std::filesystem::path& path) {
   const std::optional<std::uint8_t> identity = image_.ReadIdentityByte(path);
-  const bool accepted = Accept(path, identity.value_or(0));
+  const bool accepted = ShowIdentity(identity.value_or(0));
+  if (accepted) state_.scene.place.image = path;
   image_.Close();
   const OpenResult result = accepted   ? OpenResult::kOpened
                             : identity ? OpenResult::kRefused
@@ -63,19 +64,19 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
     EndFileStep(OpenResult::kNotOpened);
     return OpenResult::kNotOpened;
   }
-  if (!Accept(path, *identity)) {
+  if (!ShowIdentity(*identity)) {
     image_.Close();
     EndFileStep(OpenResult::kRefused);
     messages_.Show({"This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
     return OpenResult::kRefused;
   }
-  // The grid keeps its texts, but they are no longer this image's.
-  history_.Clear();
-  state_.is_grid_shown = false;
-  baseline_ = nullptr;
-  RefreshMarks();
-  state_.layout = Layout::kNarrow;
-  EndFileStep(OpenResult::kOpened, {.layout_set = true});
+  // The grid keeps its texts, but they are not this image's.
+  const Scene before = std::exchange(state_.scene, {{path, state_.scene.place.team}, false});
+  state_.picked = nullptr;
+  const auto left_behind = LeftBehindIn(before);
+  AddStep(before, {});
+  Enter(state_.scene);
+  EndFileStep(OpenResult::kOpened, {.layout_set = true}, left_behind);
   return OpenResult::kOpened;
 }
 
@@ -84,12 +85,9 @@ void Editor::CancelDialog() {
   EndFileStep({});
 }
 
-bool Editor::Accept(const std::filesystem::path& path, std::uint8_t identity) {
+bool Editor::ShowIdentity(std::uint8_t identity) {
   state_.identity = ByteToText(identity);
-  if (state_.identity != ByteToText(kIdentityByte)) return false;
-  state_.place.image = path;
-  state_.picked = nullptr;
-  return true;
+  return state_.identity == ByteToText(kIdentityByte);
 }
 
 LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
@@ -97,46 +95,75 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
   if (team != nullptr) {
     state_.picked = team;
   } else {
-    team = state_.place.team;
+    team = state_.scene.place.team;
   }
   // A load that finds a file open fails, reports it and closes the file.
   const bool was_held = channel_.is_open_for_text();
   if (std::exchange(state_.is_file_held, false)) Publish();
 
+  const Scene before = state_.scene;
   RosterGrid grid = state_.grid;
   const LoadResult result = morlek::LoadTeam(image_, LocationOf(team), codec_state_, grid);
-  state_.outcome = result;
-  history_.Clear();
+  const auto left_behind = LeftBehindIn(before);
+  state_.left_behind.reset();
   baseline_ = nullptr;
   if (result.outcome == LoadResult::Outcome::kNotOpened) {
     AbandonLoad(was_held ? "The team could not be loaded, because a team file was still open since "
                            "an import or export failed. It is closed now, so pick the team again."
                          : result.failure);
-    return result;
+    AddStep(before, {});
+  } else {
+    state_.scene = {{before.place.image, team}, true};
+    const GridChange texts = ChangeBetween(state_.grid, grid);
+    state_.grid = grid;
+    state_.layout = Layout::kNarrow;
+    const bool loaded = result.outcome == LoadResult::Outcome::kLoaded;
+    if (loaded) {
+      baselines_.insert_or_assign(state_.scene.place, Baseline(result.read, grid));
+      AddStep(before, texts);
+      Enter(state_.scene);
+      EndFileStep(result, {.texts = texts, .loaded = true, .layout_set = true}, left_behind);
+      return result;
+    }
+    RefreshMarks();
+    Publish({.texts = texts, .layout_set = true});
+    AbandonLoad(result.failure);
+    AddStep(before, texts);
   }
-
-  const bool loaded = result.outcome == LoadResult::Outcome::kLoaded;
-  state_.place.team = team;
-  state_.is_grid_shown = true;
-  state_.layout = Layout::kNarrow;
-  if (loaded) {
-    baseline_ =
-        &baselines_.insert_or_assign(state_.place, Baseline(result.read, grid)).first->second;
-  }
-  const GridChange texts = ChangeBetween(state_.grid, grid);
-  state_.grid = std::move(grid);
-  RefreshMarks();
-  Publish({.texts = texts, .loaded = loaded, .layout_set = true});
-  if (!loaded) AbandonLoad(result.failure);
+  EndFileStep(result, {}, left_behind);
   return result;
 }
 
 void Editor::AbandonLoad(const std::string& failure) {
   messages_.Show({failure, kProgramTitle, Message::Icon::kCritical});
   image_.Close();
-  state_.is_grid_shown = false;
+  state_.scene.is_grid_shown = false;
   RefreshMarks();
-  Publish();
+}
+
+std::optional<LeftBehind> Editor::LeftBehindIn(const Scene& left) const {
+  const int changes = state_.marks.modified_count();
+  if (changes == 0) return std::nullopt;
+  return LeftBehind{left.place, changes};
+}
+
+void Editor::AddStep(const Scene& before, const GridChange& texts) {
+  history_.EndVisit();
+  Step step{.texts = texts, .scenes = {}};
+  if (before != state_.scene) step.scenes = {before, state_.scene};
+  if (texts.empty() && !step.scenes) return;
+  // Before the first team there is nothing to go back to.
+  const bool is_first = !history_.can_undo() && !history_.can_redo() &&
+                        before.place.team == nullptr &&
+                        std::ranges::all_of(texts, &std::string::empty, &CellChange::before);
+  if (!is_first) history_.Add(std::move(step));
+}
+
+void Editor::Enter(const Scene& scene) {
+  state_.scene = scene;
+  state_.layout = Layout::kNarrow;
+  baseline_ = scene.is_grid_shown ? &baselines_.at(scene.place) : nullptr;
+  RefreshMarks();
 }
 
 void Editor::LoadTeamBeside(int places) {
@@ -153,7 +180,7 @@ void Editor::LoadTeamBeside(int places) {
 SaveResult Editor::Save() {
   NameReporter reporter(messages_);
   const SaveResult result =
-      SaveTeam(image_, LocationOf(state_.place.team), state_.grid, codec_state_, reporter);
+      SaveTeam(image_, LocationOf(state_.scene.place.team), state_.grid, codec_state_, reporter);
   if (baseline_ != nullptr) baseline_->FollowSave(result, *preview_);
   RefreshMarks();
   EndFileStep(result);
@@ -164,7 +191,9 @@ SaveResult Editor::Save() {
 ImportResult Editor::ImportTeam(const std::filesystem::path& path) {
   RosterGrid grid = state_.grid;
   const ImportResult result = ImportTeamData(channel_, path, grid);
-  EndFileStep(result, {.texts = Replace(grid)});
+  const GridChange texts = Replace(grid);
+  if (!texts.empty()) RefreshMarks();
+  EndFileStep(result, {.texts = texts});
   return result;
 }
 
@@ -195,36 +224,38 @@ void Editor::Type(Cell cell, std::string text) {
   if (text == state_.grid.Text(cell)) return;
   const CellChange typed = {cell, state_.grid.Text(cell), std::move(text)};
   history_.AddTyping(typed);
-  Apply({typed});
-  Publish({.texts = {typed}});
+  state_.grid.SetText(cell, typed.after);
+  EndStep({.texts = {typed}});
 }
 
 void Editor::Pick(Column feature, std::string code_text) {
   RosterGrid grid = state_.grid;
   const Cell cell{feature, state_.stance_row};
   grid.SetText(cell, std::move(code_text));
-  Publish({.texts = Replace(grid), .picked_into = cell});
+  EndStep({.texts = Replace(grid), .picked_into = cell});
 }
 
 void Editor::PasteBlock(Cell start, std::string_view block) {
   const GridChange texts = Replace(WithBlock(state_.grid, start, block));
-  if (!texts.empty()) Publish({.texts = texts});
+  if (!texts.empty()) EndStep({.texts = texts});
 }
 
-std::optional<Cell> Editor::Undo() {
-  const std::optional<GridChange> texts = history_.Undo();
-  if (!texts) return std::nullopt;
-  Apply(*texts);
-  Publish({.texts = *texts});
-  return texts->front().cell;
-}
+std::optional<Cell> Editor::Undo() { return Follow(history_.Undo()); }
 
-std::optional<Cell> Editor::Redo() {
-  const std::optional<GridChange> texts = history_.Redo();
-  if (!texts) return std::nullopt;
-  Apply(*texts);
-  Publish({.texts = *texts});
-  return texts->front().cell;
+std::optional<Cell> Editor::Redo() { return Follow(history_.Redo()); }
+
+std::optional<Cell> Editor::Follow(const std::optional<Step>& step) {
+  if (!step) return std::nullopt;
+  for (const CellChange& part : step->texts) state_.grid.SetText(part.cell, part.after);
+  if (!step->scenes) {
+    EndStep({.texts = step->texts});
+    return step->texts.front().cell;
+  }
+  const Scene& scene = step->scenes->after;
+  state_.picked = scene.is_grid_shown ? scene.place.team : nullptr;
+  Enter(scene);
+  EndStep({.texts = step->texts, .loaded = scene.is_grid_shown, .layout_set = true});
+  return std::nullopt;
 }
 
 void Editor::Minimize() {
@@ -237,23 +268,24 @@ SavePreview Editor::Preview() const {
 }
 
 RecordLocation Editor::LocationOf(const Team* team) const {
-  RecordLocation location{state_.place.image, std::nullopt};
+  RecordLocation location{state_.scene.place.image, std::nullopt};
   if (team != nullptr) location.base = team->base;
   return location;
 }
 
 GridChange Editor::Replace(const RosterGrid& grid) {
-  history_.EndVisit();
   GridChange texts = ChangeBetween(state_.grid, grid);
-  if (!texts.empty()) history_.Add(texts);
-  Apply(texts);
+  history_.EndVisit();
+  if (!texts.empty()) history_.Add({.texts = texts, .scenes = {}});
+  state_.grid = grid;
   return texts;
 }
 
-void Editor::Apply(const GridChange& texts) {
-  if (texts.empty()) return;
-  for (const CellChange& part : texts) state_.grid.SetText(part.cell, part.after);
-  RefreshMarks();
+void Editor::EndStep(const StateChange& change) {
+  state_.outcome = {};
+  state_.left_behind.reset();
+  if (!change.texts.empty()) RefreshMarks();
+  Publish(change);
 }
 
 void Editor::RefreshMarks() {
@@ -267,7 +299,9 @@ void Editor::RefreshMarks() {
   state_.marks = GridMarks(state_.grid, *preview_, *baseline_);
 }
 
-void Editor::EndFileStep(StepOutcome outcome, const StateChange& change) {
+void Editor::EndFileStep(StepOutcome outcome, const StateChange& change,
+                         const std::optional<LeftBehind>& left_behind) {
+  state_.left_behind = left_behind;
   state_.outcome = std::move(outcome);
   state_.is_file_held = channel_.is_open();
   Publish(change);

@@ -87,8 +87,9 @@ class Editor {
   /// Lays a pasted block of cells into the grid from a cell on, in one step.
   void PasteBlock(Cell start, std::string_view block);
 
-  /// Takes the last step back, or makes it again. Gives the first cell that changed, or nothing
-  /// when there was no such step.
+  /// Takes the last step back, or makes it again: every step but SAVE, since the program began. No
+  /// file is opened. Gives the first cell that changed; nothing when there was no such step, and
+  /// when it led to another team or image.
   std::optional<Cell> Undo();
   std::optional<Cell> Redo();
 
@@ -102,23 +103,38 @@ class Editor {
   [[nodiscard]] const Baseline* baseline() const { return baseline_; }
 
  private:
-  /// Makes the file the current image when its identity byte is right.
-  [[nodiscard]] bool Accept(const std::filesystem::path& path, std::uint8_t identity);
+  /// Shows the identity byte of a file; true when it is this game's.
+  [[nodiscard]] bool ShowIdentity(std::uint8_t identity);
 
   [[nodiscard]] RecordLocation LocationOf(const Team* team) const;
 
-  /// Ends a load that failed: reports why, closes channel 1 and hides the grid.
+  /// Reports a load that failed, closes channel 1 and hides the grid.
   void AbandonLoad(const std::string& failure);
+
+  /// What a step away from a scene leaves unsaved, while the marks are still that scene's.
+  [[nodiscard]] std::optional<LeftBehind> LeftBehindIn(const Scene& left) const;
+
+  /// Adds the step that led from a scene to the current one, if there is anything to take back.
+  void AddStep(const Scene& before, const GridChange& texts);
+
+  /// Goes to a scene, whose grid is in place, in the narrow layout. No file is opened.
+  void Enter(const Scene& scene);
+
+  /// Makes a step of the history. Gives the first cell that changed, unless the scene did.
+  std::optional<Cell> Follow(const std::optional<Step>& step);
 
   /// Replaces the grid in one step of the history; nothing when no text changes.
   [[nodiscard]] GridChange Replace(const RosterGrid& grid);
 
-  /// Puts the texts of a change into the grid, and works out the marks afresh when there are any.
-  void Apply(const GridChange& texts);
+  /// Works out the marks of the grid.
   void RefreshMarks();
 
+  /// Ends a step that has to do with no file.
+  void EndStep(const StateChange& change);
+
   /// Ends a step that had to do with a file.
-  void EndFileStep(StepOutcome outcome, const StateChange& change = {});
+  void EndFileStep(StepOutcome outcome, const StateChange& change = {},
+                   const std::optional<LeftBehind>& left_behind = {});
 
   void Publish(const StateChange& change = {});
 

@@ -1,30 +1,18 @@
 #pragma once
 
-#include <compare>
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <variant>
 
 #include "editor/grid_change.h"
 #include "editor/grid_marks.h"
-#include "image/team_directory.h"
+#include "editor/place.h"
 #include "team/team_loader.h"
 #include "team/team_saver.h"
 #include "textfile/team_export.h"
 #include "textfile/team_import.h"
 
 namespace morlek {
-
-/// Where a roster lives: an image, and one of its teams.
-struct Place {
-  /// Empty before the first image.
-  std::filesystem::path image;
-  /// One of the directory; null before a team has been picked.
-  const Team* team = nullptr;
-
-  friend auto operator<=>(const Place&, const Place&) = default;
-};
 
 /// What came of opening an image.
 enum class OpenResult {
@@ -36,21 +24,26 @@ enum class OpenResult {
 /// How much of the window is in view: the grid, or the choosers right of it as well.
 enum class Layout { kNarrow, kWide };
 
-/// What came of the last step that had to do with a file, or nothing.
+/// What came of the last step, when that had to do with a file; else nothing.
 using StepOutcome =
     std::variant<std::monostate, OpenResult, LoadResult, SaveResult, ImportResult, ExportResult>;
 
+/// Changes that a step to another team or image has left unsaved.
+struct LeftBehind {
+  Place place;
+  int changes = 0;
+};
+
 /// How things stand: all that a window shows, as one value.
 struct EditorState {
-  /// The current image, and the team that is named over the grid: SAVE writes there.
-  Place place;
+  /// The current image, the team that is named over the grid, and whether the grid can be seen:
+  /// SAVE writes there, and only then.
+  Scene scene;
   /// The identity byte of the file that was checked last, as hexadecimal text.
   std::string identity;
   /// The team that was asked for last, where the next and the previous one are counted from; null
   /// when an image has just been opened.
   const Team* picked = nullptr;
-  /// Whether the grid can be seen and saved: a team has been loaded into it.
-  bool is_grid_shown = false;
   /// Whether a load came through, so that marks can be told. Unlike the grid's being shown it is
   /// false while a load reports its failure.
   bool is_loaded = false;
@@ -69,6 +62,8 @@ struct EditorState {
   /// Whether a step that is over has left a file open, which keeps others from being opened.
   bool is_file_held = false;
   StepOutcome outcome;
+  /// Of the last step; taking that back brings them back.
+  std::optional<LeftBehind> left_behind;
 };
 
 /// What a step has done, beside leaving the state as it is now.

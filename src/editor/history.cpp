@@ -7,9 +7,9 @@ namespace {
 
 constexpr std::size_t kMostBytes = std::size_t{32} << 20U;
 
-std::size_t BytesOf(const GridChange& step) {
-  std::size_t bytes = 0;
-  for (const CellChange& part : step) {
+std::size_t BytesOf(const Step& step) {
+  std::size_t bytes = sizeof(step);
+  for (const CellChange& part : step.texts) {
     bytes += sizeof(part) + part.before.size() + part.after.size();
   }
   return bytes;
@@ -17,7 +17,7 @@ std::size_t BytesOf(const GridChange& step) {
 
 }  // namespace
 
-void History::Add(GridChange step) {
+void History::Add(Step step) {
   EndVisit();
   while (can_redo()) DropLastStep();
   bytes_ += BytesOf(step);
@@ -31,11 +31,11 @@ void History::Add(GridChange step) {
 
 void History::AddTyping(const CellChange& typed) {
   if (visited_ != typed.cell) {
-    Add({typed});
+    Add({.texts = {typed}, .scenes = {}});
     visited_ = typed.cell;
     return;
   }
-  CellChange& step = steps_.back().front();
+  CellChange& step = steps_.back().texts.front();
   bytes_ += typed.after.size();
   bytes_ -= step.after.size();
   step.after = typed.after;
@@ -46,13 +46,16 @@ void History::AddTyping(const CellChange& typed) {
   }
 }
 
-std::optional<GridChange> History::Undo() {
+std::optional<Step> History::Undo() {
   EndVisit();
   if (!can_undo()) return std::nullopt;
-  return Reverse(steps_.at(--done_));
+  Step step = steps_.at(--done_);
+  step.texts = Reverse(std::move(step.texts));
+  if (step.scenes) std::swap(step.scenes->before, step.scenes->after);
+  return step;
 }
 
-std::optional<GridChange> History::Redo() {
+std::optional<Step> History::Redo() {
   EndVisit();
   if (!can_redo()) return std::nullopt;
   return steps_.at(done_++);

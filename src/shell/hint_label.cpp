@@ -32,12 +32,12 @@ HintLabel::HintLabel(const QRect& area, QWidget* parent) : QLabel(parent) {
 }
 
 void HintLabel::Show(const EditorState& state) {
-  if (asks_for_image_ && !state.place.image.empty()) {
+  if (asks_for_image_ && !state.scene.place.image.empty()) {
     asks_for_image_ = false;
     unsetCursor();
     Say("Pick a team above, or press Ctrl+Page Down");
   }
-  setVisible(!state.is_grid_shown);
+  setVisible(!state.scene.is_grid_shown);
 }
 
 void HintLabel::Say(const QString& words) {

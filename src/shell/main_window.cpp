@@ -90,7 +90,7 @@ void MainWindow::AddRoster() {
   status_->raise();
   connect(roster_, &RosterFrame::SaveRequested, this, [this] {
     // A button that is hidden or behind a dialog can still be pressed by an assistive tool.
-    if (editor_.state().is_grid_shown && IsListening()) editor_.Save();
+    if (editor_.state().scene.is_grid_shown && IsListening()) editor_.Save();
   });
   connect(roster_, &RosterFrame::CellVisited, this, [this](Cell cell) {
     // On a screen with less room than the window needs.

@@ -64,6 +64,13 @@ QString SummaryOf(const GridMarks& marks) {
   return parts.join(QString::fromUtf8(" \u00b7 "));
 }
 
+QString LeftBehindText(const EditorState& state) {
+  if (!state.left_behind || state.left_behind->place.team == nullptr) return {};
+  return QString("%1: %2, Ctrl+Z goes back")
+      .arg(FromCodePage(state.left_behind->place.team->key),
+           Counted(state.left_behind->changes, "change not saved", "changes not saved"));
+}
+
 QString PlainTip(const QString& text) {
   if (!Qt::mightBeRichText(text)) return text;
   return "<qt>" + text.toHtmlEscaped().replace('\n', "<br>") + "</qt>";

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "editor/grid_marks.h"
+#include "editor/editor_state.h"
 
 namespace morlek {
 
@@ -12,6 +12,9 @@ namespace morlek {
 /// How many changes are not saved and how many cells SAVE will not keep, in words; empty when all
 /// is well.
 [[nodiscard]] QString SummaryOf(const GridMarks& marks);
+
+/// What the last step has left unsaved, in words, and how to go back; empty when nothing.
+[[nodiscard]] QString LeftBehindText(const EditorState& state);
 
 /// A text as a tool tip shows it to the letter: Qt would take some texts for marked-up ones.
 [[nodiscard]] QString PlainTip(const QString& text);

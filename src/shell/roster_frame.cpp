@@ -39,11 +39,11 @@ RosterFrame::RosterFrame(Editor& editor, QWidget* parent) : QFrame(parent), edit
 }
 
 void RosterFrame::Show(const EditorState& state, const StateChange& change) {
-  if (state.place.team != nullptr) {
-    team_name_->setText(FromCodePage(state.place.team->display_name));
+  if (state.scene.place.team != nullptr) {
+    team_name_->setText(FromCodePage(state.scene.place.team->display_name));
     team_name_->setAccessibleDescription(team_name_->text());
   }
-  ShowVisible(state.is_grid_shown);
+  ShowVisible(state.scene.is_grid_shown);
   ShowTints();
   ShowTexts(change);
   ShowMarks(state);
@@ -180,11 +180,17 @@ void RosterFrame::AddKeys() {
     action->setEnabled(false);
     connect(action, &QAction::triggered, this, run);
     addAction(action);
+    // Another team can be taken back while no grid is shown.
+    window()->addAction(action);
     return action;
   };
-  undo_ = add("&Undo", {Qt::CTRL | Qt::Key_Z}, [this] { GoTo(editor_.Undo()); });
-  redo_ = add("&Redo", {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
-              [this] { GoTo(editor_.Redo()); });
+  // The frame is disabled while the help covers it.
+  undo_ = add("&Undo", {Qt::CTRL | Qt::Key_Z}, [this] {
+    if (isEnabled()) GoTo(editor_.Undo());
+  });
+  redo_ = add("&Redo", {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}, [this] {
+    if (isEnabled()) GoTo(editor_.Redo());
+  });
   connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, this,
           [this] { GoToLossy(false); });
   connect(new QShortcut(Qt::SHIFT | Qt::Key_F8, this), &QShortcut::activated, this,
@@ -192,7 +198,8 @@ void RosterFrame::AddKeys() {
 }
 
 void RosterFrame::GoTo(std::optional<Cell> cell) {
-  if (!cell) return;
+  // A hidden box that had the focus would take keys.
+  if (!cell || !editor_.state().scene.is_grid_shown) return;
   RosterBox& box = BoxAt(*cell);
   box.setFocus(Qt::OtherFocusReason);
   // It may have had the focus, and be out of view.

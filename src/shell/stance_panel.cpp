@@ -66,7 +66,7 @@ void StancePanel::Show(const EditorState& state) {
     choosers_.at(place)->Mark(code);
     if (!text_of(column).empty()) pieces.at(place) = code.value_or(kUnknownCode);
   }
-  if (state.place.team != nullptr) view_->ShowClub(LookOf(*state.place.team).colors);
+  if (state.scene.place.team != nullptr) view_->ShowClub(LookOf(*state.scene.place.team).colors);
   view_->ShowPlayer({.name = FromCodePage(text_of(Column::kName)),
                      .number = FromCodePage(text_of(Column::kUniformNumber)),
                      .position = FromCodePage(text_of(Column::kPosition)),

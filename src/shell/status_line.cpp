@@ -27,12 +27,15 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
 }
 
 void StatusLine::Show(const EditorState& state) {
-  const QString path = QString::fromStdU16String(state.place.image.u16string());
-  QString summary;
-  if (state.is_grid_shown) {
-    summary = state.is_file_held ? QString(kFileHeld) : SummaryOf(state.marks);
+  const QString path = QString::fromStdU16String(state.scene.place.image.u16string());
+  QStringList notes = {LeftBehindText(state)};
+  if (state.scene.is_grid_shown) {
+    notes << (state.is_file_held ? QString(kFileHeld) : SummaryOf(state.marks));
   }
-  const QString tail = summary.isEmpty() ? QString() : QString::fromUtf8(" \u00b7 ") + summary;
+  QString tail;
+  for (const QString& note : notes) {
+    if (!note.isEmpty()) tail += QString::fromUtf8(" \u00b7 ") + note;
+  }
   const QFontMetrics metrics(font());
   const int room = std::max(width() - metrics.horizontalAdvance(tail), kSmallestNameWidth);
   const QString name = QFileInfo(path).fileName();

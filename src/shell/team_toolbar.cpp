@@ -78,9 +78,9 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
 }
 
 void TeamToolbar::Show(const EditorState& state) {
-  setVisible(!state.place.image.empty());
+  setVisible(!state.scene.place.image.empty());
   for (const Team& team : kTeamDirectory) {
-    buttons_.at(PlaceOf(team))->SetMarked(state.is_loaded && state.place.team == &team);
+    buttons_.at(PlaceOf(team))->SetMarked(state.is_loaded && state.scene.place.team == &team);
   }
 }
 

@@ -41,20 +41,22 @@ inline constexpr std::array<Cell, kCellCount> kCellsOnScreen = [] {
   return cells;
 }();
 
+/// The places of cells in kAllCells, by row and column; kCellCount where the grid has no cell.
+inline constexpr auto kCellPlaces = [] {
+  std::array<std::array<std::size_t, kColumnKinds>, kSlotCount> places{};
+  for (auto& row : places) row.fill(kCellCount);
+  for (std::size_t place = 0; place < kCellCount; ++place) {
+    const Cell cell = kAllCells.at(place);
+    places.at(static_cast<std::size_t>(cell.row)).at(static_cast<std::size_t>(cell.column)) = place;
+  }
+  return places;
+}();
+
 /// The place of a cell in kAllCells; kCellCount for a cell that the grid does not have.
 [[nodiscard]] constexpr std::size_t IndexOf(Cell cell) {
-  constexpr auto kPlaces = [] {
-    std::array<std::array<std::size_t, kColumnKinds>, kSlotCount> places{};
-    for (auto& row : places) row.fill(kCellCount);
-    for (std::size_t index = 0; index < kCellCount; ++index) {
-      const Cell each = kAllCells.at(index);
-      places.at(static_cast<std::size_t>(each.row)).at(static_cast<std::size_t>(each.column)) =
-          index;
-    }
-    return places;
-  }();
   const auto row = static_cast<std::size_t>(cell.row);
-  return row < kPlaces.size() ? kPlaces[row].at(static_cast<std::size_t>(cell.column)) : kCellCount;
+  if (row >= kCellPlaces.size()) return kCellCount;
+  return kCellPlaces.at(row).at(static_cast<std::size_t>(cell.column));
 }
 
 }  // namespace morlek

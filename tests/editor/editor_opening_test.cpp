@@ -20,7 +20,7 @@ class EditorOpeningTest : public ::testing::Test {
   }
 
   void ExpectImage(const char* path, const char* identity) {
-    EXPECT_EQ(editor.state().place.image, path);
+    EXPECT_EQ(editor.state().scene.place.image, path);
     EXPECT_EQ(editor.state().identity, identity);
     EXPECT_TRUE(disk.writes.empty());
   }

