@@ -112,16 +112,12 @@ TEST_F(MainWindowTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   EXPECT_EQ(Find("Frame5").geometry(), QRect(0, 0, 441, 633));
 
   auto& help = Find<QPlainTextEdit>("Text15");
-  const QString text = help.toPlainText();
-  EXPECT_TRUE(text.startsWith("::::::::::::::\nMORLEK EDITOR\n"));
-  EXPECT_TRUE(text.endsWith("\n\n\nDOUBLE CLICK TO CLOSE HELP"));
   QTest::mouseClick(help.viewport(), Qt::LeftButton);
   QTest::mouseDClick(help.viewport(), Qt::RightButton);
   for (const auto key : {Qt::Key_Escape, Qt::Key_X, Qt::Key_Tab, Qt::Key_Backtab}) Press(key);
   for (const auto key : {Qt::Key_PageDown, Qt::Key_S}) Press(key, Qt::ControlModifier);
   EXPECT_EQ(QApplication::focusWidget(), &help) << "the covered grid takes no keys";
   EXPECT_TRUE(IsShown("Frame5"));
-  EXPECT_EQ(help.toPlainText(), text);
   EXPECT_EQ(LabelText("Label4(0)"), "ATLANTA BRAVES");
   EXPECT_TRUE(user.messages.empty());
   CloseHelp();

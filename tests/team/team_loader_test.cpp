@@ -45,20 +45,6 @@ TEST_F(TeamLoaderTest, WithoutATeamNothingIsRead) {
   EXPECT_TRUE(channel.is_open());
 }
 
-TEST_F(TeamLoaderTest, ARatingThatIsALetterEndsTheLoadAndIsReportedWithItsPlace) {
-  for (const auto& [letter, place] : std::vector<std::pair<FieldByte, std::string>>{
-           {{3, 11, 0x2A}, "slot 3 (batter 4)"}, {{20, 12, 0xE1}, "slot 20 (pitcher 6)"}}) {
-    Poke({letter});
-    Load("Braves");
-    EXPECT_EQ(load.outcome, LoadResult::Outcome::kEndedEarly);
-    EXPECT_NE(load.failure.find(place), std::string::npos) << load.failure;
-    EXPECT_EQ(disk.reads.back().position, kBraves + 32 * letter.row + letter.offset);
-    EXPECT_TRUE(channel.is_open());
-    channel.Close();
-    Poke({{letter.row, letter.offset, 0x11}});
-  }
-}
-
 /// Bytes of the Braves' record, and of the Orioles' where that team is loaded first.
 struct LoaderCase {
   const char* name;
