@@ -1,10 +1,13 @@
 #include "editor/editor.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <system_error>
 #include <utility>
 
 #include "codecs/code_page.h"
 #include "codecs/hex_text.h"
+#include "team/column_bytes.h"
 #include "textfile/pasted_block.h"
 
 namespace morlek {
@@ -15,9 +18,12 @@ constexpr char kImageFailureTitle[] = "Morlek Editor";
 /// Reports what of a name cannot be saved in a message box, which keeps the save waiting.
 class NameReporter : public EncodingListener {
  public:
-  explicit NameReporter(MessagePort& messages) : messages_(messages) {}
+  /// `note` hears of an unknown letter before its message is shown.
+  NameReporter(MessagePort& messages, std::function<void(struct UnknownLetter)> note)
+      : messages_(messages), note_(std::move(note)) {}
 
-  void UnknownLetter(int /*row*/, std::string_view /*letter*/) override {
+  void UnknownLetter(int row, std::string_view letter) override {
+    note_({row, std::string(letter)});
     messages_.Show(
         {"You've used a letter that is not recognized by MORLEK EDITOR, change the letter and "
          "save your edits again."});
@@ -28,7 +34,16 @@ class NameReporter : public EncodingListener {
 
  private:
   MessagePort& messages_;
+  std::function<void(struct UnknownLetter)> note_;
 };
+
+/// Whether a file is as long as a game without the 512 bytes in front.
+bool LacksHeader(const std::filesystem::path& path) {
+  constexpr std::uintmax_t kBank = 1024;
+  std::error_code failure;
+  const std::uintmax_t size = std::filesystem::file_size(path, failure);
+  return !failure && size > 0 && size % kBank == 0;
+}
 
 }  // namespace
 
@@ -50,7 +65,9 @@ OpenResult Editor::OpenFirstImage(const std::filesystem::path& path) {
   const OpenResult result = accepted   ? OpenResult::kOpened
                             : identity ? OpenResult::kRefused
                                        : OpenResult::kNotOpened;
-  EndFileStep(result);
+  StepNote note;
+  if (!accepted && !path.empty()) note = RefusedFile{path, LacksHeader(path)};
+  EndFileStep(result, {}, note);
   if (!accepted) {
     messages_.Show({"You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
   }
@@ -66,14 +83,14 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
   }
   if (!ShowIdentity(*identity)) {
     image_.Close();
-    EndFileStep(OpenResult::kRefused);
+    EndFileStep(OpenResult::kRefused, {}, RefusedFile{path, LacksHeader(path)});
     messages_.Show({"This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
     return OpenResult::kRefused;
   }
   // The grid keeps its texts, but they are not this image's.
   const Scene before = std::exchange(state_.scene, {{path, state_.scene.place.team}, false});
   state_.picked = nullptr;
-  const auto left_behind = LeftBehindIn(before);
+  const StepNote left_behind = LeftBehindIn(before);
   AddStep(before, {});
   Enter(state_.scene);
   EndFileStep(OpenResult::kOpened, {.layout_set = true}, left_behind);
@@ -104,8 +121,8 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
   const Scene before = state_.scene;
   RosterGrid grid = state_.grid;
   const LoadResult result = morlek::LoadTeam(image_, LocationOf(team), codec_state_, grid);
-  const auto left_behind = LeftBehindIn(before);
-  state_.left_behind.reset();
+  const StepNote left_behind = LeftBehindIn(before);
+  state_.note = {};
   baseline_ = nullptr;
   if (result.outcome == LoadResult::Outcome::kNotOpened) {
     AbandonLoad(was_held ? "The team could not be loaded, because a team file was still open since "
@@ -141,10 +158,25 @@ void Editor::AbandonLoad(const std::string& failure) {
   RefreshMarks();
 }
 
-std::optional<LeftBehind> Editor::LeftBehindIn(const Scene& left) const {
+StepNote Editor::LeftBehindIn(const Scene& left) const {
   const int changes = state_.marks.modified_count();
-  if (changes == 0) return std::nullopt;
+  if (changes == 0) return {};
   return LeftBehind{left.place, changes};
+}
+
+StepNote Editor::SavedIn(const SaveResult& saved) const {
+  SavedChanges changes;
+  for (const Cell cell : kAllCells) {
+    if (!state_.marks.At(cell).is_modified) continue;
+    const auto offsets = BytesOf(cell.column);
+    if (saved.refused.HasAny(cell.row, offsets)) {
+      ++changes.refused;
+    } else if (saved.taken.HasAny(cell.row, offsets)) {
+      ++changes.stored;
+    }
+  }
+  if (changes.stored + changes.refused == 0) return {};
+  return changes;
 }
 
 void Editor::AddStep(const Scene& before, const GridChange& texts) {
@@ -178,12 +210,16 @@ void Editor::LoadTeamBeside(int places) {
 }
 
 SaveResult Editor::Save() {
-  NameReporter reporter(messages_);
+  NameReporter reporter(messages_, [this](UnknownLetter letter) {
+    state_.note = std::move(letter);
+    Publish();
+  });
   const SaveResult result =
       SaveTeam(image_, LocationOf(state_.scene.place.team), state_.grid, codec_state_, reporter);
+  const StepNote saved = SavedIn(result);
   if (baseline_ != nullptr) baseline_->FollowSave(result, *preview_);
   RefreshMarks();
-  EndFileStep(result);
+  EndFileStep(result, {}, saved);
   if (!result.end_row) messages_.Show({"Your changes have been saved."});
   return result;
 }
@@ -283,7 +319,7 @@ GridChange Editor::Replace(const RosterGrid& grid) {
 
 void Editor::EndStep(const StateChange& change) {
   state_.outcome = {};
-  state_.left_behind.reset();
+  state_.note = {};
   if (!change.texts.empty()) RefreshMarks();
   Publish(change);
 }
@@ -299,9 +335,8 @@ void Editor::RefreshMarks() {
   state_.marks = GridMarks(state_.grid, *preview_, *baseline_);
 }
 
-void Editor::EndFileStep(StepOutcome outcome, const StateChange& change,
-                         const std::optional<LeftBehind>& left_behind) {
-  state_.left_behind = left_behind;
+void Editor::EndFileStep(StepOutcome outcome, const StateChange& change, StepNote note) {
+  state_.note = std::move(note);
   state_.outcome = std::move(outcome);
   state_.is_file_held = channel_.is_open();
   Publish(change);

@@ -112,7 +112,10 @@ class Editor {
   void AbandonLoad(const std::string& failure);
 
   /// What a step away from a scene leaves unsaved, while the marks are still that scene's.
-  [[nodiscard]] std::optional<LeftBehind> LeftBehindIn(const Scene& left) const;
+  [[nodiscard]] StepNote LeftBehindIn(const Scene& left) const;
+
+  /// What a save has made of the changes, of which the marks from before it tell.
+  [[nodiscard]] StepNote SavedIn(const SaveResult& saved) const;
 
   /// Adds the step that led from a scene to the current one, if there is anything to take back.
   void AddStep(const Scene& before, const GridChange& texts);
@@ -133,8 +136,7 @@ class Editor {
   void EndStep(const StateChange& change);
 
   /// Ends a step that had to do with a file.
-  void EndFileStep(StepOutcome outcome, const StateChange& change = {},
-                   const std::optional<LeftBehind>& left_behind = {});
+  void EndFileStep(StepOutcome outcome, const StateChange& change = {}, StepNote note = {});
 
   void Publish(const StateChange& change = {});
 

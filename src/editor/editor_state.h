@@ -28,11 +28,34 @@ enum class Layout { kNarrow, kWide };
 using StepOutcome =
     std::variant<std::monostate, OpenResult, LoadResult, SaveResult, ImportResult, ExportResult>;
 
-/// Changes that a step to another team or image has left unsaved.
+/// Changes that a step to another team or image has left unsaved; taking it back brings them back.
 struct LeftBehind {
   Place place;
   int changes = 0;
 };
+
+/// A letter of a row's name that the game lacks, empty for an empty name, while its message stands.
+struct UnknownLetter {
+  int row = 0;
+  std::string letter;
+};
+
+/// Of the cells that were not saved yet: how many a SAVE has stored, and how many the disk refused
+/// at least in part.
+struct SavedChanges {
+  int stored = 0;
+  int refused = 0;
+};
+
+/// A file that is no image of this game.
+struct RefusedFile {
+  std::filesystem::path path;
+  /// By its size it is an image without the 512 bytes that stand in front of the game.
+  bool lacks_header = false;
+};
+
+/// What a person should know of the last step, until the next one.
+using StepNote = std::variant<std::monostate, LeftBehind, UnknownLetter, SavedChanges, RefusedFile>;
 
 /// How things stand: all that a window shows, as one value.
 struct EditorState {
@@ -62,8 +85,7 @@ struct EditorState {
   /// Whether a step that is over has left a file open, which keeps others from being opened.
   bool is_file_held = false;
   StepOutcome outcome;
-  /// Of the last step; taking that back brings them back.
-  std::optional<LeftBehind> left_behind;
+  StepNote note;
 };
 
 /// What a step has done, beside leaving the state as it is now.

@@ -39,6 +39,36 @@ QString Counted(int count, const QString& one, const QString& many) {
   return QString("%1 %2").arg(count).arg(count == 1 ? one : many);
 }
 
+QString TextOf(std::monostate /*nothing*/, const EditorState& /*state*/) { return {}; }
+
+QString TextOf(const LeftBehind& left, const EditorState& /*state*/) {
+  if (left.place.team == nullptr) return {};
+  return QString("%1: %2, Ctrl+Z goes back")
+      .arg(FromCodePage(left.place.team->key),
+           Counted(left.changes, "change not saved", "changes not saved"));
+}
+
+QString TextOf(const UnknownLetter& unknown, const EditorState& state) {
+  const QString player = FromCodePage(PlayerText(unknown.row));
+  if (unknown.letter.empty()) return QString("the name of %1 is empty").arg(player);
+  return QString("%1 in %2, the name of %3")
+      .arg(FromCodePage(unknown.letter),
+           FromCodePage(state.grid.Text({Column::kName, unknown.row})), player);
+}
+
+QString TextOf(const SavedChanges& saved, const EditorState& /*state*/) {
+  QStringList parts;
+  if (saved.stored > 0) parts << Counted(saved.stored, "change stored", "changes stored");
+  if (saved.refused > 0) parts << QString("%1 refused by the disk").arg(saved.refused);
+  return parts.join(", ");
+}
+
+QString TextOf(const RefusedFile& file, const EditorState& /*state*/) {
+  if (!file.lacks_header) return {};
+  const QString name = QString::fromStdU16String(file.path.filename().u16string());
+  return QString("%1 lacks the 512 bytes in front of the game").arg(name);
+}
+
 }  // namespace
 
 QString TipOf(const GridMarks& marks, Cell cell) {
@@ -64,11 +94,33 @@ QString SummaryOf(const GridMarks& marks) {
   return parts.join(QString::fromUtf8(" \u00b7 "));
 }
 
-QString LeftBehindText(const EditorState& state) {
-  if (!state.left_behind || state.left_behind->place.team == nullptr) return {};
-  return QString("%1: %2, Ctrl+Z goes back")
-      .arg(FromCodePage(state.left_behind->place.team->key),
-           Counted(state.left_behind->changes, "change not saved", "changes not saved"));
+QString NoteOf(const EditorState& state) {
+  if (const auto* import = std::get_if<ImportResult>(&state.outcome)) {
+    if (import->outcome == ImportResult::Outcome::kEndedEarly) {
+      return QString("%1 of %2 lines read").arg(import->lines).arg(kSlotCount);
+    }
+  }
+  return std::visit([&state](const auto& note) { return TextOf(note, state); }, state.note);
+}
+
+QString DetailsOf(const EditorState& state) {
+  const auto* import = std::get_if<ImportResult>(&state.outcome);
+  if (import != nullptr && import->outcome == ImportResult::Outcome::kEndedEarly) {
+    const QString line_ends =
+        import->lines <= 1 ? " Perhaps its lines end in LF alone: they have to end in CR LF." : "";
+    return QString(
+               "A team file has %1 lines, and this one has %2.%3 Ctrl+O and Cancel close it, "
+               "Ctrl+Z brings the team back.\n")
+        .arg(kSlotCount)
+        .arg(import->lines)
+        .arg(line_ends);
+  }
+  const auto* refused = std::get_if<RefusedFile>(&state.note);
+  if (refused != nullptr && refused->lacks_header) {
+    return "The size of the file is that of a game without the 512 bytes that a copier puts in "
+           "front of it. The README says how to add them.\n";
+  }
+  return {};
 }
 
 QString PlainTip(const QString& text) {

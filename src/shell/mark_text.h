@@ -13,8 +13,11 @@ namespace morlek {
 /// is well.
 [[nodiscard]] QString SummaryOf(const GridMarks& marks);
 
-/// What the last step has left unsaved, in words, and how to go back; empty when nothing.
-[[nodiscard]] QString LeftBehindText(const EditorState& state);
+/// What a person should know of the last step, in words; empty when there is nothing to say.
+[[nodiscard]] QString NoteOf(const EditorState& state);
+
+/// More about that, a paragraph with a line break behind it; empty when there is no more to say.
+[[nodiscard]] QString DetailsOf(const EditorState& state);
 
 /// A text as a tool tip shows it to the letter: Qt would take some texts for marked-up ones.
 [[nodiscard]] QString PlainTip(const QString& text);

@@ -1,8 +1,8 @@
 #include "shell/status_line.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QFileInfo>
-#include <algorithm>
 
 #include "editor/editor_state.h"
 #include "shell/mark_text.h"
@@ -28,20 +28,31 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
 
 void StatusLine::Show(const EditorState& state) {
   const QString path = QString::fromStdU16String(state.scene.place.image.u16string());
-  QStringList notes = {LeftBehindText(state)};
+  const QString separator = QString::fromUtf8(" \u00b7 ");
+  QStringList notes = {NoteOf(state)};
   if (state.scene.is_grid_shown) {
     notes << (state.is_file_held ? QString(kFileHeld) : SummaryOf(state.marks));
   }
-  QString tail;
-  for (const QString& note : notes) {
-    if (!note.isEmpty()) tail += QString::fromUtf8(" \u00b7 ") + note;
-  }
-  const QFontMetrics metrics(font());
-  const int room = std::max(width() - metrics.horizontalAdvance(tail), kSmallestNameWidth);
+  notes.removeAll(QString());
   const QString name = QFileInfo(path).fileName();
-  setText(path.isEmpty() ? QString() : metrics.elidedText(name, Qt::ElideMiddle, room) + tail);
-  setToolTip(PlainTip(QDir::toNativeSeparators(path)));
-  setAccessibleDescription(path.isEmpty() ? QString() : name + tail);
+  const QString said = notes.join(separator);
+  const QFontMetrics metrics(font());
+  const int room = width() - metrics.horizontalAdvance(separator + said);
+  QStringList shown = notes;
+  // What is said comes before the name, which its tip shows as well.
+  if (room >= kSmallestNameWidth || notes.isEmpty()) {
+    shown.prepend(metrics.elidedText(name, Qt::ElideMiddle, notes.isEmpty() ? width() : room));
+  }
+  shown.removeAll(QString());
+  setText(metrics.elidedText(shown.join(separator), Qt::ElideRight, width()));
+  setToolTip(PlainTip(DetailsOf(state) + QDir::toNativeSeparators(path)));
+  QStringList spoken = notes;
+  if (!name.isEmpty()) spoken.prepend(name);
+  setAccessibleDescription(spoken.join(separator));
+  // For who cannot see that the line has changed.
+  QAccessibleEvent changed(this, QAccessible::Alert);
+  if (said != said_) QAccessible::updateAccessibility(&changed);
+  said_ = said;
 }
 
 }  // namespace morlek

@@ -14,8 +14,12 @@ class StatusLine : public QLabel {
   explicit StatusLine(QWidget* parent);
 
   /// Shows the file name of the image (its whole path in the tool tip), shortened where it has to
-  /// be, and behind it how things stand. Without an image the line is empty.
+  /// be, behind it what came of the last step, and how things stand. A screen reader is alerted
+  /// when that changes.
   void Show(const EditorState& state);
+
+ private:
+  QString said_;
 };
 
 }  // namespace morlek

@@ -26,6 +26,8 @@ class EditorStateTest : public TeamTest {
       seen.push_back({state.scene.is_grid_shown, state.is_loaded, state.is_file_held,
                       state.marks.modified_count(), messages.shown.size()});
       last_change = change;
+      const auto* letter = std::get_if<UnknownLetter>(&state.note);
+      if (letter != nullptr) notes.push_back(*letter);
     });
     editor.OpenFirstImage(kImage);
     editor.LoadTeam("Braves");
@@ -38,6 +40,7 @@ class EditorStateTest : public TeamTest {
   Editor::Subscription subscription;
   std::vector<Shown> seen;
   StateChange last_change;
+  std::vector<UnknownLetter> notes;
 };
 
 constexpr Cell kNumber{kUniformNumber, 7};
@@ -63,6 +66,18 @@ TEST_F(EditorStateTest, OnlyAVisitOfAFeatureMovesTheStanceAndAsksForTheWideLayou
     EXPECT_TRUE(last_change.layout_set);
     EXPECT_EQ(state().layout, Layout::kNarrow);
   }
+}
+
+TEST_F(EditorStateTest, BehindTheMessagesOfASaveStandTheLetterAndThenTheFreshMarks) {
+  editor.Type(kNumber, "77");
+  editor.Type({kName, 3}, "J.SM1TH");
+  seen.clear();
+  editor.Save();
+  EXPECT_EQ(messages.shown,
+            (std::vector<Message>{{kUnknownLetter, "MORLEK EDITOR"}, {kSaved, "MORLEK EDITOR"}}));
+  EXPECT_EQ(seen, (std::vector<Shown>{{true, true, false, 2, 0}, {true, true, false, 1, 1}}));
+  EXPECT_EQ(notes.at(0).row, 3);
+  EXPECT_EQ(notes.at(0).letter, "1");
 }
 
 TEST_F(EditorStateTest, ANameThatIsTooLongIsReportedBeforeTheFileIsClosedAndTheMarksFollow) {

@@ -121,18 +121,18 @@ TEST_F(PlacesTest, EveryStepCanBeTakenBackAndMadeAgainAcrossTeamsAndImages) {
 TEST_F(PlacesTest, AWrongBadgeTakenBackBringsTheEditsWithTheirMarksAndSaveWritesThemThere) {
   for (int row = 0; row < 8; ++row) editor.Type({Column::kUniformNumber, row}, "77");
   editor.LoadTeam("Orioles");
-  ASSERT_TRUE(state().left_behind);
-  EXPECT_EQ(state().left_behind->changes, 8);
-  EXPECT_EQ(state().left_behind->place.team, FindTeam("Braves"));
+  EXPECT_EQ(std::get<LeftBehind>(state().note).changes, 8);
+  EXPECT_EQ(std::get<LeftBehind>(state().note).place.team, FindTeam("Braves"));
   EXPECT_EQ(state().marks.modified_count(), 0);
 
   EXPECT_EQ(editor.Undo(), std::nullopt);
   EXPECT_EQ(state().scene, (Scene{{kImage, FindTeam("Braves")}, true}));
   EXPECT_EQ(state().picked, FindTeam("Braves"));
   EXPECT_EQ(state().marks.modified_count(), 8);
-  EXPECT_FALSE(state().left_behind);
+  EXPECT_EQ(state().note.index(), 0U);
   disk.writes.clear();
   editor.Save();
+  EXPECT_EQ(std::get<SavedChanges>(state().note).stored, 8);
   EXPECT_EQ(disk.writes.front().position, kBraves);
   EXPECT_EQ(state().marks.modified_count(), 0);
   EXPECT_EQ(editor.Redo(), std::nullopt);

@@ -190,8 +190,9 @@ void MarksPropertyTest::ReadEveryMark() {
   const auto& foot = Find<QLabel>("labelStatus");
   EXPECT_EQ(ReadSummary(foot.accessibleDescription()), counted);
   const QString tail = foot.accessibleDescription().mid(QString("game.smc").size());
-  EXPECT_TRUE(foot.text().endsWith(tail) && foot.text().size() > tail.size());
-  EXPECT_EQ(Find("Command1").accessibleDescription(), WithoutLeftBehind(tail).mid(3));
+  const bool is_cut = foot.text().endsWith(QChar(0x2026));
+  EXPECT_TRUE(foot.text().endsWith(tail.mid(3)) || is_cut) << foot.text().toStdString();
+  EXPECT_EQ(Find("Command1").accessibleDescription(), WithoutNote(tail).mid(3));
 }
 
 /// F8 goes round the red corners in the order of the screen, Shift+F8 against it.

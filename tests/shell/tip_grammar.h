@@ -73,11 +73,13 @@ struct SpokenSummary {
   friend bool operator==(const SpokenSummary&, const SpokenSummary&) = default;
 };
 
-/// The line without what it says of changes that were left behind.
-inline QString WithoutLeftBehind(QString line) {
-  static const QRegularExpression left_behind(QString::fromUtf8(
-      R"( · [A-Z][A-Za-z ]+: (?:1 change|(?:[2-9]|[1-9]\d+) changes) not saved, Ctrl\+Z goes back)"));
-  return line.remove(left_behind);
+/// The line without what it says of the last step.
+inline QString WithoutNote(QString line) {
+  static const QRegularExpression note(QString::fromUtf8(
+      R"( · (?:[A-Z][A-Za-z ]+: (?:1 change|(?:[2-9]|[1-9]\d+) changes) not saved, Ctrl\+Z goes back)"
+      R"(|\d+ changes? stored(?:, \d+ refused by the disk)?|\d+ refused by the disk)"
+      R"(|\d+ of 25 lines read))"));
+  return line.remove(note);
 }
 
 /// Understands the line to the last letter, one and many included.
@@ -86,7 +88,7 @@ inline SpokenSummary ReadSummary(const QString& line) {
       R"(\Agame\.smc(?:( · a file is still open and blocks SAVE \(Ctrl\+O, Cancel\)))"
       R"(|(?: · (?:(1) change|([2-9]|[1-9]\d+) changes) not saved)?)"
       R"((?: · SAVE will not keep (?:(1) cell|([2-9]|[1-9]\d+) cells) \(F8\))?)\z)"));
-  const QRegularExpressionMatch match = grammar.match(WithoutLeftBehind(line));
+  const QRegularExpressionMatch match = grammar.match(WithoutNote(line));
   EXPECT_TRUE(match.hasMatch()) << "no such line: " << line.toStdString();
   return {.unsaved = (match.captured(2) + match.captured(3)).toInt(),
           .unkept = (match.captured(4) + match.captured(5)).toInt(),
