@@ -59,9 +59,9 @@ TEST_F(EditorStateTest, OnlyAVisitOfAFeatureMovesTheStanceAndAsksForTheWideLayou
   editor.Visit({kName, 3});
   EXPECT_EQ(state().stance_row, 20);
   EXPECT_EQ(state().chooser, kBody);
-  editor.Visit({kLegs, 3});
   for (const auto& step : {std::function<void()>([&] { editor.OpenAnotherImage(kImage); }),
                            {[&] { editor.LoadTeam("Orioles"); }}}) {
+    editor.Visit({kLegs, 3});
     step();
     EXPECT_TRUE(last_change.layout_set);
     EXPECT_EQ(state().layout, Layout::kNarrow);
