@@ -14,12 +14,13 @@ int StepsBack(History& history) {
 }
 
 TEST(History, ALongOneDropsItsOldestStepsAndNoMore) {
-  // Each step holds a little more than 7 MiB, so 32 MiB take four of them.
+  // Each step but the first holds a little more than 7 MiB, so 32 MiB take four of them.
   GridChange change;
   for (std::size_t index = 0; index < 120; ++index) {
     change.push_back({kAllCells.at(index), kLong, kLong});
   }
   History history;
+  history.Add({.texts = {change.front()}, .scenes = {}});
   for (int step = 0; step < 7; ++step) {
     change.front().after = std::to_string(step);
     history.Add({.texts = change, .scenes = {}});

@@ -35,11 +35,14 @@ class WindowContentsTest : public WindowTest {
     QStringList bad = {"ZZ"};
     if (const auto match = range.match(accepted); match.hasMatch()) {
       const int base = match.hasCaptured(3) ? 16 : 10;
-      const QString last = match.captured(2);
-      QString beyond = QString::number(QString(last).remove('.').toInt(nullptr, base) + 1, base);
-      if (last.contains('.')) beyond.insert(last.indexOf('.'), '.');
-      good << match.captured(1) << last;
-      bad << beyond << (match.captured(1) == "1" ? "0" : "-1");
+      const auto beside = [base](QString edge, int more) {
+        const auto point = edge.indexOf('.');
+        const int number = edge.remove('.').toInt(nullptr, base) + more;
+        return point < 0 || number < 0 ? QString::number(number, base)
+                                       : QString::number(number).insert(point, '.');
+      };
+      good << match.captured(1) << match.captured(2);
+      bad << beside(match.captured(1), -1) << beside(match.captured(2), +1);
     } else if (const auto letters = name.match(accepted); letters.hasMatch()) {
       const QString most = QString("LMNOPQRSTUV").left(letters.captured(1).toInt());
       good << "Q." + most << "A.Z";
