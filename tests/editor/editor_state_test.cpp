@@ -92,10 +92,13 @@ TEST_F(EditorStateTest, ANameThatIsTooLongIsReportedBeforeTheFileIsClosedAndTheM
 
 TEST_F(EditorStateTest, ALoadThatFailsHidesTheGridOnlyAfterItsMessage) {
   Poke({{20, 12, 0xAB}}, kOrioles);
+  editor.Visit({kFace, 0});
+  seen.clear();
   EXPECT_EQ(editor.LoadTeam("Orioles").outcome, LoadResult::Outcome::kEndedEarly);
   EXPECT_TRUE(last_change.layout_set == false && state().scene.place.team == kOriolesTeam);
   EXPECT_EQ(seen, (std::vector<Shown>{{true, false, false, 0, 0}, {false, false, false, 0, 1}}))
       << "with what was read";
+  EXPECT_EQ(state().layout, Layout::kNarrow);
   editor.LoadTeam("Braves");
   editor.Type(kNumber, "77");
   seen.clear();
