@@ -8,7 +8,7 @@ namespace morlek::bench {
 constexpr std::uintmax_t kGameBytes = 1573376;
 constexpr std::uintmax_t kHugeBytes = std::uintmax_t{4} << 30U;
 
-/// A folder of this run's own for the files that are measured; removed with the object.
+/// A temporary folder for the measured files; removed with the object.
 class BenchFolder {
  public:
   BenchFolder();

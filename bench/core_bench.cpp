@@ -11,9 +11,10 @@
 #include <vector>
 
 #include "bench_files.h"
-#include "no_window.h"
+#include "image/team_directory.h"
 #include "ratio_table.h"
-#include "team/rehearsal.h"
+#include "team/save_preview.h"
+#include "team/team_loader.h"
 #include "team/team_saver.h"
 #include "textfile/team_export.h"
 #include "textfile/team_import.h"
@@ -21,7 +22,7 @@
 namespace morlek::bench {
 namespace {
 
-/// Counts the single-byte accesses of an operation at the seam through which all of them go.
+/// Records the position of every single-byte access of an operation.
 class CountingFile : public File, private std::streambuf {
  public:
   explicit CountingFile(std::vector<std::int64_t>& positions) : positions_(positions) {}
@@ -48,23 +49,21 @@ const BenchFolder& Folder() {
 
 /// The Braves of an image, loaded.
 struct LoadedTeam {
-  explicit LoadedTeam(std::uintmax_t image_bytes) {
-    image.SetPath(Folder().ImageOf(image_bytes));
+  explicit LoadedTeam(std::uintmax_t image_bytes)
+      : location{Folder().ImageOf(image_bytes), FindTeam("Braves")->base} {
     Load();
   }
 
-  void Load() { known = loader.Load("Braves", grid, view); }
-  void Save() { saver.Save(grid); }
+  void Load() { known = LoadTeam(image, location, state, grid).read; }
+  void Save() { benchmark::DoNotOptimize(SaveTeam(image, location, grid, state, listener)); }
 
-  SilentMessages messages;
-  NoView view;
+  EncodingListener listener;
   Channel channel;
   CartridgeImage image{channel};
-  KeptState kept;
+  RecordLocation location;
+  CodecState state;
   RosterGrid grid;
   RecordBytes known;
-  TeamLoader loader{image, kept};
-  TeamSaver saver{image, kept, messages};
 };
 
 /// The offsets that one load or save of a team accesses, in its order.
@@ -75,12 +74,10 @@ std::vector<std::int64_t> OffsetsOf(bool save) {
     return std::make_unique<CountingFile>(offsets);
   });
   CartridgeImage image(channel);
-  image.SetPath("any");
   if (save) {
-    image.SetTeamBase(*loaded.image.team_base());
-    TeamSaver(image, loaded.kept, loaded.messages).Save(loaded.grid);
+    static_cast<void>(SaveTeam(image, loaded.location, loaded.grid, loaded.state, loaded.listener));
   } else {
-    TeamLoader(image, loaded.kept).Load("Braves", loaded.grid, loaded.view);
+    static_cast<void>(LoadTeam(image, loaded.location, loaded.state, loaded.grid));
   }
   return offsets;
 }
@@ -102,7 +99,7 @@ void BareReads(benchmark::State& state) {
 void BareWrites(benchmark::State& state) {
   const std::vector<std::int64_t> offsets = OffsetsOf(true);
   // The very file that is saved into: how long a write takes depends on how the system holds a file
-  // in memory. What stands there is written again.
+  // in memory. It writes what the file holds already.
   const std::string image = Folder().ImageOf(kGameBytes).string();
   std::vector<std::uint8_t> bytes(offsets.size());
   const int read_file = open(image.c_str(), O_RDONLY | O_CLOEXEC);
@@ -130,18 +127,17 @@ void Save(benchmark::State& state, std::uintmax_t image_bytes) {
   for (auto _ : state) loaded.Save();
 }
 
-/// What SAVE would keep, found out in memory.
-void Rehearse(benchmark::State& state) {
+void Preview(benchmark::State& state) {
   const LoadedTeam loaded(kGameBytes);
   for (auto _ : state) {
-    benchmark::DoNotOptimize(Rehearsal(loaded.grid, loaded.kept, loaded.known));
+    benchmark::DoNotOptimize(SavePreview(loaded.grid, loaded.state, loaded.known));
   }
 }
 
 std::string ExportedText() {
   LoadedTeam loaded(kGameBytes);
   const auto path = Folder().path("team.txt");
-  ExportTeamData(loaded.channel, path, loaded.grid);
+  static_cast<void>(ExportTeamData(loaded.channel, path, loaded.grid));
   std::string text(std::filesystem::file_size(path), '\0');
   const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (read(file, text.data(), text.size()) != static_cast<ssize_t>(text.size())) text.clear();
@@ -167,7 +163,9 @@ void BareExport(benchmark::State& state) {
 void Export(benchmark::State& state) {
   LoadedTeam loaded(kGameBytes);
   const auto path = Folder().path("exported.txt");
-  for (auto _ : state) ExportTeamData(loaded.channel, path, loaded.grid);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(ExportTeamData(loaded.channel, path, loaded.grid));
+  }
 }
 
 /// Reads the same bytes and puts them into 350 texts of a grid, which is the least to be done.
@@ -183,7 +181,7 @@ void BareImport(benchmark::State& state) {
     close(file);
     ClearRosterGrid(grid);
     for (int row = 0; row < kSlotCount; ++row) {
-      for (const GridColumn& column : ColumnsOfRow(row)) {
+      for (const BlockColumn& column : BlockOf(row).columns) {
         grid.SetText({column.column, row}, std::string(buffer.data(), 4));
       }
     }
@@ -194,13 +192,15 @@ void Import(benchmark::State& state) {
   LoadedTeam loaded(kGameBytes);
   ExportedText();
   const auto path = Folder().path("team.txt");
-  for (auto _ : state) ImportTeamData(loaded.channel, path, loaded.grid);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(ImportTeamData(loaded.channel, path, loaded.grid));
+  }
 }
 
 constexpr std::array<Ratio, 7> kRatios = {{
     {"load a team / the same single-byte reads", "load", "bare_reads", 2.5},
     {"save a team / the same single-byte writes", "save", "bare_writes", 2.5},
-    {"rehearsal of a save / load a team", "rehearsal", "load", 0.5},
+    {"preview of a save / load a team", "preview", "load", 0.5},
     {"load from 4 GiB / from 1.5 MiB", "load_4gib", "load", 1.1},
     {"save into 4 GiB / into 1.5 MiB", "save_4gib", "save", 1.1},
     {"export / writing the same lines", "export", "bare_export", 2.0},
@@ -225,7 +225,7 @@ int main(int argument_count, char** arguments) {
   add("bare_reads", BareReads);
   add("load", [](benchmark::State& state) { Load(state, kGameBytes); });
   add("load_4gib", [](benchmark::State& state) { Load(state, kHugeBytes); });
-  add("rehearsal", Rehearse);
+  add("preview", Preview);
   add("bare_writes", BareWrites);
   add("save", [](benchmark::State& state) { Save(state, kGameBytes); });
   add("save_4gib", [](benchmark::State& state) { Save(state, kHugeBytes); });

@@ -7,8 +7,8 @@
 
 namespace morlek::bench {
 
-/// Ends the program as soon as a window has been painted for the first time, without taking its
-/// windows down: what is measured is the start.
+/// Ends the program as soon as a window has been painted for the first time, without destroying
+/// its windows: only the start is measured.
 class QuitAfterFirstPaint : public QObject {
  public:
   explicit QuitAfterFirstPaint(QWidget& window) { window.installEventFilter(this); }

@@ -29,7 +29,7 @@ int Run(morlek::User& user, bool with_team) {
     window.findChild<QAbstractButton*>("Braves")->click();
   });
   if (with_team) picking.start();
-  // Should the image be refused, nothing is ever painted.
+  // If the image is refused, nothing is ever painted.
   QTimer::singleShot(std::chrono::seconds(30), &window, [] { QApplication::exit(1); });
 
   morlek::SplashWindow splash;

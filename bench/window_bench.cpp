@@ -65,7 +65,7 @@ class Program {
   morlek::MainWindow window_{editor_, user_};
 };
 
-/// Line edits where the boxes of a grid are, for which nothing else is done.
+/// Plain line edits at the positions of the boxes of a grid.
 class PlainGrid : public QWidget {
  public:
   explicit PlainGrid(const QWidget& frame) {
@@ -111,7 +111,7 @@ bool PrintSteps(const char* what, const Step& step, const Step& other, double li
   return morlek::bench::PrintRow(what, morlek::bench::MedianRatio(times, other_times), limit);
 }
 
-/// Types a digit over what the box holds.
+/// Replaces the text of the box by a typed digit.
 void TypeOver(QLineEdit& box, int round) {
   box.selectAll();
   const QString digit = QString::number(round % 9 + 1);
@@ -153,7 +153,7 @@ bool PrintAllSteps(const morlek::bench::BenchFolder& folder) {
   click_huge(1);
   within &= PrintSteps("click with 4 GiB / with 1.5 MiB", click_huge, click, 1.1);
 
-  // A window whose editor knows nothing of its image marks nothing.
+  // An editor without a baseline marks nothing.
   const std::filesystem::path lost_image = folder.ImageOf(morlek::bench::kGameBytes + 1);
   Program unmarked(lost_image, team_file);
   std::filesystem::remove(lost_image);
@@ -183,7 +183,7 @@ bool PrintAllSteps(const morlek::bench::BenchFolder& folder) {
 int main(int argument_count, char** arguments) {
   const QApplication application(argument_count, arguments);
   morlek::ApplyLook();
-  // A step that paints nothing would be waited for without end.
+  // A step that paints nothing would never end.
   QTimer::singleShot(std::chrono::minutes(2), [] { std::_Exit(1); });
   return PrintAllSteps(morlek::bench::BenchFolder()) ? 0 : 1;
 }

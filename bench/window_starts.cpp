@@ -1,5 +1,6 @@
-// Starts the window programs beside it by turns and prints how their start and memory compare. It
-// must not link the toolkit: the system counts the memory of a program as that of each it starts.
+// Starts the window programs beside it alternately and prints how their start and memory compare.
+// It must not link the toolkit: the system counts the memory of a program as that of each it
+// starts.
 
 #include <spawn.h>
 #include <sys/resource.h>

@@ -1,5 +1,6 @@
-# What an installation holds beside the program, and the Debian package that CPack makes of it.
-# For Windows the program is one file: packaging/windows/build puts it into an archive.
+# What an installation holds beside the programs, and the two Debian packages that CPack makes of it:
+# the components league and league_debian are that of morlek-league, all others the editor's.
+# For Windows each program is one file: packaging/windows/build puts them into an archive.
 include(GNUInstallDirs)
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(app_id org.morlek.Editor)
@@ -64,8 +65,9 @@ install(
   COMPONENT debian
   EXCLUDE_FROM_ALL)
 
-# install_compressed(<input> <folder> <name>): for the Debian package, without a time stamp inside.
-function(install_compressed input folder name)
+# install_compressed(<input> <folder> <name> <component>): for a Debian package, without a time stamp
+# inside.
+function(install_compressed input folder name component)
   install(
     CODE "
       set(output \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}/${name}\")
@@ -73,14 +75,40 @@ function(install_compressed input folder name)
       execute_process(
         COMMAND gzip -9nc \"${input}\" OUTPUT_FILE \"\${output}\" COMMAND_ERROR_IS_FATAL ANY)
     "
-    COMPONENT debian EXCLUDE_FROM_ALL)
+    COMPONENT ${component} EXCLUDE_FROM_ALL)
 endfunction()
-install_compressed(${man_page} ${man_folder} morlek-editor.1.gz)
-install_compressed(${packaging}/linux/changelog ${CMAKE_INSTALL_DOCDIR} changelog.Debian.gz)
+install_compressed(${man_page} ${man_folder} morlek-editor.1.gz debian)
+install_compressed(${packaging}/linux/changelog ${CMAKE_INSTALL_DOCDIR} changelog.Debian.gz debian)
+
+if(MORLEK_BUILD_LEAGUE)
+  set(league_docs ${CMAKE_INSTALL_DATAROOTDIR}/doc/morlek-league)
+  install(TARGETS morlek-league COMPONENT league)
+  install(
+    FILES ${packaging}/linux/morlek-league.1
+    DESTINATION ${man_folder}
+    COMPONENT plain)
+  install(
+    FILES ${packaging}/linux/copyright
+    DESTINATION ${league_docs}
+    COMPONENT league_debian
+    EXCLUDE_FROM_ALL)
+  install(
+    FILES ${packaging}/linux/lintian-overrides-league
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides
+    RENAME morlek-league
+    COMPONENT league_debian
+    EXCLUDE_FROM_ALL)
+  install_compressed(${packaging}/linux/morlek-league.1 ${man_folder} morlek-league.1.gz
+                     league_debian)
+  install_compressed(${packaging}/linux/changelog ${league_docs} changelog.Debian.gz league_debian)
+endif()
 
 set(CPACK_GENERATOR DEB)
-set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};${PROJECT_NAME};Unspecified;/"
-                                 "${PROJECT_BINARY_DIR};${PROJECT_NAME};debian;/")
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL Unspecified debian)
+if(MORLEK_BUILD_LEAGUE)
+  list(APPEND CPACK_COMPONENTS_ALL league league_debian)
+endif()
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
@@ -91,14 +119,34 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Morlek Editor developers <developers@morlek.example>")
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://morlek.example/editor)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The first line of each package's own description takes its place.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
+
+set(CPACK_DEBIAN_EDITOR_PACKAGE_NAME morlek-editor)
 # The desktop's own file dialogs, and a window on Wayland without XWayland.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+set(CPACK_DEBIAN_EDITOR_PACKAGE_RECOMMENDS
     "qt6-gtk-platformtheme | qt6-xdgdesktopportal-platformtheme, qt6-wayland")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "team editor for the cartridge image of a SNES baseball game")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-    "Opens the cartridge image of the SNES game Dale Harrow Jr. Baseball and shows
+set(CPACK_DEBIAN_EDITOR_PACKAGE_SUGGESTS morlek-league)
+set(CPACK_DEBIAN_EDITOR_DESCRIPTION
+    "team editor for the cartridge image of a SNES baseball game
+Opens the cartridge image of the SNES game Dale Harrow Jr. Baseball and shows
 the 25 players of each of its 28 teams in one sheet: names, positions, uniform
 numbers, batting sides and throwing hands, ratings, averages, statistics, and
 the face, body and legs of the batting stances. They are edited and saved in
 place; teams can be exported to and imported from text files.")
+
+set(CPACK_DEBIAN_LEAGUE_PACKAGE_NAME morlek-league)
+set(CPACK_DEBIAN_LEAGUE_DESCRIPTION
+    "carry the teams of a SNES baseball game's image to a table and back
+Writes all 28 teams in the cartridge image of the SNES game Dale Harrow Jr.
+Baseball to one table for a spreadsheet, takes such a table back into the
+image, all of it or nothing, and shows what differs between two images or
+tables. It has no window; morlek-editor edits one team after the other.")
+
 include(CPack)
+cpack_add_component_group(editor)
+cpack_add_component_group(league)
+cpack_add_component(Unspecified GROUP editor)
+cpack_add_component(debian GROUP editor)
+cpack_add_component(league GROUP league)
+cpack_add_component(league_debian GROUP league)

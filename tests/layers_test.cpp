@@ -21,13 +21,18 @@ const std::map<std::string, std::set<std::string>> kBelow = {
     {"team", {"image", "codecs"}},
     {"textfile", {"image", "codecs", "team"}},
     {"editor", {"image", "codecs", "team", "textfile"}},
+    {"league", {"image", "codecs", "team", "textfile"}},
+    {"cli", {"image", "codecs", "team", "textfile", "league"}},
     {"art", {}},
     {"ui", {}},
     {"shell", {"image", "codecs", "team", "textfile", "editor", "art", "ui"}}};
 const std::set<std::string> kKnowsQt = {"art", "ui", "shell"};
 // Headers that the build writes, or that only one system has.
-const std::map<std::string, std::string> kSpecial = {{"\"version.h\"", "shell"},
-                                                     {"<windows.h>", "ui"}};
+const std::map<std::string, std::set<std::string>> kSpecial = {{"\"version.h\"", {"shell", "cli"}},
+                                                               {"<CLI/CLI.hpp>", {"cli"}},
+                                                               {"<fcntl.h>", {"cli"}},
+                                                               {"<io.h>", {"cli"}},
+                                                               {"<windows.h>", {"ui"}}};
 
 /// Whether a file in `layer` may contain `line`; lines that include nothing always may stand.
 bool MayStand(const std::string& layer, const std::string& line) {
@@ -38,7 +43,7 @@ bool MayStand(const std::string& layer, const std::string& line) {
   if (line.find('#') == std::string::npos || !std::regex_match(line, match, include)) return true;
   const std::string header = match[1];
   const auto special = kSpecial.find(header);
-  if (special != kSpecial.end()) return special->second == layer;
+  if (special != kSpecial.end()) return special->second.contains(layer);
   if (std::regex_match(header, match, system)) {
     return header[1] != 'Q' || kKnowsQt.contains(layer);
   }

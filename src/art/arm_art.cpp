@@ -26,11 +26,6 @@ QPainterPath ForearmPart(const Arm& arm, qreal from, qreal to, qreal widening) {
                  {Between(arm.elbow, arm.hand, to), radius(to) + widening});
 }
 
-bool ShowsShirtOnForearm(Sleeves sleeves) {
-  return sleeves == Sleeves::kLongBlue || sleeves == Sleeves::kLongNavy ||
-         sleeves == Sleeves::kThreeQuarterRed;
-}
-
 /// A blue band along the end of a short sleeve.
 void PaintHem(QPainter& painter, const Arm& arm, const QPainterPath& sleeve, const QColor& color) {
   painter.save();
@@ -55,14 +50,8 @@ void PaintExtras(QPainter& painter, const Arm& arm, Extras extras, const Kit& ki
 }  // namespace
 
 Tone UndershirtOf(Sleeves sleeves, const Kit& kit) {
-  switch (sleeves) {
-    case Sleeves::kLongNavy:
-      return kit.dark;
-    case Sleeves::kThreeQuarterRed:
-      return kit.bright;
-    default:
-      return kit.main;
-  }
+  if (sleeves == Sleeves::kLongNavy) return kit.dark;
+  return sleeves == Sleeves::kThreeQuarterRed ? kit.bright : kit.main;
 }
 
 void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Tone& skin,
@@ -71,8 +60,10 @@ void PaintArm(QPainter& painter, const Arm& arm, const Outfit& outfit, const Ton
   limb.addPath(ForearmPart(arm, 0, 1, 0));
   PaintSolid(painter, limb, skin);
 
-  if (ShowsShirtOnForearm(outfit.sleeves)) {
-    const qreal cuff = outfit.sleeves == Sleeves::kThreeQuarterRed ? 0.3 : 0.72;
+  const bool is_three_quarter = outfit.sleeves == Sleeves::kThreeQuarterRed;
+  if (is_three_quarter || outfit.sleeves == Sleeves::kLongBlue ||
+      outfit.sleeves == Sleeves::kLongNavy) {
+    const qreal cuff = is_three_quarter ? 0.3 : 0.72;
     QPainterPath shirt = UpperArmPart(arm, 1, -0.2);
     shirt.addPath(ForearmPart(arm, 0, cuff, 0.4));
     PaintSolid(painter, shirt, UndershirtOf(outfit.sleeves, kit));

@@ -11,25 +11,6 @@
 namespace morlek::art {
 namespace {
 
-/// Half widths of the torso.
-struct Girth {
-  qreal shoulder;
-  qreal chest;
-  qreal waist;
-};
-
-Girth GirthOf(Build build) {
-  switch (build) {
-    case Build::kSlim:
-      return {21, 16.5, 14.5};
-    case Build::kStocky:
-      return {25, 24.5, 22};
-    case Build::kBroad:
-      break;
-  }
-  return {27, 21, 16.5};
-}
-
 QPainterPath TorsoOf(const Girth& girth) {
   QPainterPath torso(QPointF(-8, -53));
   torso.cubicTo({-14, -51}, {-girth.shoulder + 2, -50}, {-girth.shoulder, -42});
@@ -66,7 +47,7 @@ void PaintJerseyFront(QPainter& painter, const QPainterPath& torso, const Tone& 
 QRectF BodyFrame(int code) {
   constexpr qreal kSmallestFrame = 92;
   const auto [outfit, hold] = BodyLookOf(code);
-  const qreal half_width = GirthOf(outfit.build).shoulder + 3;
+  const qreal half_width = outfit.girth.shoulder + 3;
   const QPointF tip = hold.knob + BatDirection(hold.angle) * kBatLength;
   return FrameAround(std::array<QRectF, 5>{{{-half_width, -66, 2 * half_width, 68},
                                             SquareAround({hold.knob, 7}),
@@ -80,7 +61,7 @@ void PaintTorso(QPainter& painter, int code, const Kit& kit) {
   const auto [outfit, hold] = BodyLookOf(code);
   if (hold.is_behind) PaintBat(painter, hold.knob, hold.angle);
   PaintNeck(painter, SkinOf(code / 16));
-  const QPainterPath torso = TorsoOf(GirthOf(outfit.build));
+  const QPainterPath torso = TorsoOf(outfit.girth);
   PaintSolid(painter, torso, kJersey, 5);
   PaintJerseyFront(painter, torso, UndershirtOf(outfit.sleeves, kit), kit.main.light);
 }
@@ -89,7 +70,7 @@ void PaintArms(QPainter& painter, int code, const Kit& kit) {
   const BodyLook look = BodyLookOf(code);
   const Outfit& outfit = look.outfit;
   const BatHold& hold = look.hold;
-  const Girth girth = GirthOf(outfit.build);
+  const Girth& girth = outfit.girth;
   const Tone skin = SkinOf(code / 16);
   const QPointF direction = BatDirection(hold.angle);
   const auto hand = [&](std::optional<qreal> grip, qreal side) {

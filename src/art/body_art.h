@@ -17,10 +17,10 @@ namespace morlek::art {
 inline constexpr QPointF kHeadPlace{3, -74};
 inline constexpr qreal kHeadScale = 0.84;
 
-/// Paints what lies behind the head: torso, neck and, with some holds, the bat.
+/// Paints what is behind the head: torso, neck and, with some holds, the bat.
 void PaintTorso(QPainter& painter, int code, const Kit& kit);
 
-/// Paints what lies before the head: arms and, with the other holds, the bat.
+/// Paints what is in front of the head: arms and, with the other holds, the bat.
 void PaintArms(QPainter& painter, int code, const Kit& kit);
 
 }  // namespace morlek::art

@@ -47,22 +47,22 @@ constexpr std::array<BatHold, kLooksInClass> kHolds = {{
 }};
 
 constexpr std::array<Outfit, kLooksInClass> kOutfits = {{
-    {Build::kBroad, Sleeves::kShort, Extras::kNone},
-    {Build::kSlim, Sleeves::kShort, Extras::kWristbands},
-    {Build::kStocky, Sleeves::kShort, Extras::kGloves},
-    {Build::kBroad, Sleeves::kLongBlue, Extras::kNone},
-    {Build::kSlim, Sleeves::kThreeQuarterRed, Extras::kNone},
-    {Build::kBroad, Sleeves::kVest, Extras::kWristbands},
-    {Build::kStocky, Sleeves::kLongNavy, Extras::kNone},
-    {Build::kSlim, Sleeves::kShort, Extras::kElbowGuard},
-    {Build::kBroad, Sleeves::kShort, Extras::kElbowGuard},
-    {Build::kStocky, Sleeves::kThreeQuarterRed, Extras::kNone},
-    {Build::kSlim, Sleeves::kVest, Extras::kNone},
-    {Build::kBroad, Sleeves::kShort, Extras::kGloves},
-    {Build::kSlim, Sleeves::kLongBlue, Extras::kNone},
-    {Build::kStocky, Sleeves::kShort, Extras::kWristbands},
-    {Build::kBroad, Sleeves::kLongNavy, Extras::kNone},
-    {Build::kStocky, Sleeves::kVest, Extras::kElbowGuard},
+    {build::kBroad, Sleeves::kShort, Extras::kNone},
+    {build::kSlim, Sleeves::kShort, Extras::kWristbands},
+    {build::kStocky, Sleeves::kShort, Extras::kGloves},
+    {build::kBroad, Sleeves::kLongBlue, Extras::kNone},
+    {build::kSlim, Sleeves::kThreeQuarterRed, Extras::kNone},
+    {build::kBroad, Sleeves::kVest, Extras::kWristbands},
+    {build::kStocky, Sleeves::kLongNavy, Extras::kNone},
+    {build::kSlim, Sleeves::kShort, Extras::kElbowGuard},
+    {build::kBroad, Sleeves::kShort, Extras::kElbowGuard},
+    {build::kStocky, Sleeves::kThreeQuarterRed, Extras::kNone},
+    {build::kSlim, Sleeves::kVest, Extras::kNone},
+    {build::kBroad, Sleeves::kShort, Extras::kGloves},
+    {build::kSlim, Sleeves::kLongBlue, Extras::kNone},
+    {build::kStocky, Sleeves::kShort, Extras::kWristbands},
+    {build::kBroad, Sleeves::kLongNavy, Extras::kNone},
+    {build::kStocky, Sleeves::kVest, Extras::kElbowGuard},
 }};
 
 }  // namespace

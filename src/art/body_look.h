@@ -5,12 +5,26 @@
 
 namespace morlek::art {
 
-enum class Build { kSlim, kBroad, kStocky };
+/// Half widths of the torso.
+struct Girth {
+  qreal shoulder;
+  qreal chest;
+  qreal waist;
+};
+
+namespace build {
+
+inline constexpr Girth kSlim{21, 16.5, 14.5};
+inline constexpr Girth kBroad{27, 21, 16.5};
+inline constexpr Girth kStocky{25, 24.5, 22};
+
+}  // namespace build
+
 enum class Sleeves { kShort, kLongBlue, kLongNavy, kThreeQuarterRed, kVest };
 enum class Extras { kNone, kGloves, kWristbands, kElbowGuard };
 
 struct Outfit {
-  Build build;
+  Girth girth;
   Sleeves sleeves;
   Extras extras;
 };

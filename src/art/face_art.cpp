@@ -81,13 +81,12 @@ void PaintHelmet(QPainter& painter, const Kit& kit) {
 void PaintHead(QPainter& painter, int code, const Kit& kit) {
   const FaceLook look = FaceLookOf(code);
   const Tone skin = SkinOf(code / 16);
-  const JawLine jaw = JawLineOf(look.jaw);
 
   if (look.locks == Locks::kLong) PaintLongHair(painter);
-  const QPainterPath skull = SkullOf(jaw);
+  const QPainterPath skull = SkullOf(look.jaw);
   PaintSolid(painter, skull, skin, 4);
   PaintMark(painter, look.mark, skin);
-  PaintBeard(painter, look.whiskers, jaw, skull);
+  PaintBeard(painter, look.whiskers, look.jaw, skull);
   if (look.locks == Locks::kCurls) PaintCurls(painter);
   PaintSideburn(painter);
   PaintEar(painter, skin);

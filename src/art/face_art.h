@@ -8,7 +8,7 @@ class QPainter;
 
 namespace morlek::art {
 
-/// The room that every head keeps within; (0, 0) lies between the eyes' height and the ear.
+/// The room that every head keeps within; (0, 0) is next to the middle of the near eye.
 inline constexpr QRectF kHeadFrame{-31, -35, 71, 71};
 
 /// Paints the head of a face code that has a picture, looking to the right.

@@ -26,9 +26,7 @@ void PaintGlasses(QPainter& painter, bool is_round) {
     square.addRoundedRect(QRectF(center - QPointF(6.4, 4.8), QSizeF(12.4, 9.4)), 2, 2);
     PaintFrame(painter, is_round ? Ellipse(center, 6, 6) : square, thickness);
   }
-  QPainterPath bridge(QPointF(4.6, 0.4));
-  bridge.quadTo({6.4, -1.2}, {8.2, 0.4});
-  PaintLine(painter, bridge, kInk, thickness);
+  PaintLine(painter, Bow({4.6, 0.4}, {6.4, -1.2}, {8.2, 0.4}), kInk, thickness);
   PaintTemple(painter, thickness);
 }
 
@@ -61,25 +59,11 @@ void PaintEyeBlack(QPainter& painter) {
 }  // namespace
 
 void PaintEyewear(QPainter& painter, Eyewear eyewear) {
-  switch (eyewear) {
-    case Eyewear::kNone:
-      break;
-    case Eyewear::kRoundGlasses:
-      PaintGlasses(painter, true);
-      break;
-    case Eyewear::kSquareGlasses:
-      PaintGlasses(painter, false);
-      break;
-    case Eyewear::kShades:
-      PaintShades(painter);
-      break;
-    case Eyewear::kGoggles:
-      PaintGoggles(painter);
-      break;
-    case Eyewear::kEyeBlack:
-      PaintEyeBlack(painter);
-      break;
-  }
+  const bool is_round = eyewear == Eyewear::kRoundGlasses;
+  if (is_round || eyewear == Eyewear::kSquareGlasses) PaintGlasses(painter, is_round);
+  if (eyewear == Eyewear::kShades) PaintShades(painter);
+  if (eyewear == Eyewear::kGoggles) PaintGoggles(painter);
+  if (eyewear == Eyewear::kEyeBlack) PaintEyeBlack(painter);
 }
 
 }  // namespace morlek::art

@@ -9,43 +9,11 @@ namespace {
 
 constexpr std::array<QPointF, 2> kEyeCenters = {{{-1.5, 1}, {14, 1}}};
 
-/// One brow by the height of its three points, from the nose outwards, and its thickness.
-struct BrowShape {
-  qreal inner;
-  qreal middle;
-  qreal outer;
-  qreal thickness;
-};
-
-BrowShape BrowShapeOf(Brows brows) {
-  switch (brows) {
-    case Brows::kStern:
-      return {-3.2, -5.2, -7, 3.2};
-    case Brows::kRaised:
-      return {-5.4, -7.4, -4.8, 2.2};
-    case Brows::kBushy:
-      return {-5, -6.2, -4.4, 4.6};
-    case Brows::kFlat:
-      break;
-  }
-  return {-5, -5.6, -4.8, 2.6};
-}
+constexpr QColor kPlaster{0xff, 0xf1, 0xd6};
+constexpr std::array<QPointF, 8> kFreckles = {
+    {{-7, 8}, {-3.4, 10}, {-8, 12}, {0.4, 7.6}, {-4, 13.6}, {15, 8}, {18, 9.6}, {16, 11.6}}};
 
 }  // namespace
-
-JawLine JawLineOf(Jaw jaw) {
-  switch (jaw) {
-    case Jaw::kSquare:
-      return {{-16.5, 17.5}, {-5, 27}, {14, 27}, {21.5, 16.5}};
-    case Jaw::kRound:
-      return {{-18, 14}, {-5, 25}, {12, 25}, {23.5, 12}};
-    case Jaw::kLong:
-      return {{-14.5, 17}, {-3, 28.5}, {11.5, 28.5}, {18.8, 16}};
-    case Jaw::kOval:
-      break;
-  }
-  return {{-16, 15}, {-4, 25.8}, {12, 25.8}, {20.8, 14}};
-}
 
 void PaintEyes(QPainter& painter, Eyes eyes) {
   const qreal height = eyes == Eyes::kWide ? 5 : eyes == Eyes::kNarrow ? 1.9 : 3.7;
@@ -62,8 +30,7 @@ void PaintEyes(QPainter& painter, Eyes eyes) {
   }
 }
 
-void PaintBrows(QPainter& painter, Brows brows) {
-  const BrowShape shape = BrowShapeOf(brows);
+void PaintBrows(QPainter& painter, const BrowShape& shape) {
   const std::array<QPointF, 3> back = {
       {{3.2, shape.inner}, {-2, shape.middle}, {-6.6, shape.outer}}};
   const std::array<QPointF, 3> front = {
@@ -78,6 +45,38 @@ void PaintNose(QPainter& painter, const Tone& skin) {
   painter.fillPath(Ellipse({8.2, 8}, 4.2, 2.9), skin.shade);
   painter.fillPath(Ellipse({7.6, 7.2}, 3.4, 2.3), skin.light);
   PaintLine(painter, CurveThrough(std::span(kNose).last(4)), skin.shade.darker(165), 1.7);
+}
+
+void PaintMark(QPainter& painter, Mark mark, const Tone& skin) {
+  switch (mark) {
+    case Mark::kNone:
+      break;
+    case Mark::kFreckles:
+      for (const QPointF& spot : kFreckles) {
+        painter.fillPath(Ellipse(spot, 1.1, 1.1), skin.shade.darker(125));
+      }
+      break;
+    case Mark::kScar: {
+      const QColor color = skin.shade.darker(140);
+      PaintLine(painter, Segment({-9.5, 6}, {-3.5, 18}), color, 1.8);
+      for (const qreal y : {8.5, 12.0, 15.5}) {
+        const qreal x = -9.5 + (y - 6) / 2;
+        PaintLine(painter, Segment({x - 2.4, y + 1}, {x + 2.4, y - 1}), color, 1.4);
+      }
+      break;
+    }
+    case Mark::kPlaster: {
+      const QPainterPath strip = Capsule({{-9.5, 13.5}, 2.8}, {{-2.5, 8.5}, 2.8});
+      PaintLine(painter, strip, skin.shade.darker(150), 1.6);
+      painter.fillPath(strip, kPlaster);
+      painter.fillPath(Ellipse({-6, 11}, 1.8, 1.8), kRed);
+      break;
+    }
+    case Mark::kChew:
+      PaintSolid(painter, Ellipse({-10.5, 15.5}, 8.6, 7.4), skin, 3);
+      painter.fillPath(Ellipse({-6.5, 10.5}, 8.5, 6.4), skin.light);
+      break;
+  }
 }
 
 }  // namespace morlek::art

@@ -30,35 +30,26 @@ void PaintBubble(QPainter& painter) {
 }  // namespace
 
 void PaintMouth(QPainter& painter, Mouth mouth, const QColor& lips) {
-  QPainterPath line;
   switch (mouth) {
     case Mouth::kSmile:
-      line.moveTo(0, 15.5);
-      line.quadTo({8, 22.5}, {15.5, 15});
-      PaintLine(painter, line, lips, 2);
+      PaintLine(painter, Bow({0, 15.5}, {8, 22.5}, {15.5, 15}), lips, 2);
       break;
     case Mouth::kFirm:
-      line.moveTo(2, 17);
-      line.lineTo(13.5, 17);
-      PaintLine(painter, line, lips, 2);
+      PaintLine(painter, Segment({2, 17}, {13.5, 17}), lips, 2);
       break;
     case Mouth::kSmirk:
-      line.moveTo(2, 18.4);
-      line.quadTo({11, 19.4}, {15.5, 13.6});
-      PaintLine(painter, line, lips, 2.2);
+      PaintLine(painter, Bow({2, 18.4}, {11, 19.4}, {15.5, 13.6}), lips, 2.2);
       break;
     case Mouth::kFrown:
-      line.moveTo(1, 19.5);
-      line.quadTo({8, 13.5}, {14.5, 19});
-      PaintLine(painter, line, lips, 2.4);
+      PaintLine(painter, Bow({1, 19.5}, {8, 13.5}, {14.5, 19}), lips, 2.4);
       break;
-    case Mouth::kGrin:
-      line.moveTo(-1, 14.5);
-      line.quadTo({8, 16.5}, {16, 14});
-      line.quadTo({13.5, 22.5}, {7.5, 22.5});
-      line.quadTo({1, 22}, {-1, 14.5});
-      PaintOpenMouth(painter, line, 8);
+    case Mouth::kGrin: {
+      QPainterPath grin = Bow({-1, 14.5}, {8, 16.5}, {16, 14});
+      grin.quadTo({13.5, 22.5}, {7.5, 22.5});
+      grin.quadTo({1, 22}, {-1, 14.5});
+      PaintOpenMouth(painter, grin, 8);
       break;
+    }
     case Mouth::kShout:
       PaintOpenMouth(painter, Ellipse({8, 18.4}, 5.4, 5.2), 1.4);
       break;
@@ -66,9 +57,7 @@ void PaintMouth(QPainter& painter, Mouth mouth, const QColor& lips) {
       PaintBubble(painter);
       break;
     case Mouth::kStraw:
-      line.moveTo(1.5, 16);
-      line.quadTo({8, 19.5}, {14, 15.6});
-      PaintLine(painter, line, lips, 2);
+      PaintLine(painter, Bow({1.5, 16}, {8, 19.5}, {14, 15.6}), lips, 2);
       PaintLine(painter, Segment({11, 17}, {26.5, 13.5}), kInk, 3.6);
       PaintLine(painter, Segment({11, 17}, {26.5, 13.5}), kStraw, 1.8);
       break;

@@ -1,28 +1,17 @@
 #pragma once
 
 #include <QPainterPath>
-#include <QPointF>
 
 #include "art/face_look.h"
 #include "art/palette.h"
 
 class QPainter;
 
-/// What a head is put together from. All of it is in the units of the head frame.
+/// The parts of a head, in the units of the head frame.
 namespace morlek::art {
 
-/// The lower outline of a face, from the ear round the chin to the far cheek.
-struct JawLine {
-  QPointF back;
-  QPointF chin_back;
-  QPointF chin_front;
-  QPointF front;
-};
-
-[[nodiscard]] JawLine JawLineOf(Jaw jaw);
-
 void PaintEyes(QPainter& painter, Eyes eyes);
-void PaintBrows(QPainter& painter, Brows brows);
+void PaintBrows(QPainter& painter, const BrowShape& shape);
 void PaintNose(QPainter& painter, const Tone& skin);
 /// Paints a mouth, its lips in a colour that stands out from skin or whiskers.
 void PaintMouth(QPainter& painter, Mouth mouth, const QColor& lips);

@@ -22,14 +22,8 @@ constexpr QPointF kHipFromWaist{8, 9};
 
 /// The share of the way from knee to ankle that trousers cover.
 qreal TrouserShare(Hose hose) {
-  switch (hose) {
-    case Hose::kLongTrousers:
-      return 0.92;
-    case Hose::kAnkleSocks:
-      return 0.6;
-    default:
-      return 0.14;
-  }
+  if (hose == Hose::kLongTrousers) return 0.92;
+  return hose == Hose::kAnkleSocks ? 0.6 : 0.14;
 }
 
 /// The shin between two shares of the way from knee to ankle.
@@ -58,14 +52,8 @@ void PaintStirrup(QPainter& painter, const LegPose& leg, const Tone& tone) {
 }
 
 Tone SockToneOf(Hose hose, const Kit& kit) {
-  switch (hose) {
-    case Hose::kStirrups:
-      return kSock;
-    case Hose::kAnkleSocks:
-      return kit.dark;
-    default:
-      return kit.main;
-  }
+  if (hose == Hose::kStirrups) return kSock;
+  return hose == Hose::kAnkleSocks ? kit.dark : kit.main;
 }
 
 void PaintSock(QPainter& painter, const LegPose& leg, Hose hose, const Kit& kit) {

@@ -28,7 +28,7 @@ inline constexpr Tone kShoe{{0x2a, 0x33, 0x42}, {0x14, 0x1a, 0x24}};
 inline constexpr Tone kWood{{0xe0, 0xab, 0x66}, {0xb4, 0x79, 0x3c}};
 inline constexpr Tone kHair{{0x38, 0x27, 0x20}, {0x24, 0x18, 0x13}};
 
-/// The cloth that is of the club's colours.
+/// The clothes that have the club's colours.
 struct Kit {
   Tone main = kAccentCloth;
   /// The undershirts and ankle socks that are not of the main colour.

@@ -4,7 +4,7 @@
 
 namespace morlek {
 
-/// Pictures stand in four columns of twelve. The index of a picture is 12 * column + row.
+/// Pictures are arranged in four columns of twelve. The index of a picture is 12 * column + row.
 inline constexpr int kPictureColumns = 4;
 inline constexpr int kPictureRows = 12;
 

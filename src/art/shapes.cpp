@@ -53,6 +53,12 @@ QPainterPath Segment(QPointF from, QPointF to) {
   return path;
 }
 
+QPainterPath Bow(QPointF from, QPointF towards, QPointF to) {
+  QPainterPath path(from);
+  path.quadTo(towards, to);
+  return path;
+}
+
 QPainterPath Polygon(std::span<const QPointF> points) {
   QPainterPath path(points[0]);
   for (const QPointF& point : points.subspan(1)) path.lineTo(point);
@@ -101,7 +107,7 @@ QRectF FrameAround(std::span<const QRectF> parts, qreal smallest_size) {
     size = std::max(
         size, std::min(reach.x() / (kCorner.x() - kMargin), reach.y() / (kCorner.y() - kMargin)));
   }
-  // What room is left goes to both sides, as far as the corner stays free.
+  // The remaining room is divided between both sides, as far as the corner stays free.
   QPointF place(kMargin * size, kMargin * size);
   const auto least_slack = [&](auto along, auto across) {
     qreal slack = size;

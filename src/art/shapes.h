@@ -9,7 +9,7 @@
 
 class QPainter;
 
-/// Shapes and strokes that all pictures share: lengths are in the units of the picture.
+/// Shapes and strokes for all pictures. Lengths are in the units of the picture.
 namespace morlek::art {
 
 struct Disc {
@@ -25,6 +25,9 @@ struct Disc {
 
 [[nodiscard]] QPainterPath Segment(QPointF from, QPointF to);
 
+/// A curve between two points that is drawn towards a third.
+[[nodiscard]] QPainterPath Bow(QPointF from, QPointF towards, QPointF to);
+
 /// A closed shape of straight edges.
 [[nodiscard]] QPainterPath Polygon(std::span<const QPointF> points);
 
@@ -32,8 +35,8 @@ struct Disc {
 
 [[nodiscard]] QRectF SquareAround(const Disc& disc);
 
-/// Two discs and all that lies between. All capsules are wound the same way and fill by winding, so
-/// that adding one to another joins them into one shape.
+/// Two discs and everything between them. All capsules are wound the same way and fill by winding,
+/// so that adding one to another joins them into one shape.
 [[nodiscard]] QPainterPath Capsule(const Disc& from, const Disc& to);
 
 /// The point at a share, 0 to 1, of the way.

@@ -1,6 +1,7 @@
 #include "art/stance_figure.h"
 
 #include <QPainter>
+#include <QPen>
 #include <algorithm>
 
 #include "art/body_art.h"
@@ -8,7 +9,7 @@
 #include "art/legs_art.h"
 #include "art/legs_look.h"
 #include "art/palette.h"
-#include "art/unknown_art.h"
+#include "art/shapes.h"
 
 namespace morlek {
 namespace {
@@ -23,6 +24,31 @@ constexpr QRectF kFigureFrame{-84, -207, 164, 215};
 constexpr QRectF kUnknownLegs{-21, -86, 42, 86};
 constexpr QRectF kUnknownBody{-24, -47, 48, 40};
 constexpr QRectF kUnknownFace{-17, -104, 40, 40};
+
+/// Paints a dashed outline with a question mark: something is there that has no picture. Its grey
+/// stands out from light and dark backgrounds.
+void PaintUnknown(QPainter& painter, const QRectF& room) {
+  constexpr QColor kGrey{0x5f, 0x6b, 0x7d};
+  constexpr qreal kLineWidth = 2.4;
+  constexpr qreal kCornerShare = 0.42;
+  const qreal corner = std::min(room.width(), room.height()) * kCornerShare;
+  QPen pen(kGrey, kLineWidth, Qt::CustomDashLine, Qt::RoundCap);
+  pen.setDashPattern({2, 2.4});
+  QPainterPath outline;
+  outline.addRoundedRect(room, corner, corner);
+  painter.strokePath(outline, pen);
+
+  constexpr qreal kRadius = 7;
+  const QPointF middle = room.center();
+  const QRectF bow(middle + QPointF(-kRadius, -14), QSizeF(2 * kRadius, 2 * kRadius));
+  QPainterPath mark;
+  mark.arcMoveTo(bow, 170);
+  mark.arcTo(bow, 170, -220);
+  mark.quadTo(middle + QPointF(0, 1), middle + QPointF(0, 6));
+  art::PaintLine(painter, mark, kGrey, 4.4);
+  art::PaintLine(painter, art::Segment(middle + QPointF(0, 13), middle + QPointF(0, 13.1)), kGrey,
+                 5);
+}
 
 /// Maps a frame into the middle of a target, as large as its proportions allow.
 void FitFrame(QPainter& painter, const QRectF& frame, const QRectF& target) {
@@ -89,13 +115,13 @@ void PaintStance(QPainter& painter, const QRectF& target, const StanceCodes& cod
   if (has_legs) {
     art::PaintLegs(painter, *codes.legs, kit);
   } else if (codes.legs) {
-    art::PaintUnknown(painter, kUnknownLegs);
+    PaintUnknown(painter, kUnknownLegs);
   }
   painter.translate(has_legs ? art::LegsLookOf(*codes.legs).waist : art::kStandingWaist);
   if (has_body) {
     art::PaintTorso(painter, *codes.body, kit);
   } else if (codes.body) {
-    art::PaintUnknown(painter, kUnknownBody);
+    PaintUnknown(painter, kUnknownBody);
   }
   if (has_picture(StancePiece::kFace, codes.face)) {
     painter.save();
@@ -104,7 +130,7 @@ void PaintStance(QPainter& painter, const QRectF& target, const StanceCodes& cod
     art::PaintHead(painter, *codes.face, kit);
     painter.restore();
   } else if (codes.face) {
-    art::PaintUnknown(painter, kUnknownFace);
+    PaintUnknown(painter, kUnknownFace);
   }
   if (has_body) art::PaintArms(painter, *codes.body, kit);
   painter.restore();

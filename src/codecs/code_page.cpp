@@ -41,16 +41,10 @@ char UpperCase(char character) {
 
   if (code >= 'a' && code <= 'z') return capital(code - kCaseDistance);
   if (code >= 0xE0 && code <= 0xFE && code != kDivisionSign) return capital(code - kCaseDistance);
-  switch (code) {
-    case 0x9A:  // s with a caron, the ligature oe, z with a caron
-    case 0x9C:
-    case 0x9E:
-      return capital(code - 0x10);
-    case 0xFF:  // y with a diaeresis
-      return capital(0x9F);
-    default:
-      return character;
-  }
+  // s with a caron, the ligature oe, z with a caron
+  if (code == 0x9A || code == 0x9C || code == 0x9E) return capital(code - 0x10);
+  constexpr unsigned char kSmallYWithDiaeresis = 0xFF;
+  return code == kSmallYWithDiaeresis ? capital(0x9F) : character;
 }
 
 std::string UpperCase(std::string_view text) {

@@ -7,16 +7,17 @@
 
 namespace morlek {
 
-/// What a codec answers.
+/// The answer of a codec.
 struct CodecAnswer {
-  /// Refers to what the codec keeps: valid until its next call.
+  /// Refers to the state of the codec: valid until its next call.
   std::string_view text;
   /// Whether `text` belongs to this very input.
   bool is_known = false;
 };
 
-/// The last result of a codec, kept for the whole run. An input that the codec does not know gives
-/// it again, whichever slot, field or team it came from; it is empty before the first one.
+/// The last result of a codec, kept for the whole run. For an input that it does not know, the
+/// codec returns it again, whichever slot, field or team it came from. Empty before the first
+/// result.
 class LastResult {
  public:
   /// Answers with `result`, or with the last one when there is none.

@@ -87,7 +87,7 @@ CodecAnswer PitcherHandEncoder::EncodeHandAndFace(std::string_view text,
                                                   std::string_view face_code) {
   std::optional<std::string> code;
   const char letter = text.empty() ? '\0' : UpperCase(text.front());
-  if (IsHand(letter)) code = (letter == 'R' ? "0" : "1") + std::string(face_code.substr(0, 1));
+  if (IsHand(letter)) code = std::string(letter == 'R' ? "0" : "1").append(face_code.substr(0, 1));
   return hand_and_face_code_.Answer(code);
 }
 

@@ -28,10 +28,10 @@ class BattingSideCodec {
   std::array<LastResult, kSlotCount> encoded_sides_;
 };
 
-/// The marks that may stand behind a pitcher's throwing hand, in words: "S, S<, ... or >".
+/// The marks that may follow a pitcher's throwing hand, in words: "S, S<, ... or >".
 [[nodiscard]] std::string PitcherMarks();
 
-/// The marks behind a pitcher's throwing hand: "S", ">", "<", "S>", "S<" or none.
+/// The marks after a pitcher's throwing hand: "S", ">", "<", "S>", "S<" or none.
 class PitcherMarksCodec {
  public:
   /// The marks of a byte.
@@ -47,8 +47,8 @@ class PitcherMarksCodec {
 /// "01" when the second character of the shown text is an S of either case, else "00".
 [[nodiscard]] std::string EncodePitcherSFlag(std::string_view text);
 
-/// The writing side of pitchers' hands and marks; lives for one save, in which an unknown text
-/// gives the code of the previous pitcher.
+/// The writing side of pitchers' hands and marks; lives for one save, in which it answers an
+/// unknown text with the code of the previous pitcher.
 class PitcherHandEncoder {
  public:
   /// The hand digit of the shown text's first letter, then the first character of the face code.

@@ -1,6 +1,5 @@
 #include "codecs/number_text.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -22,43 +21,21 @@ std::string_view WithoutBlanksAround(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-/// Takes the digits in front off `text` and tells how many there were.
-std::size_t TakeDigits(std::string_view& text) {
-  const std::size_t count = std::min(text.find_first_not_of("0123456789"), text.size());
-  text.remove_prefix(count);
-  return count;
-}
-
-/// Takes one of `characters` off the front of `text`; false when none stands there.
-bool TakeOneOf(std::string_view& text, std::string_view characters) {
-  if (text.empty() || characters.find(text.front()) == std::string_view::npos) return false;
-  text.remove_prefix(1);
-  return true;
-}
-
-/// True for digits with at most one point and an exponent or none: the form without a sign.
-bool IsUnsignedDecimal(std::string_view text) {
-  std::size_t digits = TakeDigits(text);
-  if (TakeOneOf(text, ".")) digits += TakeDigits(text);
-  if (digits == 0) return false;
-  if (TakeOneOf(text, "eE")) {
-    TakeOneOf(text, "+-");
-    if (TakeDigits(text) == 0) return false;
-  }
-  return text.empty();
-}
-
-/// The value of text in that form; nothing when it is too large.
+/// The value of digits with at most one point and an exponent or none; nothing for any other text
+/// and for a value that is too large.
 std::optional<double> UnsignedDecimal(std::string_view text) {
+  // The conversion itself takes signs and words like "inf" as well.
+  if (text.find_first_of("0123456789.") != 0) return std::nullopt;
+  const char* const end = text.data() + text.size();
   // Nearly all are short and whole; every key has a whole team encoded.
   std::uint32_t whole = 0;
-  const auto parsed = std::from_chars(text.data(), text.data() + text.size(), whole);
-  if (parsed.ec == std::errc() && parsed.ptr == text.data() + text.size()) return whole;
+  const auto parsed = std::from_chars(text.data(), end, whole);
+  if (parsed.ec == std::errc() && parsed.ptr == end) return whole;
 
   double value = 0;
-  if (std::from_chars(text.data(), text.data() + text.size(), value).ec == std::errc()) {
-    return value;
-  }
+  const auto [parsed_end, error] = std::from_chars(text.data(), end, value);
+  if (parsed_end != end) return std::nullopt;
+  if (error == std::errc()) return value;
   // from_chars reports a value too near to zero like one too large; a stream reads it as zero.
   std::istringstream stream{std::string(text)};
   stream.imbue(std::locale::classic());
@@ -73,8 +50,7 @@ std::optional<double> TextToNumber(std::string_view text) {
   if (text.starts_with("&H") || text.starts_with("&h")) return SignedHexToNumber(text.substr(2));
 
   const bool negative = text.starts_with('-');
-  TakeOneOf(text, "+-");
-  if (!IsUnsignedDecimal(text)) return std::nullopt;
+  if (negative || text.starts_with('+')) text.remove_prefix(1);
   const std::optional<double> value = UnsignedDecimal(text);
   if (value && negative) return -*value;
   return value;

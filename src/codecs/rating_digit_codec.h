@@ -19,7 +19,7 @@ struct RatingTexts {
   std::string second;
 };
 
-/// The largest shown ratings that come back from a save: of a pair, and of one alone.
+/// The largest shown ratings that a save keeps: the first and second of a pair, and a single one.
 inline constexpr int kLargestFirstRating = 10;
 inline constexpr int kLargestSecondRating = 9;
 inline constexpr int kLargestSingleRating = 100;
@@ -33,7 +33,7 @@ inline constexpr int kLargestSingleRating = 100;
 
 /// The byte value of two shown ratings, formed by joining their texts: exact while the second is 1
 /// to 9. A value above 255 is a result that no byte can hold; nothing when the texts are no number
-/// or give no digits.
+/// or the result has other characters than digits.
 [[nodiscard]] std::optional<std::int32_t> PackRatings(std::string_view first,
                                                       std::string_view second);
 

@@ -20,8 +20,8 @@ class SmallNumberCodec {
   /// Loader and saver share it, so a statistic that is no byte is saved as what it last held.
   std::array<std::uint8_t, kSlotCount> number_bytes{};
 
-  /// The number in the buffer at `slot` (0 to 24) in decimal. Its last result is that of
-  /// EncodeSmallNumber, too.
+  /// The number in the buffer at `slot` (0 to 24) in decimal. It shares its last result with
+  /// EncodeSmallNumber.
   CodecAnswer DecodeSmallNumber(int slot);
 
   /// The number in the buffer at `slot` as a byte text of two digits; shares its last result.

@@ -2,29 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string_view>
 #include <vector>
 
-#include "codecs/code_page.h"
+#include "team/same_text.h"
 
 namespace morlek {
-namespace {
-
-/// The text without what makes no difference to the image.
-std::string Canonical(Cell cell, std::string_view text) {
-  if (IsFeature(cell.column)) {
-    const std::size_t zeros = std::min(text.find_first_not_of('0'), text.size());
-    // A zero alone stays.
-    text.remove_prefix(zeros == text.size() && zeros > 0 ? zeros - 1 : zeros);
-  }
-  return UpperCase(text);
-}
-
-bool IsSame(Cell cell, const std::string& one, const std::string& other) {
-  return one == other || Canonical(cell, one) == Canonical(cell, other);
-}
-
-}  // namespace
 
 GridMarks::GridMarks(const RosterGrid& grid, const SavePreview& preview, const Baseline& baseline)
     : end_row_(preview.end_row()) {
@@ -32,8 +14,8 @@ GridMarks::GridMarks(const RosterGrid& grid, const SavePreview& preview, const B
     const std::string& text = grid.Text(cell);
     const std::string& known = baseline.texts().Text(cell);
     const std::string& after = preview.TextAfter(cell);
-    const bool is_modified = !IsSame(cell, text, known);
-    const bool is_lossy = text == known ? text != after : !IsSame(cell, text, after);
+    const bool is_modified = !IsSameText(cell.column, text, known);
+    const bool is_lossy = text == known ? text != after : !IsSameText(cell.column, text, after);
     if (!is_modified && !is_lossy) continue;
     marks_.at(IndexOf(cell)) = {is_modified, is_lossy, preview.FateOf(cell), after, known};
     modified_count_ += is_modified ? 1 : 0;

@@ -4,18 +4,15 @@
 #include "image/record_layout.h"
 
 namespace morlek {
-namespace {
 
 std::int64_t FieldPosition(std::int64_t base, int slot, int offset) {
   return base + std::int64_t{kSlotBytes} * slot + offset;
 }
 
-}  // namespace
-
 std::optional<std::uint8_t> CartridgeImage::ReadIdentityByte(const std::filesystem::path& path) {
   if (!channel_.OpenBinary(path)) return std::nullopt;
   try {
-    const std::uint8_t byte = channel_.ReadByte(kIdentityPosition);
+    const std::uint8_t byte = ReadIdentityByte();
     channel_.Close();
     return byte;
   } catch (const OperationFailed&) {
@@ -27,6 +24,13 @@ bool CartridgeImage::Open(const std::filesystem::path& path) {
   opened_ = channel_.OpenBinary(path);
   return opened_;
 }
+
+bool CartridgeImage::OpenForReading(const std::filesystem::path& path) {
+  opened_ = false;
+  return channel_.OpenBinaryForReading(path);
+}
+
+std::uint8_t CartridgeImage::ReadIdentityByte() { return channel_.ReadByte(kIdentityPosition); }
 
 bool CartridgeImage::Close() {
   opened_ = false;

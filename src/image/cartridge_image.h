@@ -8,9 +8,13 @@
 
 namespace morlek {
 
-/// The byte that tells the game's image from other files, and its 1-based position.
+/// The byte that distinguishes the game's image from other files, and its 1-based position.
 inline constexpr std::int64_t kIdentityPosition = 988297;
 inline constexpr std::uint8_t kIdentityByte = 0x3C;
+
+/// The 1-based position of a byte of the record that begins at `base`: slot 0 to 24, offset 0
+/// to 31.
+[[nodiscard]] std::int64_t FieldPosition(std::int64_t base, int slot, int offset);
 
 /// A team's record in an image: the image's path and the 1-based position of the record's first
 /// byte, which is nothing before a team has been picked.
@@ -20,7 +24,7 @@ struct RecordLocation {
 };
 
 /// Cartridge images behind file channel 1. Between operations no file is open and nothing is
-/// cached, so what is on the disk is the truth.
+/// cached, so every read shows what is on the disk.
 class CartridgeImage {
  public:
   /// The channel outlives the object.
@@ -33,6 +37,13 @@ class CartridgeImage {
   /// Opens the image at `path` for one operation; false when that fails.
   [[nodiscard]] bool Open(const std::filesystem::path& path);
 
+  /// Opens it for an operation that only reads; so it may be one that may not be written.
+  [[nodiscard]] bool OpenForReading(const std::filesystem::path& path);
+
+  /// The identity byte of the open image; 0 when it ends before it. Throws OperationFailed when the
+  /// read fails.
+  [[nodiscard]] std::uint8_t ReadIdentityByte();
+
   /// Closes channel 1, whatever is open on it. False when something written may be lost.
   bool Close();
 
@@ -41,8 +52,8 @@ class CartridgeImage {
   /// base or the read fails.
   [[nodiscard]] std::uint8_t ReadField(std::optional<std::int64_t> base, int slot, int offset);
 
-  /// Writes such a byte. False when there is no base, when the last Open failed (a file that
-  /// something else left open is never touched), or when the write fails.
+  /// Writes a byte of a team record. False when there is no base, when the last Open failed (a file
+  /// that something else left open is never touched), or when the write fails.
   [[nodiscard]] bool WriteField(std::optional<std::int64_t> base, int slot, int offset,
                                 std::uint8_t value);
 

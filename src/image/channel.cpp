@@ -12,8 +12,8 @@ namespace {
 
 using Traits = std::streambuf::traits_type;
 
-/// Runs one read and gives its result. A device reports a failed read by an exception of the
-/// library's own, and the end of the file by its end value.
+/// Runs one read and returns its result. A device reports a failed read by an exception of the
+/// standard library, and the end of the file by its end value.
 template <typename Read>
 std::optional<char> ReadOrEnd(Read read) {
   try {
@@ -45,7 +45,8 @@ std::unique_ptr<File> OpenFile(const std::filesystem::path& path, std::ios_base:
   }
 
   auto file = std::make_unique<DiskFile>();
-  if ((mode & std::ios_base::out) != 0) file->buffer.pubsetbuf(nullptr, 0);
+  const bool is_text_input = (mode & (std::ios_base::out | std::ios_base::binary)) == 0;
+  if (!is_text_input) file->buffer.pubsetbuf(nullptr, 0);
   if (file->buffer.open(path, mode | std::ios_base::binary) == nullptr) return nullptr;
   return file;
 }
@@ -54,6 +55,10 @@ Channel::Channel(FileOpener opener) : opener_(std::move(opener)) {}
 
 bool Channel::OpenBinary(const std::filesystem::path& path) {
   return Open(path, Mode::kBinary, std::ios_base::in | std::ios_base::out);
+}
+
+bool Channel::OpenBinaryForReading(const std::filesystem::path& path) {
+  return Open(path, Mode::kBinary, std::ios_base::in | std::ios_base::binary);
 }
 
 bool Channel::OpenTextInput(const std::filesystem::path& path) {

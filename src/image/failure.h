@@ -5,8 +5,8 @@
 namespace morlek {
 
 /// A failure that ends a whole operation: a load, an import, an export, a later opening.
-/// Its text says in plain words what could not be done. Failures after which an operation goes on
-/// are values (`bool`, `std::optional`) instead.
+/// Its text describes in plain words what could not be done. Failures after which an operation goes
+/// on are values (`bool`, `std::optional`) instead.
 class OperationFailed : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

@@ -10,8 +10,8 @@ inline constexpr int kSlotBytes = 32;
 /// The name field: an initial and up to 8 letters of the surname, one letter code a byte.
 inline constexpr int kNameBytes = 9;
 
-/// Where each field lies in a slot, counted from the slot's first byte. Two-byte fields have their
-/// low byte first. Bytes that stand nowhere here belong to the game alone.
+/// The offset of each field in a slot, counted from the slot's first byte. Two-byte fields have
+/// their low byte first. Bytes that are not listed are used by the game alone.
 namespace offset {
 
 inline constexpr int kName = 0;

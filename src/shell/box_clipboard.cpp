@@ -11,7 +11,7 @@
 namespace morlek {
 namespace {
 
-/// What has been selected last, where the desktop has a clipboard for that.
+/// The clipboard of the last selection, on desktops that have one.
 std::optional<QClipboard::Mode> SelectionClipboard() {
   if (!QGuiApplication::clipboard()->supportsSelection()) return std::nullopt;
   return QClipboard::Selection;

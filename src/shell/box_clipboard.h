@@ -12,7 +12,7 @@ namespace morlek {
 /// What a clipboard holds for a text box.
 struct ClipboardText {
   std::string text;       // in the code page
-  bool is_block = false;  // of cells, as it came; else one value, without the line break at its end
+  bool is_block = false;  // of cells, unchanged; else one value, without the line break at its end
 };
 
 /// What a paste from a clipboard brings; an empty text when there is none.

@@ -7,9 +7,8 @@ class QLineEdit;
 
 namespace morlek {
 
-/// The context menu of a text box as it is now. Above what is done with its own text stand the
-/// actions of the widget that holds the box, like undo, up to their first separator; the others
-/// stand below.
+/// The context menu of a text box in its current state. The actions of the widget that holds the
+/// box, like undo, come first, up to their first separator. Then come the box's own, then the rest.
 class BoxMenu : public QMenu {
  public:
   /// `paste` pastes from the clipboard into the box. The box outlives the menu.

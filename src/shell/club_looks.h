@@ -9,8 +9,8 @@
 
 namespace morlek {
 
-/// How a club is seen: the letters on its badge, and the colours of its badge and its players.
-/// White letters can be read on the main colour.
+/// The look of a club: the letters on its badge, and the colours of its badge and its players.
+/// White letters are legible on the main colour.
 struct ClubLook {
   std::string_view key;
   const char* letters;
@@ -51,7 +51,7 @@ inline constexpr std::array<ClubLook, kTeamDirectory.size()> kClubLooks = {{
 static_assert(std::ranges::equal(kClubLooks, kTeamDirectory, {}, &ClubLook::key, &Team::key),
               "one look a team, in the directory's order");
 
-/// How a club of the directory is seen.
+/// The look of a club of the directory.
 [[nodiscard]] constexpr const ClubLook& LookOf(const Team& team) {
   return kClubLooks.at(PlaceOf(team));
 }

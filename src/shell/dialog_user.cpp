@@ -1,6 +1,5 @@
 #include "shell/dialog_user.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHeaderView>
@@ -15,8 +14,8 @@ DialogUser::DialogUser() { KeepNoSettings(); }
 
 namespace {
 
-/// A box without an icon keeps more room left of its text than right of it, and is as wide as its
-/// text, so that a short one truncates its title.
+/// A box without an icon has more room to the left of its text than to the right, and is as wide as
+/// its text, so that a short text truncates the title.
 void EvenOut(QMessageBox& box) {
   constexpr int kWidth = 260;
   constexpr int kMargin = 18;
@@ -48,24 +47,15 @@ void FitColumns(const QFileDialog& dialog) {
 
 }  // namespace
 
-std::optional<QString> DialogUser::AskOpenPath(const FileQuestion& question) {
+std::optional<QString> DialogUser::Ask(QFileDialog::AcceptMode mode, const FileQuestion& question) {
   QFileDialog dialog(window_);
-  dialog.setAcceptMode(QFileDialog::AcceptOpen);
-  // Whether the file can be opened is found out by opening it.
+  dialog.setAcceptMode(mode);
+  // Whether a file can be opened is found out by opening it.
   dialog.setFileMode(QFileDialog::AnyFile);
-  return Ask(dialog, question);
-}
-
-std::optional<QString> DialogUser::AskSavePath(const FileQuestion& question) {
-  QFileDialog dialog(window_);
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setFileMode(QFileDialog::AnyFile);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  dialog.setLabelText(QFileDialog::LookIn, "Save in:");
-  return Ask(dialog, question);
-}
-
-std::optional<QString> DialogUser::Ask(QFileDialog& dialog, const FileQuestion& question) {
+  if (mode == QFileDialog::AcceptSave) {
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setLabelText(QFileDialog::LookIn, "Save in:");
+  }
   dialog.setObjectName("CommonDialog1");
   dialog.setWindowTitle(question.title);
   dialog.setNameFilter(question.filter.section('|', 0, 0));

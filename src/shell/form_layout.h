@@ -8,9 +8,9 @@
 
 namespace morlek {
 
-/// Where a block of the grid stands, in twips within the frame of the roster, the index of the
-/// label over its first column, and from left to right the columns' left edges, their widths, and
-/// the numbers of the text box arrays that show them.
+/// The position of a block of the grid, in twips within the roster frame, the index of the label
+/// over its first column, and from left to right the columns' left edges, their widths, and the
+/// numbers of the text box arrays that show them.
 struct BlockLayout {
   const Block& block;
   int header_top;
@@ -33,14 +33,14 @@ inline constexpr std::array<BlockLayout, 2> kBlockLayouts = {{
      {1, 2, 3, 4, 9, 5, 6, 7, 8, 10, 11, 12, 13, 14}}}};
 // clang-format on
 
-/// How high a block's row of headers is, in twips.
+/// The height of a block's row of headers, in twips.
 inline constexpr int kHeaderHeight = 360;
 
 /// The form name of a cell's box: "Text3(0)".
 [[nodiscard]] QString BoxNameOf(Cell cell);
 
-/// Where the box of a cell stands, and the header over the column at a place (0 to 13) of a block,
-/// in logical pixels within the frame of the roster.
+/// The rectangle of a cell's box, and of the header over the column at a place (0 to 13) of a
+/// block, in logical pixels within the roster frame.
 [[nodiscard]] QRect BoxRectOf(Cell cell);
 [[nodiscard]] QRect HeaderRectOf(const BlockLayout& layout, std::size_t place);
 

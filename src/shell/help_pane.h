@@ -16,15 +16,17 @@ class HelpPane : public QFrame {
   /// The pane covers the grid area of its parent.
   explicit HelpPane(QWidget* parent);
 
-  /// Shows the pane and gives it the keyboard, so that it can be scrolled; shown already, it stays.
-  /// When it is closed, the focus goes back where it was, if that is still in sight.
+  /// Shows the pane and gives it the keyboard, so that it can be scrolled; does nothing if it is
+  /// shown already. When it is closed, the focus goes back to where it was, if that is still
+  /// visible.
   void Open();
 
  signals:
-  /// The pane now covers the grid and the toolbar, or does so no more.
+  /// The pane now covers the grid and the toolbar, or no longer does.
   void Covered(bool covered);
 
-  /// A key moved the cursor to a line with its middle at this height of the pane.
+  /// A key moved the cursor to a line whose middle is at this height of the pane, in logical
+  /// pixels.
   void LineReached(int middle);
 
  private:

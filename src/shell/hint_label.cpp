@@ -56,7 +56,7 @@ void HintLabel::paintEvent(QPaintEvent* /*event*/) {
   if (devicePixelRatioF() > 1) {
     PaintAppIcon(painter, icon);
   } else {
-    // Painted already, and the start need not wait for it a second time.
+    // Painted already, so the start does not wait for it a second time.
     painter.drawPixmap(icon.topLeft(), QApplication::windowIcon().pixmap(kIconSide, kIconSide));
   }
   QFont words = font();

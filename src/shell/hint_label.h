@@ -11,11 +11,11 @@ class HintLabel : public QLabel {
   Q_OBJECT
 
  public:
-  /// Stands in the middle of an area of its parent.
+  /// Centers itself in an area of its parent, in logical pixels.
   HintLabel(const QRect& area, QWidget* parent);
 
-  /// Says how to open an image, or, once there is one, how to pick a team; clicking the words does
-  /// nothing then. Gone while a team is shown.
+  /// Shows how to open an image or, once there is one, how to pick a team; a click does nothing
+  /// then. Hidden while a team is shown.
   void Show(const EditorState& state);
 
  signals:

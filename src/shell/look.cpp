@@ -10,7 +10,7 @@
 namespace morlek {
 namespace {
 
-/// Painted once for all windows, in the sizes that task bars and window lists show.
+/// Painted once for all windows, in the sizes that task bars and window lists use.
 QIcon AppIcon() {
   const QIcon painted = MakePaintedIcon(PaintAppIcon);
   QIcon icon;

@@ -2,7 +2,7 @@
 
 namespace morlek {
 
-/// Gives the application its style, colours and font. Call once, when there is an application and
+/// Gives the application its style, colours and font. Call once, after creating the application and
 /// before the first window.
 void ApplyLook();
 

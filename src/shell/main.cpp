@@ -5,7 +5,6 @@
 #include "shell/main_window.h"
 #include "shell/splash_window.h"
 #include "ui/toolkit_workarounds.h"
-#include "ui/window_place.h"
 
 int main(int argument_count, char** arguments) {
   const std::jthread fonts = morlek::ReadSystemFonts();

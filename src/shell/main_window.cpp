@@ -1,20 +1,20 @@
 #include "shell/main_window.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
 #include <algorithm>
 
+#include "shell/code_page_text.h"
 #include "shell/content_area.h"
 #include "shell/help_pane.h"
 #include "shell/hint_label.h"
-#include "shell/identity_label.h"
-#include "shell/menu_bar.h"
-#include "shell/questions.h"
 #include "shell/roster_frame.h"
 #include "shell/stance_panel.h"
 #include "shell/status_line.h"
@@ -23,6 +23,7 @@
 #include "ui/dropped_file.h"
 #include "ui/toolkit_workarounds.h"
 #include "ui/twips.h"
+#include "version.h"
 
 namespace morlek {
 namespace {
@@ -30,7 +31,21 @@ namespace {
 constexpr int kNarrowWidth = 6705;
 constexpr int kWideWidth = 9990;
 constexpr int kHintBottom = 560;  // above the middle, in logical pixels
-constexpr int kRowMargin = 24;    // what stays in view around a box, likewise
+constexpr int kRowMargin = 24;    // what stays in view around a box, in logical pixels
+
+constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
+
+/// The path of an image, or nothing when the dialog was cancelled.
+std::optional<QString> AskForImage(User& user) {
+  return user.AskOpenPath({"Open Dale Harrow Jr. Baseball Rom", "SNES File (*.smc)|*.smc"});
+}
+
+void ShowAbout(User& user) {
+  const QString text =
+      "MORLEK EDITOR for SNES Dale Harrow Baseball.\n"
+      "Version %1, free software under the MIT licence; uses Qt under the LGPL version 3.";
+  user.ShowMessage(text.arg(kVersion), kProgramTitle, Message::Icon::kNone);
+}
 
 std::filesystem::path ToPath(const QString& path) { return QFileInfo(path).filesystemFilePath(); }
 
@@ -47,13 +62,11 @@ MainWindow::MainWindow(Editor& editor, User& user)
   SetLayout(Layout::kNarrow);
 }
 
-MainWindow::~MainWindow() = default;
-
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Paint) {
     content_->removeEventFilter(this);
-    // Only now, and from the event loop: the window is to stand on the screen, and not just its
-    // frame, while the dialog is made that asks over it.
+    // Only now, and from the event loop: the whole window, and not just its frame, should be
+    // visible while the dialog that covers it is created.
     QTimer::singleShot(0, this, &MainWindow::OpenFirstImage);
   }
   return QMainWindow::eventFilter(watched, event);
@@ -65,7 +78,7 @@ void MainWindow::BuildContent() {
   content_ = area_->widget();
   content_->installEventFilter(this);
 
-  identity_ = new IdentityLabel(content_);
+  AddIdentity();
 
   hint_ = new HintLabel({0, 0, FromTwips(kNarrowWidth), kHintBottom}, content_);
   connect(hint_, &HintLabel::OpenRequested, this, [this] { Run(Command::kOpen); });
@@ -84,6 +97,16 @@ void MainWindow::BuildContent() {
   identity_->raise();
 }
 
+void MainWindow::AddIdentity() {
+  identity_ = new QLabel(content_);
+  identity_->setObjectName("Label3");
+  identity_->setAccessibleName("identity byte");
+  identity_->setToolTip("identity byte of the last file opened");
+  identity_->setGeometry(FromTwips(6060), 635, FromTwips(555), 16);
+  identity_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  identity_->setForegroundRole(QPalette::PlaceholderText);
+}
+
 void MainWindow::AddRoster() {
   roster_ = new RosterFrame(editor_, content_);
   roster_->stackUnder(identity_);
@@ -93,7 +116,7 @@ void MainWindow::AddRoster() {
     if (editor_.state().scene.is_grid_shown && IsListening()) editor_.Save();
   });
   connect(roster_, &RosterFrame::CellVisited, this, [this](Cell cell) {
-    // On a screen with less room than the window needs.
+    // On a screen that is too low for the window.
     area_->ensureWidgetVisible(QApplication::focusWidget(), 0, kRowMargin);
     editor_.Visit(cell);
   });
@@ -110,7 +133,8 @@ void MainWindow::AddRoster() {
 }
 
 void MainWindow::Show(const EditorState& state, const StateChange& change) {
-  identity_->ShowByte(state.identity);
+  identity_->setText(FromCodePage(state.identity));
+  identity_->setAccessibleDescription(identity_->text());
   toolbar_->Show(state);
   hint_->Show(state);
   if (change.layout_set) SetLayout(state.layout);
@@ -133,7 +157,7 @@ void MainWindow::FitToScreen() {
   const int room = screen()->availableGeometry().height() - borders - menu_height;
   setFixedSize(area_->FitInto(room) + QSize(0, menu_height));
   if (!isVisible()) return;
-  // What the window has grown by is not to stand beyond the desktop.
+  // The part by which the window has grown must not be beyond the desktop.
   const QRect desktop = screen()->availableVirtualGeometry();
   const int beyond = frameGeometry().right() - desktop.right();
   if (beyond > 0) move(std::max(x() - beyond, desktop.left()), y());
@@ -150,10 +174,13 @@ void MainWindow::Run(Command command) {
       OpenAnotherImage();
       break;
     case Command::kQuit:
-      if (AskToQuit(user_)) close();
+      if (user_.AskYesNo("Are you sure you want to quit MORLEK EDITOR?\n\nIf not then click NO.",
+                         kProgramTitle)) {
+        close();
+      }
       break;
     case Command::kAbout:
-      TellAboutProgram(user_);
+      ShowAbout(user_);
       break;
     case Command::kImport:
       ImportTeam();
@@ -177,7 +204,7 @@ void MainWindow::Run(Command command) {
 }
 
 void MainWindow::OpenFirstImage() {
-  // Only now is it known how much the system's borders take.
+  // The size of the system's borders is known only now.
   FitToScreen();
   const QString path = AskForImage(user_).value_or(QString());
   AddRoster();
@@ -193,7 +220,8 @@ void MainWindow::OpenAnotherImage() {
 }
 
 void MainWindow::ImportTeam() {
-  if (const auto path = AskForTeamToImport(user_)) {
+  if (const auto path =
+          user_.AskOpenPath({"Open Dale Harrow Jr. Baseball Team Data", kTeamDataFilter})) {
     editor_.ImportTeam(ToPath(*path));
   } else {
     editor_.CancelDialog();
@@ -201,19 +229,21 @@ void MainWindow::ImportTeam() {
 }
 
 void MainWindow::ExportTeam() {
-  if (const auto path = AskWhereToExport(user_)) {
-    if (editor_.ExportTeam(ToPath(*path)) == ExportResult::kWritten) TellOfExport(user_, *path);
+  if (const auto path =
+          user_.AskSavePath({"Save Dale Harrow Jr. Baseball Team Data", kTeamDataFilter})) {
+    if (editor_.ExportTeam(ToPath(*path)) != ExportResult::kWritten) return;
+    user_.ShowMessage("Your team data has been saved to " + QDir::toNativeSeparators(*path),
+                      kProgramTitle, Message::Icon::kNone);
   } else {
     editor_.CancelDialog();
   }
 }
 
 void MainWindow::SetAlwaysOnTop(bool on_top) {
-  if (!on_top_) on_top_ = std::make_unique<clsOnTop>();
   if (on_top) {
-    on_top_->MakeTopmost(*windowHandle());
+    clsOnTop::MakeTopmost(*windowHandle());
   } else {
-    on_top_->MakeNotTopmost(*windowHandle());
+    clsOnTop::MakeNotTopmost(*windowHandle());
   }
   menus_->OfferOnTop(!on_top);
 }
@@ -221,7 +251,7 @@ void MainWindow::SetAlwaysOnTop(bool on_top) {
 void MainWindow::OpenHelp() {
   if (help_ == nullptr) {
     help_ = new HelpPane(content_);
-    // What the pane covers is not reached by keys either.
+    // Keys must not reach what the pane covers.
     connect(help_, &HelpPane::Covered, toolbar_, &QWidget::setDisabled);
     connect(help_, &HelpPane::Covered, roster_, &QWidget::setDisabled);
     connect(help_, &HelpPane::LineReached, this,
@@ -244,7 +274,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   if (!path) return;
   event->setDropAction(Qt::CopyAction);
   event->accept();
-  // From the event loop: whoever drops is not to wait for an answer to a message.
+  // From the event loop, so that the other program does not wait until a message is answered.
   QTimer::singleShot(0, this, [this, path] { editor_.TakeFile(ToPath(*path)); });
 }
 

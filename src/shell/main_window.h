@@ -1,26 +1,24 @@
 #pragma once
 
 #include <QMainWindow>
-#include <memory>
 
 #include "editor/editor.h"
-#include "shell/menu_table.h"
+#include "shell/menu_bar.h"
 #include "shell/user.h"
+
+class QLabel;
 
 namespace morlek {
 
 class ContentArea;
 class HelpPane;
 class HintLabel;
-class IdentityLabel;
-class MenuBar;
 class RosterFrame;
 class StancePanel;
 class StatusLine;
 class TeamToolbar;
-class clsOnTop;
 
-/// The main window: it turns what the person does into the editor's steps, and hands the editor's
+/// The main window: it turns what the person does into steps of the editor, and passes the editor's
 /// state on to its parts.
 class MainWindow : public QMainWindow {
   Q_OBJECT
@@ -30,7 +28,6 @@ class MainWindow : public QMainWindow {
 
   /// `user` answers every dialog. Editor and user outlive the window.
   MainWindow(Editor& editor, User& user);
-  ~MainWindow() override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -39,15 +36,16 @@ class MainWindow : public QMainWindow {
 
  private:
   void BuildContent();
+  void AddIdentity();
 
-  /// Adds the grid and the choosers. Their 500 controls take as long as the rest of the window,
-  /// which need not wait for them.
+  /// Adds the grid and the choosers. Creating their 500 controls takes as long as the rest of the
+  /// window, which is shown before.
   void AddRoster();
 
-  /// Shows how things stand now.
+  /// Shows the current state.
   void Show(const EditorState& state, const StateChange& change);
 
-  /// Gives the content the width of a layout; what stands further right is out of view.
+  /// Gives the content the width of a layout; whatever is further right is out of view.
   void SetLayout(Layout layout);
 
   /// Gives the window the size of its content, or as much of it as the screen has room for.
@@ -61,8 +59,8 @@ class MainWindow : public QMainWindow {
   void SetAlwaysOnTop(bool on_top);
   void OpenHelp();
 
-  /// Whether the window does what it is told: once its first question was answered, and never while
-  /// a dialog stands over it.
+  /// Whether the window takes commands: once its first question has been answered, and never while
+  /// a dialog is open.
   [[nodiscard]] bool IsListening() const;
 
   Editor& editor_;
@@ -72,16 +70,15 @@ class MainWindow : public QMainWindow {
   ContentArea* area_ = nullptr;
   QWidget* content_ = nullptr;
   TeamToolbar* toolbar_ = nullptr;
-  // There from the answer to the first question on, which is asked over the painted window.
+  // Created once the first question has been answered, which is asked over the painted window.
   RosterFrame* roster_ = nullptr;
   StancePanel* stances_ = nullptr;
-  IdentityLabel* identity_ = nullptr;
+  QLabel* identity_ = nullptr;
   HintLabel* hint_ = nullptr;
   StatusLine* status_ = nullptr;
   Editor::Subscription subscription_;
-  // Made when they are first needed: the start does not wait for them.
+  // Created when it is first needed, so that the start does not wait for it.
   HelpPane* help_ = nullptr;
-  std::unique_ptr<clsOnTop> on_top_;
 };
 
 }  // namespace morlek

@@ -28,7 +28,7 @@ QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
     case SavePreview::Fate::kNotReached:
       break;
   }
-  // Initials are saved before all else, so a name may change even so.
+  // Initials are saved before everything else, so a name may still change.
   const bool is_name = cell.column == Column::kName;
   return QString("SAVE does not reach this, because the name of %1 is too long; the image %2 %3")
       .arg(FromCodePage(PlayerText(marks.end_row().value_or(cell.row))),
@@ -75,8 +75,8 @@ QString TipOf(const GridMarks& marks, Cell cell) {
   const CellMark& mark = marks.At(cell);
   QStringList lines;
   if (mark.is_lossy) lines << WhatSaveDoes(marks, cell, mark);
-  const bool is_told = mark.is_lossy && mark.after == mark.known;
-  if (mark.is_modified && !is_told) {
+  const bool is_explained = mark.is_lossy && mark.after == mark.known;
+  if (mark.is_modified && !is_explained) {
     lines << QString("Not saved yet; the image holds %1").arg(Quoted(mark.known));
   }
   return lines.join('\n');

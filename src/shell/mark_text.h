@@ -6,20 +6,20 @@
 
 namespace morlek {
 
-/// What the tip of a cell says of its marks; empty for a cell without any.
+/// The tip that explains the marks of a cell; empty for a cell without marks.
 [[nodiscard]] QString TipOf(const GridMarks& marks, Cell cell);
 
-/// How many changes are not saved and how many cells SAVE will not keep, in words; empty when all
-/// is well.
+/// How many changes are not saved and how many cells SAVE will not keep, in words; empty when both
+/// are zero.
 [[nodiscard]] QString SummaryOf(const GridMarks& marks);
 
-/// What a person should know of the last step, in words; empty when there is nothing to say.
+/// What a person should know of the last step, in words; empty when there is nothing to report.
 [[nodiscard]] QString NoteOf(const EditorState& state);
 
-/// More about that, a paragraph with a line break behind it; empty when there is no more to say.
+/// The details of that note, a paragraph with a line break at its end; empty when there are none.
 [[nodiscard]] QString DetailsOf(const EditorState& state);
 
-/// A text as a tool tip shows it to the letter: Qt would take some texts for marked-up ones.
+/// A text in the form in which a tool tip shows it literally: Qt would take some texts for markup.
 [[nodiscard]] QString PlainTip(const QString& text);
 
 }  // namespace morlek

@@ -3,11 +3,24 @@
 #include <QMenuBar>
 #include <map>
 
-#include "shell/menu_table.h"
+class QEvent;
 
 namespace morlek {
 
-/// The menus as they stand in the table.
+/// What a menu item does.
+enum class Command {
+  kOpen,
+  kQuit,
+  kImport,
+  kExport,
+  kMinimizeFeatures,
+  kAlwaysOnTop,
+  kNotOnTop,
+  kHelp,
+  kAbout,
+};
+
+/// The menus of the main window.
 class MenuBar : public QMenuBar {
   Q_OBJECT
 
@@ -24,5 +37,10 @@ class MenuBar : public QMenuBar {
  private:
   std::map<Command, QAction*> items_;
 };
+
+/// True when the event asks a text box whether it wants a menu item's shortcut key for itself. The
+/// event is then ignored, and the box has to return false for it. Otherwise line and text editors
+/// would take Ctrl+A and Ctrl+E.
+[[nodiscard]] bool LeaveToMenu(QEvent& event);
 
 }  // namespace morlek

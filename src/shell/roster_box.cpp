@@ -10,7 +10,7 @@
 #include "shell/code_page_text.h"
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"
-#include "shell/menu_table.h"
+#include "shell/menu_bar.h"
 #include "ui/dropped_file.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
@@ -34,8 +34,8 @@ RosterBox::RosterBox(Cell cell, const QValidator& validator, QWidget* parent)
   if (cell.column == Column::kName) {
     setTextMargins(2, 0, -2, 0);
   } else {
-    // Three digits then fit into the narrow columns; and the line editor keeps room for the caret
-    // on the right, which put them out of the middle.
+    // Three digits then fit into the narrow columns. The right margin makes up for the room that
+    // the line editor keeps for the caret, which would move them off center.
     setTextMargins(-2, 0, -4, 0);
     setAlignment(Qt::AlignCenter);
   }
@@ -65,15 +65,15 @@ void RosterBox::SetTint(Tint tint) {
   update();
 }
 
-void RosterBox::PaintPanel(QPainter& painter) const { PaintFrame(painter, Ground()); }
+void RosterBox::PaintPanel(QPainter& painter) const { PaintFrame(painter, Background()); }
 
-void RosterBox::PaintFrame(QPainter& painter, const QColor& ground) const {
-  FrameSnapped(painter, rect(), 1, theme::ShadesOf(palette()).line, ground);
+void RosterBox::PaintFrame(QPainter& painter, const QColor& background) const {
+  FrameSnapped(painter, rect(), 1, theme::ShadesOf(palette()).line, background);
 }
 
-QColor RosterBox::Ground() const {
+QColor RosterBox::Background() const {
   const theme::Shades& shades = theme::ShadesOf(palette());
-  // The line editor's own ground of a selection is as high as the font, and so not in the middle.
+  // The line editor's own background of a selection is as high as the font, and so not centered.
   if (hasSelectedText() && selectionLength() == text().size()) return shades.fill;
   if (hasFocus()) return shades.base;
   if (tint_ == Tint::kStanceRow) return shades.stance_row;
@@ -84,12 +84,12 @@ QColor RosterBox::Ground() const {
 
 void RosterBox::paintEvent(QPaintEvent* event) {
   ValueEdit::paintEvent(event);
-  // The margins let a text that is too long get over the lines.
+  // The margins let a text that is too long run over the lines.
   if (fontMetrics().horizontalAdvance(text()) > width() - 2) {
     QPainter painter(this);
     PaintFrame(painter, Qt::transparent);
   }
-  // The ring of the focus, which stands above the box, paints the mark above itself.
+  // The focus ring covers the box and paints the mark itself.
   if (hasFocus() || !mark_.is_lossy) return;
   QPainter painter(this);
   PaintMark(painter);
@@ -97,7 +97,7 @@ void RosterBox::paintEvent(QPaintEvent* event) {
 
 void RosterBox::PaintMark(QPainter& painter) const {
   if (!mark_.is_lossy) return;
-  // Over text and selection alike, with an edge that parts it from both.
+  // Above text and selection, with an edge that sets it off from both.
   constexpr qreal kSize = 7;
   const theme::Shades& shades = theme::ShadesOf(palette());
   const QPointF corner(width() - 1, 1);
@@ -105,7 +105,7 @@ void RosterBox::PaintMark(QPainter& painter) const {
   const QPointF below = corner + QPointF(0, kSize);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(shades.unkept_mark);
+  painter.setBrush(shades.lossy_mark);
   painter.drawPolygon(QPolygonF({left, corner, below}));
   painter.setPen(QPen(shades.base, 1));
   painter.drawLine(QLineF(left - QPointF(0.5, -0.5), below - QPointF(0.5, -0.5)));
@@ -125,12 +125,12 @@ bool RosterBox::event(QEvent* event) {
 
 void RosterBox::changeEvent(QEvent* event) {
   ValueEdit::changeEvent(event);
-  // The desktop went from light to dark, or back.
+  // The desktop has turned dark or light.
   if (event->type() == QEvent::PaletteChange && mark_.is_modified) ColorText();
 }
 
 void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
-  // A file is for the window, also where it comes with its path as a text.
+  // A file is for the window, even if its path comes along as a text.
   if (DroppedFile(*event->mimeData())) {
     event->ignore();
     return;

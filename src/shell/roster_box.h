@@ -4,8 +4,7 @@
 #include <string>
 
 #include "editor/grid_marks.h"
-#include "ui/line_break_filter.h"
-#include "ui/own_panel.h"
+#include "ui/style.h"
 #include "ui/value_edit.h"
 
 namespace morlek {
@@ -15,8 +14,8 @@ class RosterBox : public ValueEdit, public OwnPanel {
   Q_OBJECT
 
  public:
-  /// The empty box of a cell, in its place within the frame of the roster. `validator` corrects
-  /// every text and may serve other boxes too; the box takes any text once it is gone.
+  /// An empty box at the position of its cell in the roster frame. `validator` corrects every text
+  /// and may serve other boxes too; without it, once it is destroyed, the box takes any text.
   RosterBox(Cell cell, const QValidator& validator, QWidget* parent);
 
   [[nodiscard]] Cell cell() const { return cell_; }
@@ -24,15 +23,15 @@ class RosterBox : public ValueEdit, public OwnPanel {
   /// Shows the marks of the cell; `tip` says in words what they mean, and is empty without any.
   void ShowMark(const CellMark& mark, const QString& tip);
 
-  /// A tint of the row in which the box stands.
+  /// A tint of the row of the box.
   enum class Tint { kNone, kFocusRow, kStanceRow };
   void SetTint(Tint tint);
 
   /// Paints the box as a cell of the sheet: neighbours share their border lines.
   void PaintPanel(QPainter& painter) const override;
 
-  /// Paints the corner of a cell that SAVE will not keep, or nothing. To be painted above the ring
-  /// of the focus.
+  /// Paints the corner of a cell that SAVE will not keep; nothing for other cells. Belongs above
+  /// the focus ring.
   void PaintMark(QPainter& painter) const;
 
  signals:
@@ -54,10 +53,9 @@ class RosterBox : public ValueEdit, public OwnPanel {
  private:
   void PasteFrom(QClipboard::Mode clipboard);
   void ColorText();
-  [[nodiscard]] QColor Ground() const;
-  void PaintFrame(QPainter& painter, const QColor& ground) const;
+  [[nodiscard]] QColor Background() const;
+  void PaintFrame(QPainter& painter, const QColor& background) const;
 
-  LineBreakFilter line_breaks_{*this};  // one would break an exported line in two
   Cell cell_;
   CellMark mark_;
   Tint tint_ = Tint::kNone;

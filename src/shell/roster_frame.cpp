@@ -1,14 +1,15 @@
 #include "shell/roster_frame.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QFocusFrame>
 #include <QLabel>
 #include <QPainter>
+#include <QPointer>
 #include <QShortcut>
 #include <QToolTip>
 #include <utility>
 
-#include "shell/code_page_text.h"
-#include "shell/focus_ring.h"
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"
 #include "shell/roster_box.h"
@@ -21,8 +22,41 @@
 namespace morlek {
 namespace {
 
-/// Logical pixels above the band of a block's headers that stay free, so that the blocks are apart.
+/// The gap above the band of a block's headers, in logical pixels, which separates the blocks.
 constexpr int kHeaderGap = 4;
+
+/// A ring in the accent colour around the box of a grid that has the focus, above its neighbours;
+/// hidden when no box has it. A child of the widget that holds the boxes, made after them. Mouse,
+/// drops and assistive tools reach the box through it: the toolkit's own frame of the focus is no
+/// part of what those tools read.
+class FocusRing : public QFocusFrame {
+ public:
+  explicit FocusRing(QWidget* grid) : QFocusFrame(grid) {
+    setAccessibleName("ring of the focus");
+    hide();
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget* /*old*/, QWidget* focused) { Follow(focused); });
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    if (!box_) return;
+    QPainter painter(this);
+    FrameSnapped(painter, rect(), 2, theme::ShadesOf(palette()).accent);
+    box_->PaintMark(painter);
+  }
+
+ private:
+  void Follow(QWidget* focused) {
+    const auto* box = qobject_cast<RosterBox*>(focused);
+    const bool is_here = box != nullptr && box->parentWidget() == parentWidget();
+    box_ = is_here ? box : nullptr;
+    if (is_here) setGeometry(box->geometry());
+    setVisible(is_here);
+  }
+
+  QPointer<const RosterBox> box_;
+};
 
 }  // namespace
 
@@ -51,7 +85,7 @@ void RosterFrame::Show(const EditorState& state, const StateChange& change) {
 
 void RosterFrame::ShowVisible(bool shown) {
   if (!shown) {
-    // A hidden widget that kept the focus would go on taking keys.
+    // A hidden widget that kept the focus would still receive keys.
     QWidget* focused = window()->focusWidget();
     if (focused != nullptr && isAncestorOf(focused)) focused->clearFocus();
   }
@@ -65,7 +99,7 @@ void RosterFrame::ShowTexts(const StateChange& change) {
     if (box.text() != shown) box.ShowText(shown);
   }
   if (change.picked_into) BoxAt(*change.picked_into).SelectForTyping();
-  // Texts that did not change have no selection; typing is to replace them, as after a visit.
+  // A text that did not change has no selection yet; typing should replace it, as in a new visit.
   RosterBox* focused = change.loaded ? FocusedBox() : nullptr;
   if (focused != nullptr) focused->BeginVisit();
 }
@@ -73,7 +107,7 @@ void RosterFrame::ShowTexts(const StateChange& change) {
 void RosterFrame::ShowMarks(const EditorState& state) {
   const GridMarks& marks = state.marks;
   for (const Cell cell : kAllCells) {
-    // Most cells have no mark and had none; this comes with every key.
+    // Most cells have no mark and had none; this runs with every key.
     const bool is_marked = marks.At(cell).is_marked();
     if (!std::exchange(is_marked_.at(IndexOf(cell)), is_marked) && !is_marked) continue;
     BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
@@ -116,7 +150,8 @@ void RosterFrame::AddHeaders(const BlockLayout& layout) {
     auto* label = new QLabel(FromCodePage(column.caption), this);
     label->setObjectName(QString("Label4(%1)").arg(layout.first_header + static_cast<int>(place)));
     label->setAccessibleName(FromCodePage(column.meaning));
-    const std::string accepted = AcceptedTexts(column.column);
+    std::string accepted = AcceptedTexts(column.column);
+    if (IsFeature(column.column)) accepted += "; click a box to pick from pictures";
     label->setToolTip(FromCodePage(std::string(column.meaning) + ", " + accepted));
     label->setAccessibleDescription(FromCodePage(accepted));
     label->setGeometry(HeaderRectOf(layout, place));
@@ -214,7 +249,7 @@ void RosterFrame::GoToLossy(bool backwards) {
   const std::optional<Cell> cell = editor_.state().marks.NextLossy(from, backwards);
   GoTo(cell);
   if (!cell) return;
-  // Who comes by keys has no pointer to rest on the box.
+  // With the keyboard there is no pointer to rest on the box.
   RosterBox& box = BoxAt(*cell);
   QToolTip::showText(box.mapToGlobal(box.rect().bottomLeft()), box.toolTip(), &box);
 }
@@ -222,7 +257,7 @@ void RosterFrame::GoToLossy(bool backwards) {
 void RosterFrame::StepRow(Cell from, int rows) {
   const int row = from.row + rows;
   if (row < 0 || row >= kSlotCount) return;
-  // The column that stands in the same place, which from block to block may be another one.
+  // The column at the same place, which may be another one in the other block.
   const std::size_t place = BlockOf(from.row).PlaceOf(from.column).value();
   BoxAt({BlockOf(row).columns.at(place).column, row}).setFocus(Qt::OtherFocusReason);
 }

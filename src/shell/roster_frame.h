@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "editor/editor.h"
-#include "shell/code_page_validator.h"
+#include "shell/code_page_text.h"
 
 class QAction;
 class QLabel;
@@ -17,7 +17,7 @@ class RosterBox;
 struct BlockLayout;
 
 /// The frame with the roster grid, its headers, the team's name and the SAVE button. Its boxes show
-/// the cells of the editor's grid, and put what is typed back into it.
+/// the cells of the editor's grid and pass on what is typed.
 class RosterFrame : public QFrame {
   Q_OBJECT
 
@@ -25,7 +25,7 @@ class RosterFrame : public QFrame {
   /// Hidden until a team is shown. The editor outlives the frame.
   RosterFrame(Editor& editor, QWidget* parent);
 
-  /// Shows how things stand now.
+  /// Shows the current state.
   void Show(const EditorState& state, const StateChange& change);
 
  signals:
@@ -45,7 +45,7 @@ class RosterFrame : public QFrame {
   void AddKeys();
   void StepRow(Cell from, int rows);
 
-  /// Gives a cell the focus, as a visit. Does nothing without a cell.
+  /// Gives a cell the focus and begins a visit. Does nothing without a cell.
   void GoTo(std::optional<Cell> cell);
 
   /// Goes to the next cell that SAVE will not keep, or back to the one before.
@@ -67,7 +67,7 @@ class RosterFrame : public QFrame {
   QAction* undo_ = nullptr;
   QAction* redo_ = nullptr;
   std::array<RosterBox*, kCellCount> boxes_{};
-  // The boxes that bear a mark on the screen, by their index.
+  // Whether each box shows a mark, by the index of its cell.
   std::array<bool, kCellCount> is_marked_{};
   std::optional<int> focus_row_;
 };

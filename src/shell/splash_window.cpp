@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
+#include <algorithm>
 
 #include "art/title_art.h"
 
@@ -11,7 +13,7 @@ namespace {
 
 constexpr QSize kPictureSize(480, 300);
 
-/// The picture. Keys are the window's business, so it takes no focus.
+/// The picture. The window handles keys, so it takes no focus.
 class SplashPicture : public QAbstractButton {
  public:
   explicit SplashPicture(QWidget* parent) : QAbstractButton(parent) {
@@ -47,11 +49,24 @@ void SplashWindow::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Alt:
     case Qt::Key_AltGr:
     case Qt::Key_Meta:
-      // Held for another key, perhaps one that is the window manager's.
+      // Held for another key, perhaps a shortcut of the window manager.
       return;
     default:
       emit Dismissed();
   }
+}
+
+void PlaceOver(QWidget& window, const QWidget& shown) {
+  const QRect other = shown.frameGeometry();
+  const QRect room = shown.screen()->availableGeometry();
+  // Its borders are not known before it is shown, but will be those of the other window.
+  QRect place(QPoint(0, 0), window.size() + other.size() - shown.size());
+  place.moveCenter(other.center());
+  place.moveRight(std::min(place.right(), room.right()));
+  place.moveBottom(std::min(place.bottom(), room.bottom()));
+  place.moveLeft(std::max(place.left(), room.left()));
+  place.moveTop(std::max(place.top(), room.top()));
+  window.move(place.topLeft());
 }
 
 }  // namespace morlek

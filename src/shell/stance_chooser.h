@@ -12,7 +12,7 @@ namespace morlek {
 
 class StancePicture;
 
-/// What makes one chooser out of the other two. The texts are literals, which live on.
+/// What distinguishes a chooser from the other two. The texts are string literals.
 struct ChooserKind {
   StancePiece piece;
   const char* frame_name;
@@ -22,8 +22,8 @@ struct ChooserKind {
   const char* tool_tip;
 };
 
-/// A frame of pictures to choose a face, body or legs from, one for every code that has a picture;
-/// none is marked at first.
+/// A frame of pictures to choose a face, body or legs from, one for every code that has a picture.
+/// At first none is marked.
 class StanceChooser : public QFrame {
   Q_OBJECT
 

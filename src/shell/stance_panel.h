@@ -12,8 +12,8 @@ class StanceView;
 struct EditorState;
 struct StateChange;
 
-/// The part of the window right of the grid: the face, body and legs choosers, one of them in view
-/// at a time, and the player of the stance row put together in his club's colours.
+/// The part of the window to the right of the grid: the face, body and legs choosers, one of them
+/// in view at a time, and the player of the stance row put together in his club's colours.
 class StancePanel : public QWidget {
   Q_OBJECT
 
@@ -21,7 +21,7 @@ class StancePanel : public QWidget {
   /// No chooser is in view at first.
   explicit StancePanel(QWidget* parent);
 
-  /// Shows how things stand now.
+  /// Shows the current state.
   void Show(const EditorState& state);
 
  signals:

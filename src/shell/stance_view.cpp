@@ -9,8 +9,8 @@
 namespace morlek {
 namespace {
 
-/// Where the parts of a card stand: the plate at the end of its longer side, a stripe before it,
-/// and the figure in all that is left.
+/// The areas of a card: the plate at the end of its longer side, a stripe before it, and the figure
+/// in the rest.
 struct CardParts {
   QRectF figure;
   QRectF stripe;
@@ -36,8 +36,8 @@ CardParts PartsOf(const QRectF& card) {
   return parts;
 }
 
-/// A line of the plate: its text is written in the largest size that fits, and cut where even the
-/// smallest does not.
+/// A line of the plate: its text is written in the largest size that fits, and truncated if even
+/// the smallest does not.
 struct PlateLine {
   int largest_pixels;
   int smallest_pixels;
@@ -45,7 +45,7 @@ struct PlateLine {
 };
 
 void Write(QPainter& painter, const QRectF& room, const PlateLine& line, const QString& text) {
-  // Longer than any line, so that measuring takes no time whatever stands in a box.
+  // Longer than any line; measuring a very long text would take time.
   const QString start = text.left(80).replace('\n', ' ');
   QFont font = theme::Font(line.largest_pixels, QFont::Bold);
   const qreal width = QFontMetricsF(font).horizontalAdvance(start);

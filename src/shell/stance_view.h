@@ -18,8 +18,8 @@ struct ShownPlayer {
 };
 
 /// A card with one player: his face, body and legs put together in his club's colours, and a plate
-/// with his number, position and name, which stands below the figure where the card is higher than
-/// wide, and beside it where not.
+/// with his number, position and name, which is below the figure on a card that is higher than
+/// wide, and beside it otherwise.
 class StanceView : public QWidget {
   Q_OBJECT
 
@@ -29,7 +29,7 @@ class StanceView : public QWidget {
   /// Shows a player; a code without a picture becomes a question mark, an empty one is left blank.
   void ShowPlayer(const ShownPlayer& player);
 
-  /// Dresses the player in these colours; without a club in the blue of the single pieces.
+  /// Dresses the player in these colours; without a club, in the blue of the single pieces.
   void ShowClub(const std::optional<ClubColors>& club);
 
  protected:

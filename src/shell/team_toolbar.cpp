@@ -1,13 +1,15 @@
 #include "shell/team_toolbar.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QShortcut>
 #include <utility>
 
 #include "editor/editor_state.h"
+#include "shell/club_looks.h"
 #include "shell/code_page_text.h"
-#include "shell/team_badges.h"
 #include "ui/marked_button.h"
+#include "ui/painted_icon.h"
 #include "ui/theme.h"
 
 namespace morlek {
@@ -19,15 +21,42 @@ constexpr int kRows = (kTeams + kButtonsInRow - 1) / kButtonsInRow;
 constexpr int kButtonWidth = 31;
 constexpr int kButtonHeight = 23;
 
-/// A button that is all picture.
+/// A badge with a club's letters on its two colours.
+void PaintBadge(QPainter& painter, const QRectF& target, const ClubLook& look) {
+  constexpr qreal kTrimPart = 0.16;
+  constexpr qreal kLetterPart = 0.56;
+  QPainterPath outline;
+  outline.addRoundedRect(target, target.height() * 0.2, target.height() * 0.2);
+  painter.fillPath(outline, look.colors.main);
+
+  QRectF trim = target;
+  trim.setTop(target.bottom() - target.height() * kTrimPart);
+  painter.setClipPath(outline, Qt::IntersectClip);
+  painter.fillRect(trim, look.colors.trim);
+  painter.setClipping(false);
+
+  painter.setPen(QPen(look.colors.main.darker(130), 1));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawPath(outline);
+
+  QRectF letters = target;
+  letters.setBottom(trim.top() + 1);
+  painter.setPen(Qt::white);
+  painter.setFont(theme::Font(qRound(target.height() * kLetterPart), QFont::Bold));
+  painter.drawText(letters, Qt::AlignCenter, look.letters);
+}
+
+/// A button that shows only its badge.
 class TeamButton : public MarkedButton {
  public:
-  TeamButton(const Team& team, const QIcon& badge, QWidget* parent) : MarkedButton(parent) {
+  TeamButton(const Team& team, QWidget* parent) : MarkedButton(parent) {
     const QString key = FromCodePage(team.key);
     setObjectName(key);
     setToolTip(key);
     setAccessibleName(FromCodePage(team.display_name));
-    setIcon(badge);
+    setIcon(MakePaintedIcon([&look = LookOf(team)](QPainter& painter, const QRectF& target) {
+      PaintBadge(painter, target, look);
+    }));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
   }
@@ -45,7 +74,7 @@ class TeamButton : public MarkedButton {
       painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
     }
     const QRect badge = rect().adjusted(kGap, kGap, -kGap, -kGap);
-    // Many clubs wear colours that a dark window would swallow.
+    // Many clubs have colours that can hardly be seen on a dark window.
     painter.setPen(Qt::NoPen);
     painter.setBrush(shades.badge_rim);
     painter.drawRoundedRect(badge.adjusted(-1, -1, 1, 1), 4, 4);
@@ -60,10 +89,11 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
   setAccessibleName("teams");
   setFixedSize(kButtonsInRow * kButtonWidth, kRows * kButtonHeight);
 
-  const auto* badges = new TeamBadges(this);
+  // The form's name for the badges as a whole.
+  (new QObject(this))->setObjectName("ImageList1");
   int place = 0;
   for (const Team& team : kTeamDirectory) {
-    auto* button = new TeamButton(team, badges->Badge(team), this);
+    auto* button = new TeamButton(team, this);
     button->setGeometry(place % kButtonsInRow * kButtonWidth, place / kButtonsInRow * kButtonHeight,
                         kButtonWidth, kButtonHeight);
     connect(button, &QAbstractButton::clicked, this, [this, &team] { emit TeamPicked(team.key); });

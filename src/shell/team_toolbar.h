@@ -17,14 +17,14 @@ class TeamToolbar : public QWidget {
  public:
   explicit TeamToolbar(QWidget* parent);
 
-  /// Stands in the window once there is an image. The badge of the team on the screen has a ring.
+  /// Shows the toolbar once there is an image, with a ring around the badge of the loaded team.
   void Show(const EditorState& state);
 
  signals:
-  /// The team with this toolbar key, which is one of the directory and lives on, was picked.
+  /// The team with this toolbar key was picked; the key belongs to the directory and stays valid.
   void TeamPicked(std::string_view toolbar_key);
 
-  /// A key asked for the next team (+1) or the previous one (-1).
+  /// A key for the next team (+1) or the previous one (-1) was pressed.
   void StepRequested(int places);
 
  private:

@@ -1,6 +1,6 @@
 #include "team/accepted_texts.h"
 
-#include "codecs/average_word.h"
+#include "codecs/average_codec.h"
 #include "codecs/fielding_position_codec.h"
 #include "codecs/hand_codec.h"
 #include "codecs/hex_text.h"
@@ -64,8 +64,7 @@ std::string AcceptedTexts(Column column) {
     case kFace:
     case kBody:
     case kLegs:
-      return FromTo(ByteToText(0x00), ByteToText(0xFF)) +
-             " in hexadecimal; click a box to pick from pictures";
+      return FromTo(ByteToText(0x00), ByteToText(0xFF)) + " in hexadecimal";
   }
   return {};
 }

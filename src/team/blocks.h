@@ -10,8 +10,8 @@
 
 namespace morlek {
 
-/// The columns of the roster grid by what they hold. Within a block they follow each other in the
-/// order of this list when cells are walked, which is not their order on the screen.
+/// The columns of the roster grid by what they hold. kAllCells visits the columns of a row in this
+/// order, which is not their order on the screen.
 enum class Column {
   kName,
   kPosition,
@@ -56,8 +56,8 @@ struct BlockColumn {
   std::string_view meaning;
 };
 
-/// The part of the grid that shows one kind of player. Its columns stand from left to right, which
-/// is also their order in a team data file.
+/// The part of the grid that shows one kind of player. Its columns are listed from left to right,
+/// which is also their order in a team data file.
 struct Block {
   std::string_view player;
   int first_row;
@@ -110,7 +110,7 @@ inline constexpr Block kPitchers = {
       {Column::kLegs, "L", "legs"}}}};
 // clang-format on
 
-/// The block in which `row` (0 to 24) stands.
+/// The block of a row, 0 to 24; lives for the whole run.
 [[nodiscard]] constexpr const Block& BlockOf(int row) {
   return row < kBatters.end_row ? kBatters : kPitchers;
 }

@@ -31,7 +31,7 @@ inline constexpr std::array<Cell, kCellCount> kAllCells = [] {
   return cells;
 }();
 
-/// All cells as they stand on the screen, row by row from left to right.
+/// All cells in the order of the screen, row by row from left to right.
 inline constexpr std::array<Cell, kCellCount> kCellsOnScreen = [] {
   std::array<Cell, kCellCount> cells{};
   std::size_t index = 0;

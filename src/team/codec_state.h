@@ -4,8 +4,7 @@
 #include <optional>
 
 #include "codecs/appearance_codec.h"
-#include "codecs/batting_average_codec.h"
-#include "codecs/earned_run_average_codec.h"
+#include "codecs/average_codec.h"
 #include "codecs/fielding_position_codec.h"
 #include "codecs/hand_codec.h"
 #include "codecs/name_letter_codec.h"
@@ -13,8 +12,9 @@
 
 namespace morlek {
 
-/// Everything that loads and saves keep for the whole run, as one value: an input that a decoder or
-/// encoder does not know gives its last result again. A copy can be tried out and thrown away.
+/// Everything that loads and saves keep for the whole run, as one value: for an input that it does
+/// not know, a decoder or encoder returns its last result again. The preview of a save runs on a
+/// copy.
 struct CodecState {
   NameLetterCodec name_letter;
   FieldingPositionCodec fielding_position;

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "codecs/average_word.h"
+#include "codecs/average_codec.h"
 #include "codecs/hex_text.h"
 #include "codecs/rating_digit_codec.h"
 #include "image/failure.h"
@@ -24,12 +24,19 @@ std::string WithPoint(std::string_view text) {
   return std::string(text.substr(0, 1)) + "." + std::string(text.empty() ? "" : text.substr(1));
 }
 
+class StrictListener : public DecodingListener {
+ public:
+  void UnknownByte(Cell /*cell*/) override {}
+  bool NoRating(Cell /*cell*/) override { return false; }
+};
+
 /// One run over the record, a pass for each field. Every pass reads and decodes the bytes of all
 /// rows, because decoders keep their results, but shows them only in rows that have the column.
 class RecordDecoder {
  public:
-  RecordDecoder(const RecordSource& source, CodecState& state, RosterGrid& grid)
-      : source_(source), state_(state), grid_(grid) {}
+  RecordDecoder(const RecordSource& source, CodecState& state, RosterGrid& grid,
+                DecodingListener& listener)
+      : source_(source), state_(state), grid_(grid), listener_(listener) {}
 
   void LoadAll();
 
@@ -46,6 +53,8 @@ class RecordDecoder {
   void LoadNumbers(Column column);
 
   void Show(Cell cell, std::string_view text);
+  /// The text of an answer for a cell; reports when it belongs to another input.
+  [[nodiscard]] std::string_view Hear(Cell cell, CodecAnswer answer);
   void ShowRating(Cell cell, std::string_view digits);
   [[nodiscard]] std::uint8_t Read(int row, int offset);
   [[nodiscard]] std::uint8_t Read(Cell cell) { return Read(cell.row, OffsetOf(cell.column)); }
@@ -58,6 +67,7 @@ class RecordDecoder {
   const RecordSource& source_;
   CodecState& state_;
   RosterGrid& grid_;
+  DecodingListener& listener_;
 };
 
 void RecordDecoder::LoadAll() {
@@ -82,7 +92,7 @@ void RecordDecoder::LoadNames() {
   for (int row = 0; row < kSlotCount; ++row) {
     std::string letters;
     for (const int offset : BytesOf(kName)) {
-      letters += state_.name_letter.DecodeNameLetter(Read(row, offset)).text;
+      letters += Hear({kName, row}, state_.name_letter.DecodeNameLetter(Read(row, offset)));
     }
     Show({kName, row}, WithPoint(letters));
   }
@@ -91,14 +101,14 @@ void RecordDecoder::LoadNames() {
 void RecordDecoder::LoadFieldingPositions() {
   for (int row = 0; row < kSlotCount; ++row) {
     const Cell cell{kPosition, row};
-    Show(cell, state_.fielding_position.DecodeFieldingPosition(Read(cell)).text);
+    Show(cell, Hear(cell, state_.fielding_position.DecodeFieldingPosition(Read(cell))));
   }
 }
 
 void RecordDecoder::LoadHands() {
   for (int row = kBatters.first_row; row < kBatters.end_row; ++row) {
     const Cell cell{kBattingSide, row};
-    Show(cell, state_.batting_side.DecodeBattingSide(Read(cell)).text);
+    Show(cell, Hear(cell, state_.batting_side.DecodeBattingSide(Read(cell))));
   }
   for (int row = kPitchers.first_row; row < kPitchers.end_row; ++row) {
     const Cell cell{kThrowingHand, row};
@@ -109,9 +119,9 @@ void RecordDecoder::LoadHands() {
 void RecordDecoder::LoadPitcherMarks() {
   for (int row = 0; row < kSlotCount; ++row) {
     const std::uint8_t byte = Read(row, BytesOf(kThrowingHand).back());
-    const std::string_view marks = state_.pitcher_marks.DecodePitcherMarks(byte).text;
-    if (!kPitchers.Contains(row)) continue;
     const Cell cell{kThrowingHand, row};
+    const std::string_view marks = Hear(cell, state_.pitcher_marks.DecodePitcherMarks(byte));
+    if (!kPitchers.Contains(row)) continue;
     Show(cell, grid_.Text(cell) + std::string(marks));
   }
 }
@@ -137,7 +147,7 @@ void RecordDecoder::LoadAppearance(Column column) {
 void RecordDecoder::LoadBattingAverages() {
   for (int row = 0; row < kSlotCount; ++row) {
     const Cell cell{kBattingAverage, row};
-    Show(cell, state_.batting_average.DecodeBattingAverage(ReadPairKey(cell)).text);
+    Show(cell, Hear(cell, state_.batting_average.DecodeBattingAverage(ReadPairKey(cell))));
   }
 }
 
@@ -145,15 +155,16 @@ void RecordDecoder::LoadEarnedRunAverages() {
   for (int row = 0; row < kSlotCount; ++row) {
     const Cell cell{kEarnedRunAverage, row};
     const std::string key = ReadPairKey(cell);
-    Show(cell, WithPoint(state_.earned_run_average.DecodeEarnedRunAverage(key).text));
+    Show(cell, WithPoint(Hear(cell, state_.earned_run_average.DecodeEarnedRunAverage(key))));
   }
 }
 
 void RecordDecoder::LoadNumbers(Column column) {
   for (int row = 0; row < kSlotCount; ++row) {
     SmallNumberCodec& codec = state_.small_number;
-    codec.number_bytes.at(static_cast<std::size_t>(row)) = Read({column, row});
-    Show({column, row}, codec.DecodeSmallNumber(row).text);
+    const Cell cell{column, row};
+    codec.number_bytes.at(static_cast<std::size_t>(row)) = Read(cell);
+    Show(cell, Hear(cell, codec.DecodeSmallNumber(row)));
   }
 }
 
@@ -161,14 +172,19 @@ void RecordDecoder::Show(Cell cell, std::string_view text) {
   if (IndexOf(cell) < kCellCount) grid_.SetText(cell, std::string(text));
 }
 
+std::string_view RecordDecoder::Hear(Cell cell, CodecAnswer answer) {
+  if (!answer.is_known && IndexOf(cell) < kCellCount) listener_.UnknownByte(cell);
+  return answer.text;
+}
+
 void RecordDecoder::ShowRating(Cell cell, std::string_view digits) {
   const std::optional<std::string> shown = ShownRating(digits);
-  if (!shown) {
+  if (!shown && !listener_.NoRating(cell)) {
     throw OperationFailed("The team could not be loaded, because the rating" +
                           WhereText(cell.row, OffsetOf(cell.column)) +
                           " holds a digit that is no number.");
   }
-  Show(cell, *shown);
+  Show(cell, shown.value_or(""));
 }
 
 std::uint8_t RecordDecoder::Read(int row, int offset) {
@@ -187,8 +203,14 @@ std::string RecordDecoder::ReadPairKey(Cell cell) {
 
 }  // namespace
 
+void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid,
+                  DecodingListener& listener) {
+  RecordDecoder(source, state, grid, listener).LoadAll();
+}
+
 void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid) {
-  RecordDecoder(source, state, grid).LoadAll();
+  StrictListener listener;
+  DecodeRecord(source, state, grid, listener);
 }
 
 }  // namespace morlek

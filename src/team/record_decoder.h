@@ -12,11 +12,34 @@ namespace morlek {
 /// when it cannot.
 using RecordSource = std::function<std::uint8_t(int row, int offset)>;
 
+/// Hears of cells whose bytes no decoder knows.
+class DecodingListener {
+ public:
+  virtual ~DecodingListener() = default;
+
+  /// A byte of this cell is unknown, so the cell shows an earlier result. Of a name each such
+  /// letter is reported.
+  virtual void UnknownByte(Cell cell) = 0;
+
+  /// A digit of this rating is none, so there is nothing to show. True when the decoder is to go on
+  /// and leave the cell empty, false when it is to end here.
+  [[nodiscard]] virtual bool NoRating(Cell cell) = 0;
+
+ protected:
+  DecodingListener() = default;
+  DecodingListener(const DecodingListener&) = default;
+  DecodingListener& operator=(const DecodingListener&) = default;
+};
+
 /// Turns the bytes of a record into the texts of the grid, one field at a time across the whole
 /// roster. A byte that a decoder does not know shows its previous result, so the order of the
 /// passes is part of what a load does.
-/// Throws OperationFailed when the source does or when a rating shows no number, and says where;
-/// the grid is then filled up to that field.
+/// Throws OperationFailed when the source does or when `listener` ends it at a rating, and says
+/// where; the grid is then filled up to that field.
+void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid,
+                  DecodingListener& listener);
+
+/// The same; a rating that is none ends it.
 void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid);
 
 }  // namespace morlek

@@ -15,7 +15,7 @@ using enum Column;
 
 constexpr std::size_t kLongestName = kNameBytes + 1;  // with the period
 
-/// Assigns when there is a value. `Target` is a working value of the save or a kept one.
+/// Assigns when there is a value. `Target` is a working value of the save or of the codec state.
 template <typename Target>
 void Assign(Target& target, std::optional<std::int32_t> converted) {
   if (converted) target = *converted;
@@ -58,20 +58,22 @@ class RecordEncoder {
  private:
   [[nodiscard]] bool SaveName(int row);
   void SaveLetter(int row, int letter, std::string_view character);
-  void SavePosition(int row);
-  void SaveUniformNumber(int row);
   void SaveBatter(int row);
   void SavePitcher(int row);
-  void SaveBattingSide(int row);
-  void SavePitcherSFlag(int row);
-  void SaveFirstRatings(Cell first, Cell second);
-  void SaveSecondRatings(int row);
-  void SaveSecondRating(int row);
+  void SaveRatings(Cell first, Cell second, auto& value);
   void SaveAverage(Cell source, CodecAnswer low, std::int32_t& value, std::uint8_t high);
   void SaveFace(int row);
-  void SaveThrowingHand(int row);
-  void SavePitcherMarks(int row);
+  void SaveHandAndMarks(int row);
   void SaveAppearance(Cell source, std::int32_t& value);
+
+  /// Converts a field into its working value, and offers that when the cell is filled.
+  void Save(Cell source, auto& value, std::optional<std::int32_t> converted) {
+    Assign(value, converted);
+    WriteFilled(source, OffsetOf(source.column), value);
+  }
+  void Save(Cell source, auto& value, const CodecAnswer& code) {
+    Save(source, value, ByteTextToNumber(code.text));
+  }
 
   /// Passes a count through the number byte buffer and the encoder.
   void EncodeCount(Cell source, std::int32_t& value);
@@ -79,11 +81,8 @@ class RecordEncoder {
 
   [[nodiscard]] const std::string& Text(Cell cell) const { return grid_.Text(cell); }
 
-  /// Offers a value that fits into a byte to the sink when the cell that it stands for is filled.
-  void WriteFilled(Cell source, int offset, std::int32_t value);
-  void WriteFilled(Cell source, std::int32_t value) {
-    WriteFilled(source, OffsetOf(source.column), value);
-  }
+  /// Offers a value that fits into a byte to the sink when the cell that it belongs to is filled.
+  void WriteFilled(Cell source, int offset, std::optional<std::int32_t> value);
   void Write(int row, int offset, std::int32_t value);
 
   const RosterGrid& grid_;
@@ -99,8 +98,12 @@ void RecordEncoder::SaveInitials() {
 
 bool RecordEncoder::SaveRow(int row) {
   if (!SaveName(row)) return false;
-  SavePosition(row);
-  SaveUniformNumber(row);
+  const std::string& position = Text({kPosition, row});
+  Save({kPosition, row}, values_.position,
+       state_.fielding_position.EncodeFieldingPosition(position));
+  const std::string& number = Text({kUniformNumber, row});
+  Save({kUniformNumber, row}, state_.uniform_number,
+       state_.small_number.EncodeUniformNumber(row, number));
   if (kBatters.Contains(row)) {
     SaveBatter(row);
   } else {
@@ -119,7 +122,7 @@ bool RecordEncoder::SaveName(int row) {
   }
   name.resize(kLongestName, ' ');
   for (int letter = 1; letter < kNameBytes; ++letter) {
-    // The second character, where the period stands, has no letter code.
+    // The second character is the period, which has no letter code.
     SaveLetter(row, letter, std::string_view(name).substr(static_cast<std::size_t>(letter) + 1, 1));
   }
   return true;
@@ -132,29 +135,16 @@ void RecordEncoder::SaveLetter(int row, int letter, std::string_view character) 
   WriteFilled({kName, row}, OffsetOf(kName) + letter, values_.letter);
 }
 
-void RecordEncoder::SavePosition(int row) {
-  const Cell cell{kPosition, row};
-  Assign(values_.position,
-         ByteTextToNumber(state_.fielding_position.EncodeFieldingPosition(Text(cell)).text));
-  WriteFilled(cell, values_.position);
-}
-
-void RecordEncoder::SaveUniformNumber(int row) {
-  const Cell cell{kUniformNumber, row};
-  Assign(state_.uniform_number,
-         ByteTextToNumber(state_.small_number.EncodeUniformNumber(row, Text(cell)).text));
-  if (state_.uniform_number) WriteFilled(cell, *state_.uniform_number);
-}
-
 void RecordEncoder::SaveBatter(int row) {
-  SaveBattingSide(row);
-  SaveFirstRatings({kBatting, row}, {kPower, row});
-  SaveSecondRatings(row);
+  const std::string& side = Text({kBattingSide, row});
+  Save({kBattingSide, row}, values_.batting_side, state_.batting_side.EncodeBattingSide(row, side));
+  SaveRatings({kBatting, row}, {kPower, row}, state_.first_ratings);
+  SaveRatings({kSpeed, row}, {kFielding, row}, values_.batter_second_ratings);
   const std::string& average = Text({kBattingAverage, row});
   SaveAverage({kBattingAverage, row}, state_.batting_average.EncodeBattingAverage(average),
               values_.batting_average_low, BattingAverageCodec::HighByte(average));
-  // Four counts pass through the shared number text in every row, written or not: what one leaves
-  // there the next one may fall back on.
+  // Four counts pass through the shared number text in every row, written or not: when one cannot
+  // be converted, the result of the one before it is used.
   SaveCount({kHomeRuns, row}, values_.home_runs_or_losses);
   SaveCount({kRunsBattedIn, row}, values_.runs_batted_in);
   EncodeCount({kFielding, row}, values_.wins_or_saves);
@@ -163,9 +153,12 @@ void RecordEncoder::SaveBatter(int row) {
 }
 
 void RecordEncoder::SavePitcher(int row) {
-  SavePitcherSFlag(row);
-  SaveFirstRatings({kPitchSpeed, row}, {kControl, row});
-  SaveSecondRating(row);
+  const auto flag = ByteTextToNumber(EncodePitcherSFlag(Text({kThrowingHand, row})));
+  // Written for an empty cell too.
+  if (flag) Write(row, offset::kPitcherSFlag, *flag);
+  SaveRatings({kPitchSpeed, row}, {kControl, row}, state_.first_ratings);
+  const std::string& fatigue = Text({kFatigue, row});
+  Save({kFatigue, row}, values_.pitcher_second_rating, PackSingleRating(fatigue));
   const std::string& average = Text({kEarnedRunAverage, row});
   SaveAverage({kEarnedRunAverage, row}, state_.earned_run_average.EncodeEarnedRunAverage(average),
               values_.earned_run_average_low, EarnedRunAverageCodec::HighByte(average));
@@ -174,72 +167,37 @@ void RecordEncoder::SavePitcher(int row) {
   SaveCount({kWins, row}, values_.wins_or_saves);
   SaveCount({kSaves, row}, values_.wins_or_saves);
   SaveFace(row);
-  SaveThrowingHand(row);
-  SavePitcherMarks(row);
+  SaveHandAndMarks(row);
 }
 
-void RecordEncoder::SaveBattingSide(int row) {
-  const Cell cell{kBattingSide, row};
-  Assign(values_.batting_side,
-         ByteTextToNumber(state_.batting_side.EncodeBattingSide(row, Text(cell)).text));
-  WriteFilled(cell, values_.batting_side);
-}
-
-void RecordEncoder::SavePitcherSFlag(int row) {
-  const auto flag = ByteTextToNumber(EncodePitcherSFlag(Text({kThrowingHand, row})));
-  // Written for an empty cell too.
-  if (flag) Write(row, offset::kPitcherSFlag, *flag);
-}
-
-void RecordEncoder::SaveFirstRatings(Cell first, Cell second) {
-  Assign(state_.first_ratings, PackRatings(Text(first), Text(second)));
-  if (state_.first_ratings) WriteFilled(first, *state_.first_ratings);
-}
-
-void RecordEncoder::SaveSecondRatings(int row) {
-  const Cell first{kSpeed, row};
-  Assign(values_.batter_second_ratings, PackRatings(Text(first), Text({kFielding, row})));
-  WriteFilled(first, values_.batter_second_ratings);
-}
-
-void RecordEncoder::SaveSecondRating(int row) {
-  const Cell cell{kFatigue, row};
-  Assign(values_.pitcher_second_rating, PackSingleRating(Text(cell)));
-  WriteFilled(cell, values_.pitcher_second_rating);
+void RecordEncoder::SaveRatings(Cell first, Cell second, auto& value) {
+  Save(first, value, PackRatings(Text(first), Text(second)));
 }
 
 void RecordEncoder::SaveAverage(Cell source, CodecAnswer low, std::int32_t& value,
                                 std::uint8_t high) {
-  Assign(value, ByteTextToNumber(low.text));
-  WriteFilled(source, value);
+  Save(source, value, low);
   WriteFilled(source, OffsetOf(source.column) + 1, high);
 }
 
 void RecordEncoder::SaveFace(int row) {
   const Cell cell{kFace, row};
   values_.face_code = state_.appearance.NormalizeAppearanceCode(Text(cell));
-  Assign(values_.face, ByteTextToNumber(values_.face_code));
-  WriteFilled(cell, values_.face);
+  Save(cell, values_.face, ByteTextToNumber(values_.face_code));
 }
 
-void RecordEncoder::SaveThrowingHand(int row) {
-  Assign(values_.hand,
-         ByteTextToNumber(
-             values_.hand_encoder.EncodeHandAndFace(Text({kThrowingHand, row}), values_.face_code)
-                 .text));
+void RecordEncoder::SaveHandAndMarks(int row) {
+  const std::string& text = Text({kThrowingHand, row});
+  const CodecAnswer hand = values_.hand_encoder.EncodeHandAndFace(text, values_.face_code);
+  Assign(values_.hand, ByteTextToNumber(hand.text));
   // The hand shares its byte with the face, so it is written when the face is filled.
   WriteFilled({kFace, row}, OffsetOf(kThrowingHand), values_.hand);
-}
-
-void RecordEncoder::SavePitcherMarks(int row) {
-  const Cell cell{kThrowingHand, row};
-  Assign(values_.marks, ByteTextToNumber(values_.hand_encoder.EncodeMarks(Text(cell)).text));
-  WriteFilled(cell, BytesOf(kThrowingHand).back(), values_.marks);
+  Assign(values_.marks, ByteTextToNumber(values_.hand_encoder.EncodeMarks(text).text));
+  WriteFilled({kThrowingHand, row}, BytesOf(kThrowingHand).back(), values_.marks);
 }
 
 void RecordEncoder::SaveAppearance(Cell source, std::int32_t& value) {
-  Assign(value, ByteTextToNumber(state_.appearance.NormalizeAppearanceCode(Text(source))));
-  WriteFilled(source, value);
+  Save(source, value, ByteTextToNumber(state_.appearance.NormalizeAppearanceCode(Text(source))));
 }
 
 void RecordEncoder::EncodeCount(Cell source, std::int32_t& value) {
@@ -252,11 +210,11 @@ void RecordEncoder::EncodeCount(Cell source, std::int32_t& value) {
 
 void RecordEncoder::SaveCount(Cell source, std::int32_t& value) {
   EncodeCount(source, value);
-  WriteFilled(source, value);
+  WriteFilled(source, OffsetOf(source.column), value);
 }
 
-void RecordEncoder::WriteFilled(Cell source, int offset, std::int32_t value) {
-  if (!Text(source).empty()) Write(source.row, offset, value);
+void RecordEncoder::WriteFilled(Cell source, int offset, std::optional<std::int32_t> value) {
+  if (value && !Text(source).empty()) Write(source.row, offset, *value);
 }
 
 void RecordEncoder::Write(int row, int offset, std::int32_t value) {

@@ -10,26 +10,21 @@
 
 namespace morlek {
 
-/// Takes the byte that a cell (by itself or with others of its row) has become, for a row (0 to 24)
-/// and an offset (0 to 31) of the record; false when it could not.
+/// Takes the byte that encodes a cell, alone or with others of its row, for a row (0 to 24) and an
+/// offset (0 to 31) of the record; false when it could not.
 using RecordSink = std::function<bool(int row, int offset, std::uint8_t byte)>;
 
-/// Hears, at the moment it is found, what of a name cannot be encoded. It may keep the encoder
-/// waiting, as a message box does.
+/// Is notified of what cannot be encoded in a name as soon as it is found. It may keep the encoder
+/// waiting, as a message box does. By default it does nothing.
 class EncodingListener {
  public:
   virtual ~EncodingListener() = default;
 
   /// The name of this row has a letter that the game lacks; an empty name has the empty letter.
-  virtual void UnknownLetter(int row, std::string_view letter) = 0;
+  virtual void UnknownLetter(int /*row*/, std::string_view /*letter*/) {}
 
   /// The name of this row has more than 10 characters, so the encoder ends here.
-  virtual void NameTooLong(int row) = 0;
-
- protected:
-  EncodingListener() = default;
-  EncodingListener(const EncodingListener&) = default;
-  EncodingListener& operator=(const EncodingListener&) = default;
+  virtual void NameTooLong(int /*row*/) {}
 };
 
 /// Turns the texts of the grid into the bytes of a record: the initials of all names first, then

@@ -7,16 +7,19 @@
 
 namespace morlek {
 
-/// The longest text of a cell, in characters. What comes in longer is truncated, so that memory
-/// stays bounded.
+/// The longest text of a cell, in characters. Longer input is truncated, so that memory stays
+/// bounded.
 inline constexpr std::size_t kLongestText = 32767;
 
-/// The roster grid: 25 rows, one a roster slot, of 14 texts in the code page. The texts are what
-/// the person sees, whatever they hold; only the saver judges them. A plain value.
+/// The roster grid: 25 rows, one a roster slot, of 14 texts in the code page. The texts are as the
+/// person sees them and are not validated; the saver decides what can be saved. A plain value.
 class RosterGrid {
  public:
-  /// The text of a cell. Both throw std::out_of_range for a cell that the grid does not have.
+  /// The text of a cell, valid until the next SetText. Throws std::out_of_range for a cell that the
+  /// grid does not have.
   [[nodiscard]] const std::string& Text(Cell cell) const;
+
+  /// Replaces the text of a cell; throws as Text does.
   void SetText(Cell cell, std::string text);
 
   friend bool operator==(const RosterGrid&, const RosterGrid&) = default;

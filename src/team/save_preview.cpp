@@ -10,21 +10,22 @@
 namespace morlek {
 namespace {
 
-class DeafListener : public EncodingListener {
+/// Goes on past a rating that is no number.
+class TolerantListener : public DecodingListener {
  public:
-  void UnknownLetter(int /*row*/, std::string_view /*letter*/) override {}
-  void NameTooLong(int /*row*/) override {}
+  void UnknownByte(Cell /*cell*/) override {}
+  bool NoRating(Cell /*cell*/) override { return true; }
 };
 
 }  // namespace
 
 SavePreview::SavePreview(const RosterGrid& grid, CodecState state, const RecordBytes& known) {
-  DeafListener listener;
+  EncodingListener deaf;
   const auto sink = [this](int row, int offset, std::uint8_t byte) {
     written_.Put(row, offset, byte);
     return true;
   };
-  end_row_ = EncodeRecord(grid, state, sink, listener);
+  end_row_ = EncodeRecord(grid, state, sink, deaf);
 
   RecordBytes record = known;
   record.PutAll(written_);
@@ -33,8 +34,9 @@ SavePreview::SavePreview(const RosterGrid& grid, CodecState state, const RecordB
     if (!byte) throw OperationFailed("The byte is not known.");
     return *byte;
   };
+  TolerantListener tolerant;
   try {
-    DecodeRecord(source, state, after_);
+    DecodeRecord(source, state, after_, tolerant);
   } catch (const OperationFailed&) {
     after_ = grid;
   }

@@ -9,28 +9,31 @@
 
 namespace morlek {
 
-/// What would become of the grid if it were saved now and the team loaded again. It runs the real
-/// encoder and decoder on copies, in memory: no file, no message, nothing kept.
+/// What the grid would be if it were saved now and the team loaded again. It runs the real encoder
+/// and decoder on copies, in memory: no file, no message, nothing kept.
 class SavePreview {
  public:
   /// `state` is what loads and saves keep now, `known` the bytes that the image is known to hold.
-  /// When such a load would fail, as it does where `known` lacks a byte, nothing can be said: every
-  /// cell then comes out as it stands in the grid.
+  /// When that load would lack a byte of `known`, nothing can be predicted: every cell then keeps its
+  /// text. A rating that is no number comes out empty.
   SavePreview(const RosterGrid& grid, CodecState state, const RecordBytes& known);
 
   enum class Fate {
     kStored,      // SAVE writes the cell
     kSkipped,     // SAVE writes nothing for the cell
     kEndsSave,    // the cell is a name that is too long, and SAVE ends there
-    kNotReached,  // SAVE has ended before; of a name the initial is stored even so
+    kNotReached,  // SAVE ended earlier; but the initial of a name is stored
   };
   [[nodiscard]] Fate FateOf(Cell cell) const;
 
-  /// What a load after SAVE would show in the cell.
+  /// What a load after SAVE would show in the cell; lives as long as the preview.
   [[nodiscard]] const std::string& TextAfter(Cell cell) const { return after_.Text(cell); }
 
-  /// The whole grid as such a load would show it.
+  /// The whole grid as a load after SAVE would show it; lives as long as the preview.
   [[nodiscard]] const RosterGrid& after() const { return after_; }
+
+  /// The bytes that SAVE would write.
+  [[nodiscard]] const RecordBytes& written() const { return written_; }
 
   /// The row of the name that ends SAVE, or nothing when none does.
   [[nodiscard]] std::optional<int> end_row() const { return end_row_; }

@@ -9,7 +9,7 @@
 
 namespace morlek {
 
-/// What came of a load.
+/// The result of a load.
 struct LoadResult {
   enum class Outcome {
     kLoaded,
@@ -19,11 +19,11 @@ struct LoadResult {
   Outcome outcome = Outcome::kLoaded;
   /// The bytes that were read.
   RecordBytes read;
-  /// Says in plain words why the load failed, and where; empty for a load that came through.
+  /// Why and where the load failed, in plain words; empty after a successful load.
   std::string failure;
 };
 
-/// Fills a grid from a record, which it only reads.
+/// Fills a grid from a record, without writing to the image.
 [[nodiscard]] LoadResult LoadTeam(CartridgeImage& image, const RecordLocation& location,
                                   CodecState& state, RosterGrid& grid);
 

@@ -13,7 +13,7 @@ SaveResult SaveTeam(CartridgeImage& image, const RecordLocation& location, const
   static_cast<void>(image.Open(location.image));
   result.end_row = EncodeRecord(grid, state, sink, listener);
   if (!image.Close()) {
-    // Any of it may be lost.
+    // Any of the bytes may be lost.
     result.refused.PutAll(result.taken);
     result.taken = {};
   }

@@ -10,19 +10,19 @@
 
 namespace morlek {
 
-/// What came of a save.
+/// The result of a save.
 struct SaveResult {
   /// The bytes that the image took, and those that it refused.
   RecordBytes taken;
   RecordBytes refused;
-  /// The row of the name that ended the save; nothing when it went to its end.
+  /// The row of the name that ended the save; nothing when the save was complete.
   std::optional<int> end_row;
 };
 
 /// Writes a grid into a record, the program's only write path. A step that fails is skipped; when
-/// the image cannot be opened every write fails, and the codecs run all the same. At the end
-/// channel 1 is closed, whatever was open on it. `listener` hears of letters and names that cannot
-/// be saved while the image is still open.
+/// the image cannot be opened every write fails, but the codecs still run. At the end channel 1 is
+/// closed, whatever was open on it. `listener` is notified of letters and names that cannot be
+/// saved while the image is still open.
 [[nodiscard]] SaveResult SaveTeam(CartridgeImage& image, const RecordLocation& location,
                                   const RosterGrid& grid, CodecState& state,
                                   EncodingListener& listener);

@@ -7,7 +7,7 @@
 
 namespace morlek {
 
-/// What came of an export.
+/// The result of an export.
 enum class ExportResult {
   kWritten,
   kNotOpened,   // channel 1 and the file are as they were

@@ -29,7 +29,7 @@ class LineReader {
   Channel& channel_;
 };
 
-/// Fills a row from the next line. What stands behind the line's last comma stays in `field`.
+/// Fills a row from the next line. What follows the line's last comma stays in `field`.
 void ReadRow(LineReader& reader, int row, std::string& field, RosterGrid& grid) {
   reader.RequireLine();
   const auto& columns = BlockOf(row).columns;

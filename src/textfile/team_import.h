@@ -7,7 +7,7 @@
 
 namespace morlek {
 
-/// What came of an import.
+/// The result of an import.
 struct ImportResult {
   enum class Outcome {
     kRead,
@@ -23,7 +23,7 @@ struct ImportResult {
 void ClearRosterGrid(RosterGrid& grid);
 
 /// Fills the grid from the first 25 lines of a team data file, whatever they hold. A line ends at a
-/// carriage return, which a line feed may follow. Characters behind a line's last comma are carried
+/// carriage return, which a line feed may follow. Characters after a line's last comma are carried
 /// over to the first cell of the next line. Longer texts than a cell holds are truncated.
 [[nodiscard]] ImportResult ImportTeamData(Channel& channel, const std::filesystem::path& path,
                                           RosterGrid& grid);

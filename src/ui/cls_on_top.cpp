@@ -14,7 +14,7 @@ void SetTopmost(QWindow& window, bool topmost) {
   SetWindowPos(reinterpret_cast<HWND>(window.winId()), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, 0,
                0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
 #else
-  // The window's own flag changes the window as it stands; a widget's would make a new one.
+  // This flag changes the existing window; the widget's flag would create a new one.
   window.setFlag(Qt::WindowStaysOnTopHint, topmost);
 #endif
 }

@@ -7,8 +7,8 @@ class QMimeData;
 
 namespace morlek {
 
-/// The path of the one file that is being dropped; nothing for a folder, several things, a remote
-/// address or a text.
+/// The path of the dropped file; nothing if it is a folder, a remote address or a text, or if there
+/// are several.
 [[nodiscard]] std::optional<QString> DroppedFile(const QMimeData& data);
 
 }  // namespace morlek

@@ -4,14 +4,14 @@
 
 namespace morlek {
 
-/// A push button filled with the accent colour: the one that does what the window is for.
+/// A push button filled with the accent colour, for the main action of a window.
 class FilledButton : public QPushButton {
   Q_OBJECT
 
  public:
   FilledButton(const QString& caption, QWidget* parent);
 
-  /// A dot behind the caption shows that there is something left to do.
+  /// Shows or hides a dot behind the caption, which means that there is something left to do.
   void SetDotted(bool dotted);
 
  protected:

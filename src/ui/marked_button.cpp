@@ -26,8 +26,8 @@ class MarkedButtonInterface : public QAccessibleWidget {
   }
 
  private:
-  /// What a mouse cannot reach is not pressed either: hidden, behind a dialog, or right of the
-  /// narrow window.
+  /// Whether a mouse could click the button: it is not hidden, behind a dialog, or to the right of
+  /// the narrow window.
   [[nodiscard]] bool IsInReach() const {
     const QWidget& window = *button_.window();
     return button_.isEnabled() && button_.isVisible() &&

@@ -4,8 +4,8 @@
 
 namespace morlek {
 
-/// A button that can bear a mark, which a screen reader knows as "checked". The mark shows a
-/// state of the program, so pressing the button does not change it by itself.
+/// A button with a mark, which a screen reader reports as "checked". The mark shows a state of the
+/// program, so pressing the button alone does not change it.
 class MarkedButton : public QAbstractButton {
   Q_OBJECT
 

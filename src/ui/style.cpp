@@ -9,15 +9,14 @@
 
 #include "ui/dialog_icons.h"
 #include "ui/filled_button.h"
-#include "ui/own_panel.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
 
 namespace morlek {
 namespace {
 
-/// A flat button in its palette's colour. The default button has an outline of the accent colour,
-/// and so has a filled one, which answers the mouse in shades of its own colour.
+/// A flat button in its palette's colour. The default button has an outline of the accent colour. A
+/// filled button has an outline of its own colour and gets lighter or darker under the mouse.
 void PaintButton(QPainter& painter, const QStyleOption& option, bool filled) {
   constexpr qreal kRadius = 4;
   const bool pressed = option.state.testFlag(QStyle::State_Sunken);
@@ -53,7 +52,7 @@ void PaintButton(QPainter& painter, const QStyleOption& option, bool filled) {
   painter.restore();
 }
 
-/// A groove in which the handle stands out.
+/// A groove with a handle that contrasts with it.
 void PaintScrollBar(QPainter& painter, const QStyleOptionSlider& option, const QRect& slider) {
   constexpr qreal kMargin = 3.5;
   const theme::Shades& shades = theme::ShadesOf(option.palette);
@@ -98,7 +97,7 @@ void Style::polish(QPalette& palette) {
 
 void Style::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
-  // Some desktops lay their own font over the program's, which the grid has no room for.
+  // Some desktops replace the program's font by their own, which the grid has no room for.
   if (widget->isWindow()) widget->setFont(theme::Font(theme::kFontPixels));
   // Some desktops have colours of their own for tips, which bypass the palette.
   if (widget->inherits("QTipLabel")) widget->setPalette(QPalette());
@@ -169,7 +168,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* result) const {
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
-  // At the end of a selection it would be painted in the selection's complement.
+  // The caret at the end of a selection would be painted in its complementary colour.
   if (hint == SH_BlinkCursorWhenTextSelected) return 0;
   return QProxyStyle::styleHint(hint, option, widget, result);
 }
@@ -179,7 +178,7 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option,
   const QPalette colors = widget == nullptr ? QGuiApplication::palette() : widget->palette();
   QIcon own = DialogIcon(icon, theme::ShadesOf(colors));
   if (!own.isNull()) return own;
-  // Every menu bar asks for it, for the case that it is too narrow, which ours is not.
+  // Every menu bar asks for it in case it is too narrow, which ours is not.
   if (icon == SP_ToolBarHorizontalExtensionButton) return {};
   return QProxyStyle::standardIcon(icon, option, widget);
 }

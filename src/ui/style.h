@@ -3,7 +3,19 @@
 #include <QPalette>
 #include <QProxyStyle>
 
+class QPainter;
+
 namespace morlek {
+
+/// A line edit that paints its own panel where the style would paint one, so that the style does
+/// not depend on the widgets that use it.
+class OwnPanel {
+ public:
+  virtual ~OwnPanel() = default;
+
+  /// Paints frame and background of the widget in its current state.
+  virtual void PaintPanel(QPainter& painter) const = 0;
+};
 
 /// Fusion in the program's own shades, with flat buttons, one sheet of grid boxes, plain scroll
 /// bars and menu bar, and icons in one style.
@@ -11,8 +23,8 @@ class Style : public QProxyStyle {
  public:
   Style();
 
-  /// Puts our shades in the place of the desktop's, dark ones for dark ones. The toolkit asks again
-  /// when the desktop changes.
+  /// Replaces the desktop's colours by our light or dark shades. The toolkit calls this again when
+  /// the desktop changes.
   void polish(QPalette& palette) override;
   void polish(QWidget* widget) override;
   using QProxyStyle::polish;

@@ -25,11 +25,11 @@ struct Shades {
   QColor hover_ring;
   QColor focus_row;
   QColor stance_row;
-  QColor unkept_mark;
+  QColor lossy_mark;
   QColor critical;
   QColor tip;
   QColor tip_text;
-  // Pictures are painted for a light background, which they keep in the dark.
+  // Pictures are painted for a light background, which they keep in a dark window.
   QColor tile;
   QColor tile_text;
   QColor tile_faint_text;
@@ -54,7 +54,7 @@ inline constexpr Shades kLight{
     .hover_ring = {0x50, 0x7f, 0xd2},
     .focus_row = {0xee, 0xf4, 0xff},
     .stance_row = {0xff, 0xf5, 0xdb},
-    .unkept_mark = {0xd3, 0x2f, 0x2f},
+    .lossy_mark = {0xd3, 0x2f, 0x2f},
     .critical = {0xc6, 0x28, 0x28},
     .tip = {0x1b, 0x22, 0x2d},
     .tip_text = {0xff, 0xff, 0xff},
@@ -82,7 +82,7 @@ inline constexpr Shades kDark{
     .hover_ring = {0x6a, 0x93, 0xdc},
     .focus_row = {0x26, 0x36, 0x5a},
     .stance_row = {0x45, 0x3b, 0x1d},
-    .unkept_mark = {0xff, 0x6b, 0x64},
+    .lossy_mark = {0xff, 0x6b, 0x64},
     .critical = {0xd0, 0x33, 0x2f},
     .tip = {0x3d, 0x48, 0x58},
     .tip_text = {0xf2, 0xf5, 0xf9},
@@ -100,8 +100,8 @@ inline constexpr Shades kDark{
 /// The shades as the colours of every part of every window, dialogs and menus included.
 [[nodiscard]] QPalette PaletteOf(const Shades& shades);
 
-/// Makes the embedded font known to the program; call once, before Font. Should that fail, texts
-/// stand in a font of the system.
+/// Makes the embedded font known to the program; call once, before Font. If that fails, texts are
+/// shown in a font of the system.
 void LoadFonts();
 
 /// The size of texts that have no reason for another, in logical pixels.

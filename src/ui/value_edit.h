@@ -7,7 +7,8 @@ namespace morlek {
 
 /// A line edit that holds one value and is visited: receiving the focus begins a visit and selects
 /// the whole text, so that typing replaces it. A short absence, to a menu or another window, ends
-/// no visit and keeps the selection.
+/// no visit and keeps the selection. What is typed, pasted or dropped loses its line breaks; those
+/// that the program itself has put there stay when the text around them is edited.
 class ValueEdit : public QLineEdit {
   Q_OBJECT
 
@@ -18,10 +19,10 @@ class ValueEdit : public QLineEdit {
   /// after a visit.
   void ShowText(const QString& text);
 
-  /// What the box holds now is what TakeBack gives back, as if the box were entered now.
+  /// Begins a new visit: TakeBack restores what the box holds now.
   void BeginVisit();
 
-  /// Gives back the text that the visit found, selected.
+  /// Restores the text that the box held when the visit began, and selects it.
   void TakeBack();
 
   /// Selects the whole text if the box has the focus, or for the return of the focus from a menu or
@@ -33,14 +34,14 @@ class ValueEdit : public QLineEdit {
   /// or the box was clicked while it had the focus.
   void Visited();
 
-  /// The focus came likewise: what is typed from now on belongs to a new visit.
+  /// The focus came in one of these ways, without a click: a new visit begins.
   void Entered();
 
-  /// The focus went for good.
+  /// The visit ended: the focus went elsewhere in the window.
   void Left();
 
  protected:
-  /// True from the mouse press that gave the focus up to its release: neither may drop the
+  /// True from the mouse press that gave the focus until its release: neither may clear the
   /// selection.
   [[nodiscard]] bool is_swallowing_press() const { return is_swallowing_press_; }
 
@@ -58,6 +59,13 @@ class ValueEdit : public QLineEdit {
     int length = 0;
   };
 
+  void FilterLineBreaks();
+  void NoteText();
+  void NoteStart();
+
+  // The text after the last change, and where the next insertion would begin.
+  QString text_before_;
+  int start_ = 0;
   QString entry_text_;
   bool is_swallowing_press_ = false;
   // While the focus is away in a menu or another window: what to select when it returns.

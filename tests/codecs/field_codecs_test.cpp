@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "codecs/appearance_codec.h"
-#include "codecs/batting_average_codec.h"
-#include "codecs/earned_run_average_codec.h"
+#include "codecs/average_codec.h"
 #include "codecs/fielding_position_codec.h"
 #include "codecs/hand_codec.h"
 #include "codecs/name_letter_codec.h"
@@ -53,7 +52,7 @@ TEST(FieldCodecs, RepeatTheirResultForTextsThatTheyDoNotKnow) {
 
 TEST(AppearanceCodec, FindsTheSkinClassOfEveryCodeAndKeepsItForOthers) {
   AppearanceCodec codec;
-  EXPECT_EQ(codec.skin_class().text(), "");
+  EXPECT_EQ(codec.skin_class(), "");
   for (const char high : std::string("0123456789ABCDEF")) {
     for (const char low : std::string("0123456789ABCDEF")) {
       std::string expected = high == '2' || high == '3' ? "0" : "3";
@@ -61,13 +60,13 @@ TEST(AppearanceCodec, FindsTheSkinClassOfEveryCodeAndKeepsItForOthers) {
       const bool has_class = high <= '5' && low <= '5' && !(high == '1' && low == '5');
       if (has_class) expected = high <= '1' ? "0" : high <= '3' ? "3" : "5";
       (void)codec.NormalizeAppearanceCode(std::string{high, low});
-      EXPECT_EQ(codec.skin_class().text(), expected) << high << low;
+      EXPECT_EQ(codec.skin_class(), expected) << high << low;
     }
   }
   (void)codec.NormalizeAppearanceCode("5");
   for (const char* text : {"", "6", "A", "405", "0 "}) {
     (void)codec.NormalizeAppearanceCode(text);
-    EXPECT_EQ(codec.skin_class().text(), "0") << text;
+    EXPECT_EQ(codec.skin_class(), "0") << text;
   }
 }
 

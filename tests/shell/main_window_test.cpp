@@ -3,8 +3,8 @@
 #include <QScrollBar>
 #include <QWindow>
 
+#include "shell/splash_window.h"
 #include "shell/window_fixture.h"
-#include "ui/window_place.h"
 
 namespace morlek {
 namespace {

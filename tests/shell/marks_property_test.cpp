@@ -64,7 +64,7 @@ class MarksPropertyTest : public RandomWindowTest {
   }
   /// What a load after SAVE shows by what is said.
   [[nodiscard]] QString Said(int place) const {
-    if (tips[place].is_unkept()) return tips[place].after;
+    if (tips[place].is_lossy()) return tips[place].after;
     return texts[place] == held[place] ? held[place] : Essence(place, texts[place]);
   }
   /// Shown by more than one byte, of which the image may have taken a part.
@@ -168,8 +168,8 @@ void MarksPropertyTest::ReadEveryMark() {
     const bool is_name = ColumnOf(place) == 1;
     if (is_name && too_long.isEmpty() && texts[place].size() > 10) {
       too_long = boxes[place]->accessibleName().section(", ", 1);
-      EXPECT_TRUE(said.save == kEnds || !said.is_unkept()) << Where(place);
-    } else if (said.is_unkept()) {
+      EXPECT_TRUE(said.save == kEnds || !said.is_lossy()) << Where(place);
+    } else if (said.is_lossy()) {
       EXPECT_EQ(said.save == kNotReached, !too_long.isEmpty()) << Where(place);
       EXPECT_EQ(said.too_long, too_long) << Where(place);
       EXPECT_NE(said.save, kEnds) << Where(place);
@@ -179,13 +179,13 @@ void MarksPropertyTest::ReadEveryMark() {
     // Nothing is marked that stays.
     const bool is_lost = texts[place] == held[place] ? said.after != texts[place]
                                                      : !IsSame(place, said.after, texts[place]);
-    EXPECT_TRUE(is_lost || !said.is_unkept()) << Where(place);
-    const bool is_told = said.is_unkept() && said.after == held[place];
+    EXPECT_TRUE(is_lost || !said.is_lossy()) << Where(place);
+    const bool is_told = said.is_lossy() && said.after == held[place];
     EXPECT_EQ(said.is_held_already, is_told && said.save == kStores) << Where(place);
     EXPECT_EQ(said.held, IsUnsaved(place) && !is_told ? std::optional(held[place]) : std::nullopt)
         << Where(place);
     counted.unsaved += IsUnsaved(place) ? 1 : 0;
-    counted.unkept += said.is_unkept() ? 1 : 0;
+    counted.lossy += said.is_lossy() ? 1 : 0;
   }
   const auto& foot = Find<QLabel>("labelStatus");
   EXPECT_EQ(ReadSummary(foot.accessibleDescription()), counted);
@@ -204,7 +204,7 @@ void MarksPropertyTest::WalkByKeys() {
   };
   QList<int> marked;
   for (int place = 0; place < kCells; ++place) {
-    if (tips[place].is_unkept()) marked << place;
+    if (tips[place].is_lossy()) marked << place;
   }
   std::ranges::sort(marked, {}, where);
   Find("Command1").setFocus();
@@ -269,7 +269,7 @@ void MarksPropertyTest::SaveIntoAnotherRecord() {
   for (int place = 0; place < kCells; ++place) {
     const SpokenTip& said = tips[place];
     const bool is_skipped = said.save == SpokenTip::Save::kSkips;
-    if (!said.is_unkept() || (HasSeveralBytes(place) && !is_skipped)) continue;
+    if (!said.is_lossy() || (HasSeveralBytes(place) && !is_skipped)) continue;
     const bool is_stored = said.save == SpokenTip::Save::kStores;
     EXPECT_EQ(now[place], is_stored ? said.after : boxes[place]->text()) << Where(place);
   }
@@ -309,7 +309,7 @@ void MarksPropertyTest::LoadAlone() {
     if (said.held) {
       EXPECT_TRUE(said.held == held[place] || HasSeveralBytes(place)) << Where(place);
     } else {
-      EXPECT_TRUE(!IsUnsaved(place) || (said.is_unkept() && said.after == held[place]))
+      EXPECT_TRUE(!IsUnsaved(place) || (said.is_lossy() && said.after == held[place]))
           << "counted as saved: " << Where(place);
     }
   }

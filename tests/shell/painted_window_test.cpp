@@ -57,7 +57,7 @@ TEST(ShadesTest, EveryTextCanBeReadAndEveryLineThatTellsSomethingBeSeen) {
       {"ring of the focus", &S::accent, {&S::base, &S::focus_row, &S::stance_row}, kPlain},
       {"ring of a picked team or picture", &S::accent, {&S::window, &S::hover}, kPlain},
       {"ring under the pointer", &S::hover_ring, {&S::window, &S::hover}, kPlain},
-      {"red corner", &S::unkept_mark, boxes, kPlain},
+      {"red corner", &S::lossy_mark, boxes, kPlain},
       {"handle of a scroll bar", &S::faint_text, {&S::header_band}, kPlain},
       {"SAVE itself", &S::fill, {&S::window}, kPlain}};
   for (const theme::Shades& shades : {theme::kLight, theme::kDark}) {

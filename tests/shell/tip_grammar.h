@@ -22,7 +22,7 @@ struct SpokenTip {
   // What the image holds now, where that is told.
   std::optional<QString> held;
 
-  [[nodiscard]] bool is_unkept() const { return save != Save::kKeeps; }
+  [[nodiscard]] bool is_lossy() const { return save != Save::kKeeps; }
 };
 
 /// Reads a text that a load has shown, as a tip quotes it.
@@ -67,7 +67,7 @@ inline SpokenTip ReadTip(const QString& tip) {
 /// What the line at the foot says behind the name of the image.
 struct SpokenSummary {
   int unsaved = 0;
-  int unkept = 0;
+  int lossy = 0;
   bool is_file_open = false;
 
   friend bool operator==(const SpokenSummary&, const SpokenSummary&) = default;
@@ -91,7 +91,7 @@ inline SpokenSummary ReadSummary(const QString& line) {
   const QRegularExpressionMatch match = grammar.match(WithoutNote(line));
   EXPECT_TRUE(match.hasMatch()) << "no such line: " << line.toStdString();
   return {.unsaved = (match.captured(2) + match.captured(3)).toInt(),
-          .unkept = (match.captured(4) + match.captured(5)).toInt(),
+          .lossy = (match.captured(4) + match.captured(5)).toInt(),
           .is_file_open = !match.captured(1).isEmpty()};
 }
 
