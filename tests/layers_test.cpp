@@ -1,13 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <optional>
+#include <regex>
 #include <set>
 #include <string>
-#include <string_view>
 
 namespace morlek {
 namespace {
@@ -36,45 +34,22 @@ const std::map<std::string, std::set<std::string>> kSpecial = {{"\"version.h\"",
                                                                {"<io.h>", {"cli"}},
                                                                {"<windows.h>", {"ui"}}};
 
-std::string_view AfterBlanks(std::string_view text) {
-  return text.substr(std::min(text.find_first_not_of(" \t"), text.size()));
-}
-
-/// The header that a line includes, between its quotes or brackets; empty when none follows,
-/// nothing when the line includes nothing.
-std::optional<std::string_view> Included(std::string_view line) {
-  constexpr std::string_view kInclude = "include";
-  std::string_view rest = AfterBlanks(line);
-  if (!rest.starts_with('#')) return std::nullopt;
-  rest = AfterBlanks(rest.substr(1));
-  if (!rest.starts_with(kInclude)) return std::nullopt;
-  rest = AfterBlanks(rest.substr(kInclude.size()));
-  return rest.substr(0, rest.find_first_of(">\"", 1) + 1);
-}
-
-bool IsMadeOf(std::string_view text, std::string_view characters) {
-  return !text.empty() && text.find_first_not_of(characters) == std::string_view::npos;
-}
-
 /// Whether a file in `layer` may contain `line`; lines that include nothing always may stand.
-bool MayStand(const std::string& layer, std::string_view line) {
-  const std::optional<std::string_view> header = Included(line);
-  if (!header) return true;
-  const auto special = kSpecial.find(std::string(*header));
+bool MayStand(const std::string& layer, const std::string& line) {
+  static const std::regex include(R"(\s*#\s*include\b\s*(["<][^">]*[">])?.*)");
+  static const std::regex system("<(Q[A-Za-z]+|[a-z_]+)>");
+  static const std::regex own("\"([a-z_]+)/[a-z_]+[.]h\"");
+  std::smatch match;
+  if (line.find('#') == std::string::npos || !std::regex_match(line, match, include)) return true;
+  const std::string header = match[1];
+  const auto special = kSpecial.find(header);
   if (special != kSpecial.end()) return special->second.contains(layer);
-  if (header->size() < 3) return false;
-  const std::string_view name = header->substr(1, header->size() - 2);
-  const std::string small_letters = "abcdefghijklmnopqrstuvwxyz";
-  if (header->starts_with('<') && header->ends_with('>')) {
-    const bool is_toolkit =
-        name.starts_with('Q') && IsMadeOf(name, small_letters + "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
-    return IsMadeOf(name, small_letters + "_") || (is_toolkit && kKnowsQt.contains(layer));
+  if (std::regex_match(header, match, system)) {
+    return header[1] != 'Q' || kKnowsQt.contains(layer);
   }
-  const fs::path file = name;
-  const std::string folder = file.parent_path().string();
-  return header->starts_with('"') && header->ends_with('"') &&
-         IsMadeOf(name, small_letters + "_/.") && file.extension() == ".h" &&
-         (folder == layer || kBelow.at(layer).contains(folder)) && exists(kSources / file);
+  return std::regex_match(header, match, own) &&
+         (match[1] == layer || kBelow.at(layer).contains(match[1])) &&
+         exists(kSources / header.substr(1, header.size() - 2));
 }
 
 TEST(Layers, EveryIncludeFollowsTheArrows) {

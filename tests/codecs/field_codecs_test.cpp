@@ -50,30 +50,6 @@ TEST(FieldCodecs, RepeatTheirResultForTextsThatTheyDoNotKnow) {
   EXPECT_EQ(earned_run.EncodeEarnedRunAverage("0.05").text, "5");
 }
 
-TEST(FieldCodecs, HighBytesOfAveragesComeFromComparingTexts) {
-  for (const char* text : {"", ".25", ".2549", "-", " .300", "\x01"}) {
-    EXPECT_EQ(BattingAverageCodec::HighByte(text), 0x30) << text;
-    EXPECT_EQ(EarnedRunAverageCodec::HighByte(text), 0x20) << text;
-  }
-  for (const char* text : {"2.550", "2.55 ", "2.6", "2/", "x", "\x80"}) {
-    EXPECT_EQ(BattingAverageCodec::HighByte(text), 0x31) << text;
-    EXPECT_EQ(EarnedRunAverageCodec::HighByte(text), 0x21) << text;
-  }
-  EXPECT_EQ(BattingAverageCodec::HighByte(".255 "), 0x31);
-  EXPECT_EQ(EarnedRunAverageCodec::HighByte("10.00"), 0x20);
-}
-
-TEST(AppearanceCodec, PadsASingleDecimalDigitAndNothingElse) {
-  AppearanceCodec codec;
-  for (const char* digit : {"0", "5", "9"}) {
-    EXPECT_EQ(codec.NormalizeAppearanceCode(digit), std::string("0") + digit);
-  }
-  for (const char* text :
-       {"", ".", "/", ":", "A", "F", "00", "05", "23", "1F", "1f", "7 ", " 7", "007", "x"}) {
-    EXPECT_EQ(codec.NormalizeAppearanceCode(text), text);
-  }
-}
-
 TEST(AppearanceCodec, FindsTheSkinClassOfEveryCodeAndKeepsItForOthers) {
   AppearanceCodec codec;
   EXPECT_EQ(codec.skin_class(), "");

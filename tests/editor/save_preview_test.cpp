@@ -1,8 +1,5 @@
 #include "team/save_preview.h"
 
-#include <random>
-
-#include "codecs/code_page.h"
 #include "editor/editor.h"
 #include "image/team_directory.h"
 #include "support/editor_fixture.h"
@@ -11,14 +8,6 @@ namespace morlek {
 namespace {
 
 using enum Column;
-using Fate = SavePreview::Fate;
-
-/// A cell, what becomes of it at SAVE, and what a load shows then.
-struct Outcome {
-  CellText cell;
-  Fate fate;
-  std::string after;
-};
 
 /// A whole editor over the image in memory.
 class SavePreviewTest : public TeamTest {
@@ -30,40 +19,8 @@ class SavePreviewTest : public TeamTest {
 
   void TypeInto(const CellText& text) { editor.Type(text.cell(), text.text); }
 
-  void ExpectOutcomes(const std::vector<Outcome>& outcomes) {
-    for (const Outcome& each : outcomes) TypeInto(each.cell);
-    const SavePreview preview = editor.Preview();
-    for (const Outcome& each : outcomes) {
-      EXPECT_EQ(preview.FateOf(each.cell.cell()), each.fate) << each.cell.text;
-      EXPECT_EQ(preview.TextAfter(each.cell.cell()), each.after) << each.cell.text;
-    }
-  }
-
   Editor editor{messages, disk.Opener()};
 };
-
-TEST_F(SavePreviewTest, SaysWhatBecomesOfTextsThatTheGameCannotHold) {
-  TypeInto({0, 2, "C"});
-  ExpectOutcomes({{{1, 1, "J.SM1TH"}, Fate::kStored, "J.SMMTH"},
-                  {{1, 2, "ZZ"}, Fate::kStored, "C"},
-                  {{1, 3, "300"}, Fate::kStored, "1"},
-                  {{1, 4, "X"}, Fate::kStored, "R"},
-                  {{1, 5, "12"}, Fate::kSkipped, "2"},
-                  {{1, 9, ".999"}, Fate::kStored, ".506"},
-                  {{1, 10, ""}, Fate::kSkipped, "31"},
-                  {{1, 12, "005"}, Fate::kStored, "5"},
-                  {{20, 4, "lS"}, Fate::kStored, "LS"}});
-  EXPECT_TRUE(messages.shown.empty());
-  EXPECT_TRUE(disk.writes.empty());
-}
-
-TEST_F(SavePreviewTest, ANameThatIsTooLongEndsIt) {
-  ExpectOutcomes({{{3, 3, "50"}, Fate::kStored, "50"},
-                  {{4, 1, "X.ABCDEFGHI"}, Fate::kEndsSave, "X.BE"},
-                  {{4, 3, "51"}, Fate::kNotReached, "5"},
-                  {{9, 1, "Y.OUNG"}, Fate::kNotReached, "Y.BJ"}});
-  EXPECT_EQ(editor.Preview().end_row(), 4);
-}
 
 TEST_F(SavePreviewTest, EveryTeamOfTheSampleIsKeptAsShownAndSavedAsItWas) {
   const std::vector<std::uint8_t> before = file() = MakeSampleImage();
@@ -75,16 +32,6 @@ TEST_F(SavePreviewTest, EveryTeamOfTheSampleIsKeptAsShownAndSavedAsItWas) {
     EXPECT_EQ(messages.Texts(), std::vector<std::string>{kSaved}) << team.key;
     messages.shown.clear();
   }
-}
-
-TEST_F(SavePreviewTest, WhatAnUntouchedSaveChangesIsMarked) {
-  Poke({{3, 11, 0x09}, {5, 2, 0x36}});
-  editor.LoadTeam("Braves");
-  ExpectOutcomes({{{3, 5, "1"}, Fate::kStored, "10"}, {{5, 1, "F.Bc"}, Fate::kStored, "F.BC"}});
-  const GridMarks& marks = editor.state().marks;
-  EXPECT_EQ(marks.modified_count(), 0);
-  EXPECT_EQ(marks.lossy_count(), 2);
-  EXPECT_TRUE(marks.At({kBatting, 3}).is_lossy && marks.At({kName, 5}).is_lossy);
 }
 
 TEST_F(SavePreviewTest, ACloseThatFailsLeavesTheMarks) {
@@ -112,54 +59,6 @@ TEST_F(SavePreviewTest, WhatTheDiskRefusesIsNotKnownToBeThere) {
   editor.Save();
   EXPECT_EQ(known(), "77");
   EXPECT_EQ(editor.Preview().after(), editor.state().grid);
-}
-
-/// The texts of sessions: good ones, odd ones, empty and far too long ones.
-std::string AnyText(std::mt19937& random) {
-  constexpr std::array kTexts = {"",      "7",       "12",       "05",   "201",      "300", "R",
-                                 "l",     "S",       "LS<",      "rs>",  "X",        "C",   "ss",
-                                 "ZZ",    ".300",    ".9",       ".999", "3.45",     "2.6", "10.0",
-                                 "A.B",   "J.SM1TH", "c.x",      ".",    "x",        "  ",  "1e2",
-                                 " &H5 ", "-1",      "FFFF0003", "1F",   "O'NEIL.JR"};
-  if (random() % 40 == 0) return "TOO.LONG.NAME";
-  return kTexts.at(random() % kTexts.size());
-}
-
-TEST_F(SavePreviewTest, AgreesWithARealSaveAndLoadInRandomSessions) {
-  std::mt19937 random(11);
-  for (int session = 0; session < 300; ++session) {
-    const Team& team = kTeamDirectory.at(random() % 28);
-    for (int byte = 0; byte < 20; ++byte) {
-      // Bytes that no decoder knows, but for ratings, which would end the load.
-      const int offset = static_cast<int>(random() % 32);
-      if (offset == offset::kFirstRatings || offset == offset::kSecondRatings) continue;
-      Poke({{static_cast<int>(random() % 25), offset, static_cast<int>(random() % 256)}},
-           team.base);
-    }
-    editor.LoadTeam(team.key);
-    for (int round = 0; round < 3; ++round) {
-      for (auto edit = random() % 30; edit > 0; --edit) {
-        editor.Type(kAllCells.at(random() % kCellCount), AnyText(random));
-      }
-      const SavePreview preview = editor.Preview();
-      const GridMarks marks = editor.state().marks;
-      const RosterGrid typed = editor.state().grid;
-      editor.Save();
-      if (random() % 2 == 0) continue;
-      editor.LoadTeam(team.key);
-      for (const Cell cell : kAllCells) {
-        ASSERT_EQ(editor.state().grid.Text(cell), preview.TextAfter(cell))
-            << "session " << session << " row " << cell.row;
-        const CellMark& mark = marks.At(cell);
-        if (mark.is_lossy) {
-          ASSERT_EQ(mark.after, preview.TextAfter(cell));
-          ASSERT_NE(mark.after, typed.Text(cell));
-        } else if (!IsFeature(cell.column)) {
-          ASSERT_EQ(UpperCase(preview.TextAfter(cell)), UpperCase(typed.Text(cell)));
-        }
-      }
-    }
-  }
 }
 
 }  // namespace

@@ -65,25 +65,5 @@ TEST_F(ChannelTest, ServesOneFileInOneModeAtATime) {
   EXPECT_FALSE(std::filesystem::exists(dir / "new"));
 }
 
-TEST_F(ChannelTest, ReadsTextCharacterByCharacter) {
-  const std::string text("a\r\nb\x1A\0\n\xFF", 8);
-  PutFile(path, text);
-  ASSERT_TRUE(channel.OpenTextInput(path));
-  for (const char character : text) {
-    EXPECT_EQ(channel.PeekCharacter(), character);
-    EXPECT_EQ(channel.ReadCharacter(), character);
-  }
-  EXPECT_EQ(channel.PeekCharacter(), std::nullopt);
-  EXPECT_EQ(channel.ReadCharacter(), std::nullopt);
-}
-
-TEST_F(ChannelTest, WritesLinesWithCarriageReturnAndLineFeedAtOnce) {
-  ASSERT_TRUE(channel.OpenTextOutput(path));
-  EXPECT_EQ(GetFile(path), "");
-  channel.WriteLine("one\x80,");
-  channel.WriteLine("");
-  EXPECT_EQ(GetFile(path), "one\x80,\r\n\r\n");
-}
-
 }  // namespace
 }  // namespace morlek

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
 #include <map>
 #include <string>
 #include <vector>
@@ -29,18 +27,6 @@ TEST(TeamDirectory, LeaguesLieInTwoContiguousBlocks) {
       EXPECT_EQ(FindTeam(key)->base, base) << key;
       base += 800;
     }
-  }
-}
-
-TEST(TeamDirectory, IsInTheOrderOfTheCitiesAndNamesTheClubs) {
-  std::string city_before;
-  for (const Team& team : kTeamDirectory) {
-    std::string club = " " + std::string(team.key);
-    std::ranges::transform(club, club.begin(), [](unsigned char c) { return std::toupper(c); });
-    ASSERT_TRUE(team.display_name.ends_with(club)) << team.key;
-    const std::string city(team.display_name.substr(0, team.display_name.size() - club.size()));
-    EXPECT_LE(city_before, city) << team.key;
-    city_before = city;
   }
 }
 

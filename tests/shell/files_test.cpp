@@ -1,8 +1,6 @@
 #include <QAbstractButton>
 #include <QMenuBar>
 
-#include "image/record_layout.h"
-#include "image/team_directory.h"
 #include "shell/code_page_text.h"
 #include "shell/window_fixture.h"
 
@@ -12,16 +10,7 @@ namespace {
 constexpr char kTeamDataFilter[] = "Morlek Team Data File (*.txt)|*.txt";
 
 /// What is opened, saved, exported and imported.
-class FilesTest : public WindowTest {
- protected:
-  /// What a dialog may answer that cannot be opened.
-  const std::vector<std::optional<QString>> unopenable = {std::nullopt, PathOf("missing"),
-                                                          PathOf(".")};
-
-  [[nodiscard]] bool IsOpenFileTold() const {
-    return LabelText("labelStatus").contains("a file is still open and blocks SAVE");
-  }
-};
+using FilesTest = WindowTest;
 
 TEST_F(FilesTest, TheFirstImageIsAskedForOnceAndBeforeAnyCommand) {
   MakeWindow();
@@ -57,34 +46,6 @@ TEST_F(FilesTest, WithoutAFirstImageALaterOneIsTaken) {
   EXPECT_TRUE(user.messages.empty());
   Click("Braves");
   EXPECT_TRUE(IsShown("Frame1"));
-}
-
-TEST_F(FilesTest, AWrongOrUnreadableFileLaterChangesNothingAndAnotherImageHidesTheGrid) {
-  StartWithTeam();
-  const std::vector<QString> texts = GridTexts();
-  std::vector<std::uint8_t> wrong = Sample();
-  wrong.at(988296) = 0xC3;
-  PutFile(folder / "wrong.smc", wrong);
-  ChooseWith("mnuOpen", PathOf("wrong.smc"));
-  ExpectTold("This is not a Dale Harrow Baseball SNES rom.", "Morlek Editor");
-  EXPECT_EQ(LabelText("Label3"), "C3");
-  for (const auto& answer : unopenable) ChooseWith("mnuOpen", answer);
-  EXPECT_TRUE(user.messages.empty());
-  EXPECT_EQ(GridTexts(), texts);
-  EXPECT_TRUE(IsShown("Frame1"));
-  // The image is still the first one.
-  TypeInto(3, 0, "24");
-  Click("Command1");
-  ExpectTold("Your changes have been saved.");
-  EXPECT_EQ(ChangedPositions(), std::vector<std::size_t>{kBraves + 10});
-  Press(Qt::Key_S, Qt::ControlModifier);
-  ExpectTold("Your changes have been saved.");
-
-  Box(12, 3).setFocus();
-  ChooseWith("mnuOpen", ImagePath());
-  EXPECT_FALSE(IsShown("Frame1"));
-  EXPECT_EQ(window->width(), 447);
-  EXPECT_EQ(Box(3, 0).text(), "24");
 }
 
 TEST_F(FilesTest, TeamThatCannotBeLoadedIsReportedAndKeysDoNotReachTheHiddenGrid) {
@@ -140,46 +101,23 @@ TEST_F(FilesTest, EveryCharacterThatABoxCanHoldComesBackFromATeamFile) {
   EXPECT_EQ(GridTexts(), before);
 }
 
-TEST_F(FilesTest, FailedExportsAndImportsAreSilentAndACancelFreesAShortFile) {
+TEST_F(FilesTest, WhatCannotBeOpenedIsSilentAndACancelFreesAShortFile) {
   StartWithTeam();
   const std::vector<QString> before = GridTexts();
-  for (const auto& answer : unopenable) ChooseWith("mnuImport", answer);
+  for (const auto& answer : {PathOf("missing"), PathOf(".")}) {
+    ChooseWith("mnuImport", answer);
+    ChooseWith("mnuOpen", answer);
+  }
   ChooseWith("mnuExport", PathOf("no folder/team.txt"));
   EXPECT_EQ(GridTexts(), before);
-
   PutFile(folder / "short.txt", std::string("A.B,P,\r\n"));
   for (const char* cancelled : {"mnuOpen", "mnuImport", "mnuExport"}) {
     ChooseWith("mnuImport", PathOf("short.txt"));
     EXPECT_EQ(Box(1, 0).text(), "A.B");
-    // While it is held no other file is made.
-    ChooseWith("mnuExport", PathOf("new.txt"));
-    EXPECT_FALSE(std::filesystem::exists(folder / "new.txt"));
     ChooseWith(cancelled, std::nullopt);
     Click("Braves");
     EXPECT_TRUE(user.messages.empty()) << cancelled;
-    EXPECT_EQ(GridTexts(), before);
   }
-}
-
-TEST_F(FilesTest, AFileLeftOpenIsToldAtTheFootUntilALoadClosesIt) {
-  StartWithTeam();
-  PutFile(folder / "short.txt", std::string("A.B,P,\r\n"));
-  std::vector<bool> told_behind;
-  user.while_told = [&] { told_behind.push_back(IsOpenFileTold()); };
-  ChooseWith("mnuImport", PathOf("short.txt"));
-  EXPECT_TRUE(IsOpenFileTold());
-  Click("Mets");
-  EXPECT_EQ(told_behind, std::vector<bool>{false});
-  EXPECT_FALSE(IsOpenFileTold());
-
-  // A rating that ends the load, whose file is then still open, but will not stay so.
-  std::vector<std::uint8_t> image = Sample();
-  image.at(static_cast<std::size_t>(FindTeam("Mets")->base - 1 + offset::kFirstRatings)) = 0xAB;
-  PutFile(ImageFile(), image);
-  Click("Braves");
-  told_behind.clear();
-  Click("Mets");
-  EXPECT_EQ(told_behind, std::vector<bool>{false});
 }
 
 }  // namespace

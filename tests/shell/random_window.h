@@ -49,10 +49,10 @@ class RandomWindowTest : public WindowTest {
     }
   }
 
-  /// Shows the window anew with a team of this image.
-  void StartRound(const char* key, const std::vector<std::uint8_t>& image) {
+  /// Shows the window anew over this image and answers its first dialog.
+  void StartRound(const std::optional<QString>& answer, const std::vector<std::uint8_t>& image) {
     PutFile(ImageFile(), image);
-    StartWithTeam(key);
+    Start(answer);
     boxes.clear();
     for (int place = 0; place < kCells; ++place) {
       boxes.push_back(&Box(ColumnOf(place), RowOf(place)));
@@ -112,7 +112,8 @@ class RandomWindowTest : public WindowTest {
     }
     Note("paste at " + boxes[place]->objectName() + " " + lines.join('\n'));
     PasteInto(ColumnOf(place), RowOf(place), lines.join('\n'));
-    EXPECT_EQ(boxes[place]->text(), lines[0].section('\t', 0, 0));
+    // An average gets the form of its column.
+    if (ColumnOf(place) != 9) EXPECT_EQ(boxes[place]->text(), lines[0].section('\t', 0, 0));
   }
 
   /// Imports a new team file; true for one that is too short, which is still open then.

@@ -1,6 +1,5 @@
 #include <QAbstractButton>
 #include <QAccessible>
-#include <QBitmap>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -17,33 +16,12 @@ constexpr char kMenuKeys[] =
     "mnuOpen Ctrl+O, mnuQuit Ctrl+Q, mnuImport Ctrl+I, mnuExport Ctrl+E, mnuMini Ctrl+M, "
     "mnuAlwaysOnTop Ctrl+T, mnuNotTop Ctrl+N, mnuMorlekHELP Ctrl+H, mnuAboutMorlek Ctrl+A";
 
-// Tool tip and letters of each badge, in two rows of fourteen.
+// The tool tips of the badges, in two rows of fourteen.
 constexpr char kTeamButtons[] =
-    "Braves ATL, Orioles BAL, Red Sox BOS, Angels CAL, White Sox CWS, Cubs CHC, Reds CIN, "
-    "Indians CLE, Rockies COL, Tigers DET, Marlins FLA, Astros HOU, Royals KC, Dodgers LA, "
-    "Brewers MIL, Twins MIN, Expos MON, Yankees NYY, Mets NYM, Athletics OAK, Phillies PHI, "
-    "Pirates PIT, Padres SD, Giants SF, Mariners SEA, Cardinals STL, Rangers TEX, Blue Jays TOR";
-
+    "Braves, Orioles, Red Sox, Angels, White Sox, Cubs, Reds, Indians, Rockies, Tigers, Marlins, "
+    "Astros, Royals, Dodgers, Brewers, Twins, Expos, Yankees, Mets, Athletics, Phillies, Pirates, "
+    "Padres, Giants, Mariners, Cardinals, Rangers, Blue Jays";
 // clang-format on
-
-/// Where a picture is white, stretched to one size.
-QRegion WhiteShapeOf(const QPixmap& picture) {
-  const QBitmap white = picture.createMaskFromColor(Qt::white, Qt::MaskOutColor);
-  const QPixmap shape = white.copy(QRegion(white).boundingRect()).scaled(120, 60);
-  const QRegion region(QBitmap::fromPixmap(shape));
-  return region;
-}
-
-/// Whether the white letters on a badge are these.
-bool ReadsAs(const QPixmap& badge, const QString& letters) {
-  QLabel written(letters);
-  written.setStyleSheet("font: bold 100px; color: white; background: black");
-  int different = 0;
-  for (const QRect& part : WhiteShapeOf(badge).xored(WhiteShapeOf(written.grab()))) {
-    different += part.width() * part.height();
-  }
-  return different < 120 * 60 / 20;
-}
 
 class WindowContentsTest : public WindowTest {
  protected:
@@ -57,11 +35,14 @@ class WindowContentsTest : public WindowTest {
     QStringList bad = {"ZZ"};
     if (const auto match = range.match(accepted); match.hasMatch()) {
       const int base = match.hasCaptured(3) ? 16 : 10;
-      const QString last = match.captured(2);
-      QString beyond = QString::number(QString(last).remove('.').toInt(nullptr, base) + 1, base);
-      if (last.contains('.')) beyond.insert(last.indexOf('.'), '.');
-      good << match.captured(1) << last;
-      bad << beyond << (match.captured(1) == "1" ? "0" : "-1");
+      const auto beside = [base](QString edge, int more) {
+        const auto point = edge.indexOf('.');
+        const int number = edge.remove('.').toInt(nullptr, base) + more;
+        return point < 0 || number < 0 ? QString::number(number, base)
+                                       : QString::number(number).insert(point, '.');
+      };
+      good << match.captured(1) << match.captured(2);
+      bad << beside(match.captured(1), -1) << beside(match.captured(2), +1);
     } else if (const auto letters = name.match(accepted); letters.hasMatch()) {
       const QString most = QString("LMNOPQRSTUV").left(letters.captured(1).toInt());
       good << "Q." + most << "A.Z";
@@ -105,7 +86,7 @@ TEST_F(WindowContentsTest, TeamButtons) {
   const QWidget& toolbar = Find("Toolbar1");
   const QStringList buttons = QString(kTeamButtons).split(", ");
   for (int place = 0; place < buttons.size(); ++place) {
-    const QString team = buttons[place].section(' ', 0, -2);
+    const QString& team = buttons[place];
     const QPoint middle((2 * (place % 14) + 1) * toolbar.width() / 28,
                         (2 * (place / 14) + 1) * toolbar.height() / 4);
     auto* button = qobject_cast<QAbstractButton*>(toolbar.childAt(middle));
@@ -114,9 +95,6 @@ TEST_F(WindowContentsTest, TeamButtons) {
     EXPECT_EQ(button->visibleRegion(), button->rect()) << team.toStdString();
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_TRUE(LabelText("Label4(0)").endsWith(team.toUpper())) << team.toStdString();
-    // Without the stripe below the letters, which can be white too.
-    const QPixmap badge = button->icon().pixmap({270, 190}, 1).copy(0, 0, 270, 155);
-    EXPECT_TRUE(ReadsAs(badge, buttons[place].section(' ', -1))) << team.toStdString();
   }
 }
 
@@ -142,7 +120,6 @@ TEST_F(WindowContentsTest, ColumnHeadsAndTheBoxesBelow) {
 
 TEST_F(WindowContentsTest, NamesHintsAndTips) {
   Start(std::nullopt);
-  EXPECT_EQ(LabelText("labelHint"), "Open a ROM with Ctrl+O");
   user.paths = {ImagePath()};
   Click("labelHint");
   EXPECT_TRUE(IsShown("Toolbar1"));
@@ -152,17 +129,9 @@ TEST_F(WindowContentsTest, NamesHintsAndTips) {
   EXPECT_EQ(Find("Label1").toolTip(),
             "This will edit the skin color and facial features of a player but not hair color. "
             "Click to make selection.");
-  for (int times = 0; times < 2; ++times) {
-    ChooseWith("mnuOpen", ImagePath());
-    EXPECT_EQ(LabelText("labelHint"), "Pick a team above, or press Ctrl+Page Down");
-    EXPECT_TRUE(IsShown("labelHint"));
-    Click("Cubs");
-    EXPECT_FALSE(IsShown("labelHint"));
-  }
   EXPECT_EQ(Box(9, 14).accessibleName(), "batting average, batter 15");
   EXPECT_EQ(Box(9, 15).accessibleName(), "earned run average, pitcher 1");
   EXPECT_EQ(Find("Picture3(13)").accessibleName(), "legs 10");
-  EXPECT_EQ(Find("StanceView").accessibleDescription(), Box(1, 0).text());
 }
 
 TEST_F(WindowContentsTest, EveryControlHasANameAndARole) {

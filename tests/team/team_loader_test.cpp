@@ -38,44 +38,11 @@ TEST_F(TeamLoaderTest, BytesPastTheEndOfAShortImageShowAsZero) {
   ExpectShown({{24, 5, "1"}, {24, 7, "1"}, {24, 9, "2.80"}, {24, 11, "0"}, {24, 12, "0"}});
 }
 
-TEST_F(TeamLoaderTest, AnOpenChannelOrAMissingImageStopsItBeforeAnythingChanges) {
-  Load("Braves");
-  const RosterGrid before = grid;
-  const auto expect_nothing_done = [&] {
-    Load("Orioles");
-    EXPECT_EQ(load.outcome, LoadResult::Outcome::kNotOpened);
-    EXPECT_EQ(grid, before);
-    EXPECT_TRUE(disk.reads.empty());
-  };
-  ASSERT_TRUE(channel.OpenTextInput(kImage));
-  expect_nothing_done();
-  EXPECT_TRUE(channel.is_open());
-  channel.Close();
-  disk.files.clear();
-  expect_nothing_done();
-  EXPECT_FALSE(channel.is_open());
-  EXPECT_TRUE(disk.files.empty());
-}
-
 TEST_F(TeamLoaderTest, WithoutATeamNothingIsRead) {
   load = LoadTeam(image, location, codec_state, grid);
   EXPECT_EQ(load.outcome, LoadResult::Outcome::kEndedEarly);
   EXPECT_TRUE(disk.reads.empty());
   EXPECT_TRUE(channel.is_open());
-}
-
-TEST_F(TeamLoaderTest, ARatingThatIsALetterEndsTheLoadAndIsReportedWithItsPlace) {
-  for (const auto& [letter, place] : std::vector<std::pair<FieldByte, std::string>>{
-           {{3, 11, 0x2A}, "slot 3 (batter 4)"}, {{20, 12, 0xE1}, "slot 20 (pitcher 6)"}}) {
-    Poke({letter});
-    Load("Braves");
-    EXPECT_EQ(load.outcome, LoadResult::Outcome::kEndedEarly);
-    EXPECT_NE(load.failure.find(place), std::string::npos) << load.failure;
-    EXPECT_EQ(disk.reads.back().position, kBraves + 32 * letter.row + letter.offset);
-    EXPECT_TRUE(channel.is_open());
-    channel.Close();
-    Poke({{letter.row, letter.offset, 0x11}});
-  }
 }
 
 /// Bytes of the Braves' record, and of the Orioles' where that team is loaded first.

@@ -60,17 +60,6 @@ TEST_F(TeamSaverTest, EmptyTextsWriteTheSFlagsAlone) {
   EXPECT_EQ(listener.heard.size(), 25U) << "an unknown letter a name";
 }
 
-TEST_F(TeamSaverTest, NothingIsWrittenWithoutATeamOrAnImage) {
-  Type({{0, 3, "77"}});
-  for (const char* path : {"", "missing"}) {
-    location.image = path;
-    ExpectNothingWritten();
-  }
-  EXPECT_FALSE(disk.files.contains("missing"));
-  location = {kImage, std::nullopt};
-  ExpectNothingWritten();
-}
-
 TEST_F(TeamSaverTest, AStuckChannelIsClosedAndItsFileUntouched) {
   Type({{0, 3, "77"}, {24, 2, "SS"}});
   disk.files["stuck"] = file();

@@ -78,17 +78,5 @@ TEST_F(TeamDataFileTest, TheFieldsOfEveryLineGoIntoItsRow) {
   }
 }
 
-TEST_F(TeamDataFileTest, AShortFileFillsWhatItHasAndLeavesTheChannelOpen) {
-  for (const std::string end : {"", "\r", "\r\n"}) {
-    FillGrid();
-    Import("A,\r\nB," + end);
-    EXPECT_EQ(imported.outcome, ImportResult::Outcome::kEndedEarly);
-    EXPECT_EQ(imported.lines, 2);
-    ExpectShown({{1, 1, "B"}, {1, 2, ""}, {2, 1, ""}, {24, 14, ""}});
-    EXPECT_TRUE(channel.is_open());
-    channel.Close();
-  }
-}
-
 }  // namespace
 }  // namespace morlek
