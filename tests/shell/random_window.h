@@ -113,7 +113,9 @@ class RandomWindowTest : public WindowTest {
     Note("paste at " + boxes[place]->objectName() + " " + lines.join('\n'));
     PasteInto(ColumnOf(place), RowOf(place), lines.join('\n'));
     // An average gets the form of its column.
-    if (ColumnOf(place) != 9) EXPECT_EQ(boxes[place]->text(), lines[0].section('\t', 0, 0));
+    if (ColumnOf(place) != 9) {
+      EXPECT_EQ(boxes[place]->text(), lines[0].section('\t', 0, 0));
+    }
   }
 
   /// Imports a new team file; true for one that is too short, which is still open then.
