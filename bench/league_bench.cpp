@@ -61,6 +61,7 @@ void RunLeague(benchmark::State& state, const std::vector<std::string>& argument
 /// A process from its start to its end; what it prints goes nowhere.
 void RunProcess(benchmark::State& state, std::vector<std::string> arguments) {
   std::vector<char*> texts;
+  texts.reserve(arguments.size() + 1);
   for (std::string& each : arguments) texts.push_back(each.data());
   texts.push_back(nullptr);
   posix_spawn_file_actions_t actions;

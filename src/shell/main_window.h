@@ -26,8 +26,6 @@ class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  Q_DISABLE_COPY_MOVE(MainWindow)
-
   /// `user` answers every dialog. Editor and user outlive the window.
   MainWindow(Editor& editor, User& user);
 

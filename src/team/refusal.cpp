@@ -72,10 +72,10 @@ std::optional<std::string> ReasonOfRefusal(const RosterGrid& grid, const SavePre
     if (other == cell || !ShareAByte(cell, other)) continue;
     if (IsTakenAlone(other, grid.Text(other))) continue;
     const bool is_first = *block.PlaceOf(cell.column) < *block.PlaceOf(other.column);
-    const std::string first = caption(is_first ? cell.column : other.column);
-    const std::string second = caption(is_first ? other.column : cell.column);
-    return first + " and " + second + " share a byte, and " + caption(other.column) + " is not " +
-           AcceptedTexts(other.column);
+    std::string reason = caption(is_first ? cell.column : other.column);
+    reason.append(" and ").append(caption(is_first ? other.column : cell.column));
+    reason.append(" share a byte, and ").append(caption(other.column));
+    return reason.append(" is not ").append(AcceptedTexts(other.column));
   }
   return std::nullopt;
 }

@@ -7,7 +7,7 @@ namespace morlek {
 namespace {
 
 constexpr char kOtherImage[] = "other.smc";
-constexpr char kFile[] = "team.txt";
+constexpr char kTeamFile[] = "team.txt";
 
 /// Steps over several teams and two images.
 class PlacesTest : public TeamTest {
@@ -44,8 +44,8 @@ class PlacesTest : public TeamTest {
         editor.PasteBlock(cell, "1\t2\n3");
         break;
       case 4:
-        disk.files[kFile] = {'A', ',', '\r'};
-        editor.ImportTeam(kFile);
+        disk.files[kTeamFile] = {'A', ',', '\r'};
+        editor.ImportTeam(kTeamFile);
         editor.CancelDialog();
         break;
       case 5: {
@@ -163,8 +163,8 @@ TEST_F(PlacesTest, TheFirstTeamIsNoStepAndTheSameTeamIsOneOnlyWhenATextChanges) 
 
 TEST_F(PlacesTest, WhatWasImportedBeforeTheFirstTeamIsNotLost) {
   Editor own(messages, disk.Opener());
-  disk.files[kFile] = {'A', ',', '\r'};
-  own.ImportTeam(kFile);
+  disk.files[kTeamFile] = {'A', ',', '\r'};
+  own.ImportTeam(kTeamFile);
   own.CancelDialog();
   own.OpenFirstImage(kImage);
   own.LoadTeam("Braves");

@@ -34,6 +34,7 @@ class WayBackPropertyTest : public RandomWindowTest {
 
   void TakeRandomStep();
   void GoBackAndForth(int most, bool backwards);
+  void ExpectFocusOfTheStep(std::size_t from, const QWidget* before);
 
   /// The texts in the window, the two keys and the list agree.
   void ExpectState() const {
@@ -190,6 +191,19 @@ void WayBackPropertyTest::TakeRandomStep() {
   if (dice.OneIn(2)) TypeAtRandom();
 }
 
+void WayBackPropertyTest::ExpectFocusOfTheStep(std::size_t from, const QWidget* before) {
+  if (states[from].team != states[now].team) {
+    EXPECT_EQ(QApplication::focusWidget(), before) << "as after a click on a team";
+    entry_text = FocusedText();
+    return;
+  }
+  const auto first = std::ranges::mismatch(states[from].texts, states[now].texts).in1;
+  const int place = static_cast<int>(first - states[from].texts.begin());
+  ASSERT_EQ(Focused(), boxes[place]->objectName());
+  EXPECT_EQ(boxes[place]->selectedText(), boxes[place]->text());
+  if (FocusedBox() != before) entry_text = FocusedText();
+}
+
 void WayBackPropertyTest::GoBackAndForth(int most, bool backwards) {
   for (; most > 0 && !HasFailure(); --most) {
     const std::size_t from = now;
@@ -209,16 +223,7 @@ void WayBackPropertyTest::GoBackAndForth(int most, bool backwards) {
       return;
     }
     EndTyping();
-    if (states[from].team != states[now].team) {
-      EXPECT_EQ(QApplication::focusWidget(), before) << "as after a click on a team";
-      entry_text = FocusedText();
-      continue;
-    }
-    const auto first = std::ranges::mismatch(states[from].texts, states[now].texts).in1;
-    const int place = static_cast<int>(first - states[from].texts.begin());
-    ASSERT_EQ(Focused(), boxes[place]->objectName());
-    EXPECT_EQ(boxes[place]->selectedText(), boxes[place]->text());
-    if (FocusedBox() != before) entry_text = FocusedText();
+    ExpectFocusOfTheStep(from, before);
   }
 }
 
