@@ -82,8 +82,8 @@ class Slot {
   std::span<std::uint8_t> bytes_;
 };
 
-/// A byte of two digits, each up to its limit. Every random number is drawn on a line of its own: in one
-/// expression their order would be the compiler's choice, and the image with it.
+/// A byte of two digits, each up to its limit. Every random number is drawn on a line of its own:
+/// in one expression their order would be the compiler's choice, and the image with it.
 std::uint8_t TwoDigits(Dice& dice, int highest_first, int highest_second) {
   const int first = dice.Between(0, highest_first);
   const int second = dice.Between(0, highest_second);

@@ -10,7 +10,7 @@ namespace morlek {
 namespace {
 
 constexpr QSize kMarkSize(9, 13);
-constexpr int kGap = 3;  // to the last box of the row
+constexpr int kMarkGap = 3;  // to the last box of the row
 
 }  // namespace
 
@@ -25,7 +25,7 @@ StanceMark::StanceMark(const QWidget& grid, QWidget* parent)
 
 void StanceMark::Show(const EditorState& state) {
   const QRect box = BoxRectOf({BlockOf(state.stance_row).columns.back().column, state.stance_row});
-  move(grid_place_ + QPoint(box.right() + 1 + kGap, box.center().y() - kMarkSize.height() / 2));
+  move(grid_place_ + QPoint(box.right() + 1 + kMarkGap, box.center().y() - kMarkSize.height() / 2));
   setVisible(state.scene.is_grid_shown && state.layout == Layout::kWide);
 }
 

@@ -14,8 +14,8 @@ namespace morlek {
 class SavePreview {
  public:
   /// `state` is what loads and saves keep now, `known` the bytes that the image is known to hold.
-  /// When that load would lack a byte of `known`, nothing can be predicted: every cell then keeps its
-  /// text. A rating that is no number comes out empty.
+  /// When that load would lack a byte of `known`, nothing can be predicted: every cell then keeps
+  /// its text. A rating that is no number comes out empty.
   SavePreview(const RosterGrid& grid, CodecState state, const RecordBytes& known);
 
   enum class Fate {
