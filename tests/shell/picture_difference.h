@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 namespace morlek {
 
@@ -17,7 +18,7 @@ struct PictureDifference {
   /// How far a tile may be off.
   static constexpr int kLimit = 3;
 
-  PictureDifference(const QImage& one, const QImage& other) : picture(one) {
+  PictureDifference(QImage one, const QImage& other) : picture(std::move(one)) {
     QPainter painter(&picture);
     painter.setCompositionMode(QPainter::CompositionMode_Difference);
     painter.drawImage(0, 0, other);
