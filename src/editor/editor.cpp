@@ -14,34 +14,37 @@ namespace {
 
 constexpr char kImageFailureTitle[] = "Morlek Editor";
 
+// A listener has a routine of the same name.
+using LetterNote = UnknownLetter;
+
 /// Reports what of a name cannot be saved in a message box, which keeps the save waiting.
 class NameReporter : public EncodingListener {
  public:
-  /// `note` hears of an unknown letter before its message is shown.
-  NameReporter(MessagePort& messages, std::function<void(struct UnknownLetter)> note)
+  /// `note` is called before each message, with the unknown letter that it is about or with
+  /// nothing.
+  NameReporter(MessagePort& messages, std::function<void(StepNote)> note)
       : messages_(messages), note_(std::move(note)) {}
 
   void UnknownLetter(int row, std::string_view letter) override {
-    note_({row, std::string(letter)});
+    note_(LetterNote{row, std::string(letter)});
     messages_.Show(
         {"You've used a letter that is not recognized by MORLEK EDITOR, change the letter and "
          "save your edits again."});
   }
   void NameTooLong(int /*row*/) override {
+    note_({});
     messages_.Show({"You are only allowed 10 player letters per name counting the period."});
   }
 
  private:
   MessagePort& messages_;
-  std::function<void(struct UnknownLetter)> note_;
+  std::function<void(StepNote)> note_;
 };
 
-/// Whether a file is as long as a game without the 512 bytes in front.
 bool LacksHeader(const std::filesystem::path& path) {
-  constexpr std::uintmax_t kBank = 1024;
   std::error_code failure;
   const std::uintmax_t size = std::filesystem::file_size(path, failure);
-  return !failure && size > 0 && size % kBank == 0;
+  return !failure && LacksCopierHeader(size);
 }
 
 }  // namespace
@@ -65,7 +68,7 @@ OpenResult Editor::OpenFirstImage(const std::filesystem::path& path) {
                             : identity ? OpenResult::kRefused
                                        : OpenResult::kNotOpened;
   StepNote note;
-  if (!accepted && !path.empty()) note = RefusedFile{path, LacksHeader(path)};
+  if (result == OpenResult::kRefused) note = RefusedFile{path, LacksHeader(path)};
   EndOpening(path, result, {}, note);
   if (!accepted) {
     messages_.Show({"You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
@@ -115,7 +118,11 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
   }
   // A load that finds a file open fails, reports it and closes the file.
   const bool was_held = channel_.is_open_for_text();
-  if (std::exchange(state_.is_file_held, false)) Publish();
+  if (std::exchange(state_.is_file_held, false)) {
+    state_.outcome = {};
+    state_.note = {};
+    Publish();
+  }
 
   const Scene before = state_.scene;
   RosterGrid grid = state_.grid;
@@ -166,11 +173,12 @@ StepNote Editor::LeftBehindIn(const Scene& left) const {
 StepNote Editor::SavedIn(const SaveResult& saved) const {
   SavedChanges changes;
   for (const Cell cell : kAllCells) {
-    if (!state_.marks.At(cell).is_modified) continue;
+    const CellMark& mark = state_.marks.At(cell);
+    if (!mark.is_modified) continue;
     const auto offsets = BytesOf(cell.column);
     if (saved.refused.HasAny(cell.row, offsets)) {
       ++changes.refused;
-    } else if (saved.taken.HasAny(cell.row, offsets)) {
+    } else if (!mark.is_lossy && saved.taken.HasAny(cell.row, offsets)) {
       ++changes.stored;
     }
   }
@@ -209,8 +217,10 @@ void Editor::LoadTeamBeside(int places) {
 }
 
 SaveResult Editor::Save() {
-  NameReporter reporter(messages_, [this](UnknownLetter letter) {
-    state_.note = std::move(letter);
+  NameReporter reporter(messages_, [this](StepNote note) {
+    state_.outcome = {};
+    if (note.index() == 0 && state_.note.index() == 0) return;
+    state_.note = std::move(note);
     Publish();
   });
   const SaveResult result =
@@ -321,7 +331,9 @@ std::optional<Cell> Editor::Follow(const std::optional<Step>& step) {
   const Scene& scene = step->scenes->after;
   state_.picked = scene.is_grid_shown ? scene.place.team : nullptr;
   Enter(scene);
-  EndStep({.texts = step->texts, .loaded = scene.is_grid_shown, .layout_set = true});
+  state_.outcome = {};
+  state_.note = {};
+  Publish({.texts = step->texts, .loaded = scene.is_grid_shown, .layout_set = true});
   return std::nullopt;
 }
 

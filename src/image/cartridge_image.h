@@ -16,6 +16,14 @@ inline constexpr std::uint8_t kIdentityByte = 0x3C;
 /// to 31.
 [[nodiscard]] std::int64_t FieldPosition(std::int64_t base, int slot, int offset);
 
+/// Whether a file of so many bytes is as long as the game is without the 512 bytes that a copier
+/// puts in front of it: whole banks, and room for every team.
+[[nodiscard]] constexpr bool LacksCopierHeader(std::uintmax_t size) {
+  constexpr std::uintmax_t kBank = 0x8000;
+  constexpr std::uintmax_t kEndOfTeams = 1289152;
+  return size >= kEndOfTeams && size % kBank == 0;
+}
+
 /// A team's record in an image: the image's path and the 1-based position of the record's first
 /// byte, which is nothing before a team has been picked.
 struct RecordLocation {

@@ -39,11 +39,10 @@ ImageTeam ReadTeam(CartridgeImage& image, const Team& team, RosterGrid& texts) {
 }
 
 std::string WhyNotTheGame(std::uint8_t identity, std::optional<std::uintmax_t> size) {
-  constexpr std::uintmax_t kBlock = 1024;
   std::string why = "this is not the image of the game: the byte at position " +
                     std::to_string(kIdentityPosition) + " is " + ByteToTwoDigits(identity) +
                     " and not " + ByteToTwoDigits(kIdentityByte);
-  if (size && *size > 0 && *size % kBlock == 0) {
+  if (size && LacksCopierHeader(*size)) {
     why += "; by its size the 512 bytes in front are missing that a copier puts there";
   }
   return why;

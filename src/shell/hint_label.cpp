@@ -11,6 +11,8 @@
 namespace morlek {
 namespace {
 
+constexpr char kAskForImage[] = "Open a ROM with Ctrl+O";
+constexpr char kAskForTeam[] = "Pick a team above, or press Ctrl+Page Down";
 constexpr int kWordsPixels = 15;
 constexpr int kWordsHeight = 28;
 constexpr int kIconSide = 64;
@@ -28,14 +30,15 @@ HintLabel::HintLabel(const QRect& area, QWidget* parent) : QLabel(parent) {
   setFont(theme::Font(kWordsPixels));
   setAttribute(Qt::WA_Hover);
   setCursor(Qt::PointingHandCursor);
-  Say("Open a ROM with Ctrl+O");
+  Say(kAskForImage);
 }
 
 void HintLabel::Show(const EditorState& state) {
-  if (asks_for_image_ && !state.scene.place.image.empty()) {
-    asks_for_image_ = false;
-    unsetCursor();
-    Say("Pick a team above, or press Ctrl+Page Down");
+  const bool asks_for_image = state.scene.place.image.empty();
+  if (asks_for_image != asks_for_image_) {
+    asks_for_image_ = asks_for_image;
+    setCursor(asks_for_image ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    Say(asks_for_image ? kAskForImage : kAskForTeam);
   }
   setVisible(!state.scene.is_grid_shown);
 }

@@ -8,10 +8,16 @@
 namespace morlek {
 namespace {
 
-QString WhyRefused(const RefusedImage& refused, const QFontMetrics& metrics, int room) {
-  const QString path = QString::fromStdU16String(refused.path.u16string());
-  const bool is_other_game = refused.why == OpenResult::kRefused;
-  const QString reason = is_other_game ? " is not this game's image." : " could not be opened.";
+QString ReasonOf(const EditorState& state) {
+  if (state.refused->why != OpenResult::kRefused) return " could not be opened.";
+  const auto* file = std::get_if<RefusedFile>(&state.note);
+  const bool lacks_header = file != nullptr && file->lacks_header;
+  return lacks_header ? " lacks the 512 bytes in front." : " is not this game's image.";
+}
+
+QString WhyRefused(const EditorState& state, const QFontMetrics& metrics, int room) {
+  const QString path = QString::fromStdU16String(state.refused->path.u16string());
+  const QString reason = ReasonOf(state);
   const int left = room - metrics.horizontalAdvance(reason);
   return metrics.elidedText(QFileInfo(path).fileName(), Qt::ElideMiddle, left) + reason;
 }
@@ -34,7 +40,7 @@ void HintNote::Show(const EditorState& state) {
   QString words = "or drop it here";
   // No path was chosen where the dialog was cancelled.
   if (state.refused && !state.refused->path.empty()) {
-    words += "\n\n" + WhyRefused(*state.refused, fontMetrics(), width());
+    words += "\n\n" + WhyRefused(state, fontMetrics(), width());
   }
   setText(words);
   setAccessibleDescription(words);

@@ -100,6 +100,11 @@ QString NoteOf(const EditorState& state) {
       return QString("%1 of %2 lines read").arg(import->lines).arg(kSlotCount);
     }
   }
+  if (const auto* paste = std::get_if<PasteResult>(&state.outcome)) {
+    if (paste->cells > 0) {
+      return Counted(paste->cells, "cell found no place", "cells found no place");
+    }
+  }
   return std::visit([&state](const auto& note) { return TextOf(note, state); }, state.note);
 }
 

@@ -78,7 +78,7 @@ inline QString WithoutNote(QString line) {
   static const QRegularExpression note(QString::fromUtf8(
       R"( · (?:[A-Z][A-Za-z ]+: (?:1 change|(?:[2-9]|[1-9]\d+) changes) not saved, Ctrl\+Z goes back)"
       R"(|\d+ changes? stored(?:, \d+ refused by the disk)?|\d+ refused by the disk)"
-      R"(|\d+ of 25 lines read))"));
+      R"(|\d+ of 25 lines read|\d+ cells? found no place))"));
   return line.remove(note);
 }
 
