@@ -16,6 +16,7 @@
 #include "ratio_table.h"
 #include "shell/look.h"
 #include "shell/main_window.h"
+#include "shell/roster_frame.h"
 #include "silent_user.h"
 
 namespace {
@@ -153,22 +154,20 @@ bool PrintAllSteps(const morlek::bench::BenchFolder& folder) {
   click_huge(1);
   within &= PrintSteps("click with 4 GiB / with 1.5 MiB", click_huge, click, 1.1);
 
-  // An editor without a baseline marks nothing.
-  const std::filesystem::path lost_image = folder.ImageOf(morlek::bench::kGameBytes + 1);
-  Program unmarked(lost_image, team_file);
-  std::filesystem::remove(lost_image);
-  unmarked.Pick("Braves");
-  unmarked.frame().show();
-  unmarked.Choose("mnuImport");
+  // A frame by itself, with an editor that has no image, marks nothing.
+  morlek::bench::SilentUser nobody({}, {});
+  morlek::Editor imageless(nobody);
+  imageless.ImportTeam(team_file);
+  morlek::RosterFrame unmarked(imageless, nullptr);
+  unmarked.show();
+  QLineEdit& unmarked_box = *unmarked.findChild<QLineEdit*>("Text3(7)");
 
   PaintWatcher number(program.Box("Text3(7)"));
-  PaintWatcher unmarked_number(unmarked.Box("Text3(7)"));
+  PaintWatcher unmarked_number(unmarked_box);
   within &= PrintSteps(
       "a typed character to its painting / without marks",
       [&](int round) { return number.TimeOf([&] { TypeOver(program.Box("Text3(7)"), round); }); },
-      [&](int round) {
-        return unmarked_number.TimeOf([&] { TypeOver(unmarked.Box("Text3(7)"), round); });
-      },
+      [&](int round) { return unmarked_number.TimeOf([&] { TypeOver(unmarked_box, round); }); },
       1.2, 1000);
 
   return PrintSteps(
