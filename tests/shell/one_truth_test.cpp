@@ -74,8 +74,9 @@ void OneTruthTest::ExpectFoot() const {
     notes << QString("%1 of 25 lines read").arg(import->lines);
   }
   const auto* paste = std::get_if<PasteResult>(&state().outcome);
-  if (paste != nullptr)
+  if (paste != nullptr) {
     notes << counted(paste->cells, "cell found no place", "cells found no place");
+  }
   if (state().scene.is_grid_shown && state().is_file_held) {
     notes << "a file is still open and blocks SAVE (Ctrl+O, Cancel)";
   } else if (state().scene.is_grid_shown) {
