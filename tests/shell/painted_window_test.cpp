@@ -1,6 +1,4 @@
 #include <QAbstractButton>
-#include <cmath>
-#include <utility>
 
 #include "shell/eye.h"
 #include "shell/splash_window.h"
@@ -18,18 +16,6 @@ class PaintedWindowTest : public WindowTest {
   /// The player put together, as he is seen below the faces and bodies.
   [[nodiscard]] QImage Figure() const { return Seen(Find("StanceView")).copy(2, 3, 76, 97); }
 };
-
-/// How well two colours can be told apart, from 1 to 21.
-double Contrast(const QColor& one, const QColor& other) {
-  const auto luminance = [](const QColor& color) {
-    return 0.2126 * std::pow(color.redF(), 2.2) + 0.7152 * std::pow(color.greenF(), 2.2) +
-           0.0722 * std::pow(color.blueF(), 2.2);
-  };
-  // Copies: what is compared is gone at the end of the line.
-  const std::pair<double, double> both = std::minmax(luminance(one), luminance(other));
-  const auto& [dark, light] = both;
-  return (light + 0.05) / (dark + 0.05);
-}
 
 /// What must be told apart from what it stands on.
 struct Legible {
