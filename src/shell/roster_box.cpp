@@ -130,11 +130,8 @@ void RosterBox::PaintCorner(QPainter& painter) const {
 bool RosterBox::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     auto* key = static_cast<QKeyEvent*>(event);
-    if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
-      // Both are the whole grid's, not the line editor's own.
-      event->ignore();
-      return false;
-    }
+    // Both are the whole grid's, not the line editor's own.
+    if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) return false;
   }
   return !LeaveToMenu(*event) && ValueEdit::event(event);
 }
@@ -147,11 +144,7 @@ void RosterBox::changeEvent(QEvent* event) {
 
 void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
   // Files are for the window to take or refuse, even if their paths come along as a text.
-  if (HoldsFiles(*event->mimeData())) {
-    event->ignore();
-    return;
-  }
-  ValueEdit::dragEnterEvent(event);
+  if (!HoldsFiles(*event->mimeData())) ValueEdit::dragEnterEvent(event);
 }
 
 void RosterBox::contextMenuEvent(QContextMenuEvent* event) {

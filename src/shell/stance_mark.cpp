@@ -18,7 +18,6 @@ StanceMark::StanceMark(const QWidget& grid, QWidget* parent)
     : QWidget(parent), grid_place_(grid.pos()) {
   setObjectName("StanceMark");
   setAccessibleName("mark of the player in view");
-  setAttribute(Qt::WA_TransparentForMouseEvents);
   resize(kMarkSize);
   hide();
 }

@@ -25,12 +25,10 @@ CardParts PartsOf(const QRectF& card) {
   if (card.height() > card.width()) {
     parts.plate.setTop(card.bottom() - kPlateHeight);
     parts.stripe.setTop(parts.plate.top() - kStripe);
-    parts.stripe.setBottom(parts.plate.top());
     parts.figure.setBottom(parts.stripe.top());
   } else {
     parts.plate.setLeft(card.right() - kPlateWidth);
     parts.stripe.setLeft(parts.plate.left() - kStripe);
-    parts.stripe.setRight(parts.plate.left());
     parts.figure.setRight(parts.stripe.left());
   }
   return parts;
@@ -143,6 +141,7 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
     part.addRect(place);
     painter.fillPath(card.intersected(part), color);
   };
+  // The plate covers what the stripe's part has beyond its edge.
   paint_part(parts.stripe, club_ ? club_->trim : shades.hover_ring);
   paint_part(parts.plate, club_ ? club_->main : shades.fill);
   painter.setPen(Qt::white);

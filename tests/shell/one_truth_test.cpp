@@ -1,6 +1,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
+#include <QScreen>
 
 #include "image/team_directory.h"
 #include "shell/code_page_text.h"
@@ -26,10 +27,14 @@ class OneTruthTest : public RandomWindowTest {
   /// One step of those that a person can take.
   void TakeRandomStep();
 
+  // All ratings are beyond the scale.
+  std::vector<std::uint8_t> spoilt = Sample();
+
   void ExpectCells() const;
   void ExpectFoot() const;
   void ExpectTeam() const;
   void ExpectFeatures() const;
+  void ExpectPicture() const;
   void ExpectTruth() const {
     ExpectCells();
     ExpectFoot();
@@ -138,6 +143,16 @@ void OneTruthTest::ExpectFeatures() const {
   ASSERT_EQ(Find("StanceView").accessibleDescription(), TextOf(Column::kName));
 }
 
+/// What has been painted on the screen is what the whole window would paint now.
+void OneTruthTest::ExpectPicture() const {
+  const auto image_of = [](const QPixmap& picture) {
+    return picture.toImage().convertToFormat(QImage::Format_RGB32);
+  };
+  ASSERT_TRUE(QTest::qWaitFor([&] {
+    return image_of(window->screen()->grabWindow(window->winId())) == image_of(window->grab());
+  }));
+}
+
 void OneTruthTest::TakeRandomStep() {
   const bool is_shown = state().scene.is_grid_shown;
   const int place = RandomPlace();
@@ -183,8 +198,10 @@ void OneTruthTest::TakeRandomStep() {
       user.paths.clear();
       break;
     default:
-      // The image cannot be opened for a while.
-      if (dice.OneIn(2)) std::filesystem::remove(ImageFile());
+      // For a while the image cannot be opened, or a load ends early, often in the wide layout.
+      if (is_shown) Box(12, RowOf(place)).setFocus();
+      std::filesystem::remove(ImageFile());
+      if (dice.OneIn(2)) PutFile(ImageFile(), spoilt);
       if (dice.OneIn(2)) PutFile(ImageFile(), Sample());
       break;
   }
@@ -194,7 +211,9 @@ void OneTruthTest::TakeRandomStep() {
 TEST_F(OneTruthTest, AfterEveryStepTheWindowShowsTheStateOfTheEditor) {
   constexpr int kRounds = 2;
   constexpr int kSteps = 250;
+  constexpr int kStepsAPicture = 5;
   PutFile(folder / "other", std::string("another game"));
+  std::fill(spoilt.begin() + kBraves, spoilt.end(), 0xff);
   Repeat(kRounds, [this](int seed) {
     StartRound(seed % 2 == 0 ? std::optional(ImagePath()) : std::nullopt, Sample());
     ExpectTruth();
@@ -202,6 +221,7 @@ TEST_F(OneTruthTest, AfterEveryStepTheWindowShowsTheStateOfTheEditor) {
     for (int step = 0; step < kSteps && !HasFailure(); ++step) {
       TakeRandomStep();
       ExpectTruth();
+      if (step % kStepsAPicture == 0 || state().layout == Layout::kWide) ExpectPicture();
     }
   });
 }
