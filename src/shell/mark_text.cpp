@@ -4,6 +4,8 @@
 #include <QTextDocument>
 
 #include "shell/code_page_text.h"
+#include "team/accepted_texts.h"
+#include "team/refusal.h"
 
 namespace morlek {
 namespace {
@@ -13,7 +15,7 @@ QString Quoted(const std::string& text) {
   return text.empty() ? QString("an empty box") : FromCodePage(text);
 }
 
-QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
+QString WhatSaveDoes(Cell cell, const CellMark& mark) {
   const QString after = Quoted(mark.after);
   switch (mark.fate) {
     case SavePreview::Fate::kStored:
@@ -31,8 +33,23 @@ QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
   // Initials are saved before everything else, so a name may still change.
   const bool is_name = cell.column == Column::kName;
   return QString("SAVE does not reach this, because the name of %1 is too long; the image %2 %3")
-      .arg(FromCodePage(PlayerText(marks.end_row().value_or(cell.row))),
+      .arg(FromCodePage(PlayerText(mark.cause.value_or(cell).row)),
            is_name ? "then holds" : "keeps", after);
+}
+
+/// Why it does so, where that has not been said, and what the column takes.
+QStringList WhySo(const std::string& text, Cell cell, const CellMark& mark) {
+  using enum SavePreview::Fate;
+  if (mark.fate == kNotReached) return {};
+  QStringList lines;
+  if (mark.fate != kEndsSave) {
+    QString reason =
+        FromCodePage(ReasonOfRefusal(text, cell, mark.fate, mark.cause).value_or(std::string()));
+    if (!reason.isEmpty()) lines << reason.replace(0, 1, reason[0].toUpper());
+  }
+  return lines << QString("%1 takes %2")
+                      .arg(FromCodePage(CaptionOf(BlockOf(cell.row), cell.column)),
+                           FromCodePage(AcceptedTexts(cell.column)));
 }
 
 QString Counted(int count, const QString& one, const QString& many) {

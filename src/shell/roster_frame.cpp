@@ -82,7 +82,7 @@ void RosterFrame::Show(const EditorState& state, const StateChange& change) {
   ShowVisible(state.scene.is_grid_shown);
   ShowTints();
   ShowTexts(change);
-  ShowMarks(state);
+  ShowMarks(state, change);
 }
 
 void RosterFrame::ShowVisible(bool shown) {
@@ -106,18 +106,26 @@ void RosterFrame::ShowTexts(const StateChange& change) {
   if (focused != nullptr) focused->BeginVisit();
 }
 
-void RosterFrame::ShowMarks(const EditorState& state) {
+void RosterFrame::ShowMarks(const EditorState& state, const StateChange& change) {
   const GridMarks& marks = state.marks;
   for (const Cell cell : kAllCells) {
     // Most cells have no mark and had none; this runs with every key.
     const bool is_marked = marks.At(cell).is_marked();
     if (!std::exchange(is_marked_.at(IndexOf(cell)), is_marked) && !is_marked) continue;
-    BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
+    if (marks.At(cell) != BoxAt(cell).mark()) ShowMark(state, cell);
+  }
+  // The reason depends on the text as well, be the mark the same.
+  for (const CellChange& part : change.texts) {
+    if (marks.At(part.cell).is_lossy) ShowMark(state, part.cell);
   }
   save_->SetFilled(marks.modified_count() > 0);
   save_->setAccessibleDescription(SummaryOf(marks));
   undo_->setEnabled(state.can_undo);
   redo_->setEnabled(state.can_redo);
+}
+
+void RosterFrame::ShowMark(const EditorState& state, Cell cell) {
+  BoxAt(cell).ShowMark(state.marks.At(cell), TipOf(state, cell));
 }
 
 void RosterFrame::ShowTints() {
