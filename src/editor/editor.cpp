@@ -90,9 +90,9 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
     return OpenResult::kRefused;
   }
   // The grid keeps its texts, but they are not this image's.
-  const Scene before = std::exchange(state_.scene, {{path, state_.scene.place.team}, false});
-  state_.picked = nullptr;
-  const StepNote left_behind = LeftBehindIn(before);
+  const PassedScene before{state_.scene, std::exchange(state_.picked, nullptr)};
+  state_.scene = {{path, before.scene.place.team}, false};
+  const StepNote left_behind = LeftBehindIn(before.scene);
   AddStep(before, {});
   Enter(state_.scene);
   EndOpening(path, OpenResult::kOpened, {.layout_set = true}, left_behind);
@@ -110,6 +110,7 @@ bool Editor::ShowIdentity(std::uint8_t identity) {
 }
 
 LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
+  const PassedScene before{state_.scene, state_.picked};
   const Team* team = FindTeam(toolbar_key);
   if (team != nullptr) {
     state_.picked = team;
@@ -124,10 +125,9 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
     Publish();
   }
 
-  const Scene before = state_.scene;
   RosterGrid grid = state_.grid;
   LoadResult result = morlek::LoadTeam(image_, LocationOf(team), codec_state_, grid);
-  const StepNote left_behind = LeftBehindIn(before);
+  const StepNote left_behind = LeftBehindIn(before.scene);
   state_.note = {};
   baseline_ = nullptr;
   if (result.outcome == LoadResult::Outcome::kNotOpened) {
@@ -136,7 +136,7 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
                          : result.failure);
     AddStep(before, {});
   } else {
-    state_.scene = {{before.place.image, team}, true};
+    state_.scene = {{before.scene.place.image, team}, true};
     const GridChange texts = ChangeBetween(state_.grid, grid);
     state_.grid = grid;
     state_.layout = Layout::kNarrow;
@@ -148,7 +148,9 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
       EndFileStep(result, {.texts = texts, .loaded = true, .layout_set = true}, left_behind);
       return result;
     }
+    const Team* shown_before = state_.loaded;
     RefreshMarks();
+    state_.loaded = shown_before;
     Publish({.texts = texts, .layout_set = true});
     AbandonLoad(result.failure);
     AddStep(before, texts);
@@ -186,14 +188,14 @@ StepNote Editor::SavedIn(const SaveResult& saved) const {
   return changes;
 }
 
-void Editor::AddStep(const Scene& before, const GridChange& texts) {
+void Editor::AddStep(const PassedScene& before, const GridChange& texts) {
   history_.EndVisit();
   Step step{.texts = texts, .scenes = {}};
-  if (before != state_.scene) step.scenes = {before, state_.scene};
+  if (before.scene != state_.scene) step.scenes = {before, {state_.scene, state_.picked}};
   if (texts.empty() && !step.scenes) return;
   // Before the first team there is nothing to go back to.
   const bool is_first = !history_.can_undo() && !history_.can_redo() &&
-                        before.place.team == nullptr &&
+                        before.scene.place.team == nullptr &&
                         std::ranges::all_of(texts, &std::string::empty, &CellChange::before);
   if (!is_first) history_.Add(std::move(step));
 }
@@ -328,8 +330,8 @@ std::optional<Cell> Editor::Follow(const std::optional<Step>& step) {
     EndStep({.texts = step->texts});
     return step->texts.front().cell;
   }
-  const Scene& scene = step->scenes->after;
-  state_.picked = scene.is_grid_shown ? scene.place.team : nullptr;
+  const auto& [scene, picked] = step->scenes->after;
+  state_.picked = picked;
   Enter(scene);
   state_.outcome = {};
   state_.note = {};
@@ -368,7 +370,7 @@ void Editor::EndStep(const StateChange& change, StepOutcome outcome) {
 }
 
 void Editor::RefreshMarks() {
-  state_.is_loaded = baseline_ != nullptr;
+  state_.loaded = baseline_ == nullptr ? nullptr : state_.scene.place.team;
   if (baseline_ == nullptr) {
     preview_.reset();
     state_.marks = {};

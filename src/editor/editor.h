@@ -134,7 +134,7 @@ class Editor {
   [[nodiscard]] StepNote SavedIn(const SaveResult& saved) const;
 
   /// Adds the step that led from a scene to the current one, if there is anything to take back.
-  void AddStep(const Scene& before, const GridChange& texts);
+  void AddStep(const PassedScene& before, const GridChange& texts);
 
   /// Goes to a scene, whose grid is in place, in the narrow layout. No file is opened.
   void Enter(const Scene& scene);

@@ -75,9 +75,9 @@ struct EditorState {
   /// The team that was asked for last, where the next and the previous one are counted from; null
   /// when an image has just been opened.
   const Team* picked = nullptr;
-  /// Whether a load came through, so that marks can be told. Unlike the grid's being shown it is
-  /// false while a load reports its failure.
-  bool is_loaded = false;
+  /// The team of the last load that came through; null while no grid is shown. While a load that
+  /// ended early reports its failure, it is still the team before.
+  const Team* loaded = nullptr;
 
   RosterGrid grid;
   GridMarks marks;
