@@ -100,8 +100,13 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
 }
 
 void Editor::CancelDialog() {
+  StepNote note;
+  const auto* import = std::get_if<ImportResult>(&state_.outcome);
+  if (import != nullptr && import->outcome == ImportResult::Outcome::kEndedEarly) {
+    note = ClosedImport{import->lines};
+  }
   image_.Close();
-  EndFileStep({});
+  EndFileStep({}, {}, std::move(note));
 }
 
 bool Editor::ShowIdentity(std::uint8_t identity) {
@@ -339,6 +344,8 @@ std::optional<Cell> Editor::Follow(const std::optional<Step>& step) {
   return std::nullopt;
 }
 
+void Editor::NoteCopy(std::string who) { EndStep({}, {}, CopyNote{std::move(who)}); }
+
 void Editor::Minimize() {
   state_.layout = Layout::kNarrow;
   Publish({.layout_set = true});
@@ -362,9 +369,9 @@ GridChange Editor::Replace(const RosterGrid& grid) {
   return texts;
 }
 
-void Editor::EndStep(const StateChange& change, StepOutcome outcome) {
+void Editor::EndStep(const StateChange& change, StepOutcome outcome, StepNote note) {
   state_.outcome = std::move(outcome);
-  state_.note = {};
+  state_.note = std::move(note);
   if (!change.texts.empty()) RefreshMarks();
   Publish(change);
 }

@@ -109,6 +109,9 @@ class Editor {
   std::optional<Cell> Undo();
   std::optional<Cell> Redo();
 
+  /// A player or the team was copied to the clipboard, which changes nothing here.
+  void NoteCopy(std::string who);
+
   /// Asks for the narrow layout.
   void Minimize();
 
@@ -149,7 +152,7 @@ class Editor {
   void RefreshMarks();
 
   /// Ends a step that has to do with no file.
-  void EndStep(const StateChange& change, StepOutcome outcome = {});
+  void EndStep(const StateChange& change, StepOutcome outcome = {}, StepNote note = {});
 
   /// Ends a step that had to do with a file.
   void EndFileStep(StepOutcome outcome, const StateChange& change = {}, StepNote note = {});

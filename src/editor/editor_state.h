@@ -55,6 +55,16 @@ struct SavedChanges {
   int refused = 0;
 };
 
+/// An import that ended early, whose file a cancelled dialog has closed.
+struct ClosedImport {
+  int lines = 0;
+};
+
+/// Who was copied to the clipboard, by his name or in words.
+struct CopyNote {
+  std::string who;
+};
+
 /// A file that is no image of this game.
 struct RefusedFile {
   std::filesystem::path path;
@@ -63,7 +73,8 @@ struct RefusedFile {
 };
 
 /// What a person should know of the last step, until the next one.
-using StepNote = std::variant<std::monostate, LeftBehind, UnknownLetter, SavedChanges, RefusedFile>;
+using StepNote = std::variant<std::monostate, LeftBehind, UnknownLetter, SavedChanges, ClosedImport,
+                              CopyNote, RefusedFile>;
 
 /// How things stand: all that a window shows, as one value.
 struct EditorState {

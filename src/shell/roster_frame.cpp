@@ -66,10 +66,10 @@ RosterFrame::RosterFrame(Editor& editor, QWidget* parent) : QFrame(parent), edit
   setObjectName("Frame1");
   setAccessibleName("roster");
   setGeometry(RectFromTwips(60, 720, 6555, 9015));
+  AddKeys();
   for (const BlockLayout& layout : kBlockLayouts) AddHeaders(layout);
   for (const Cell cell : kCellsOnScreen) AddBox(cell);
   AddTeamNameAndSave();
-  AddKeys();
   new FocusRing(this);
   hide();
 }
@@ -160,10 +160,13 @@ void RosterFrame::AddHeaders(const BlockLayout& layout) {
     auto* label = new QLabel(FromCodePage(column.caption), this);
     label->setObjectName(QString("Label4(%1)").arg(layout.first_header + static_cast<int>(place)));
     label->setAccessibleName(FromCodePage(column.meaning));
-    std::string accepted = AcceptedTexts(column.column);
-    if (IsFeature(column.column)) accepted += "; click a box to pick from pictures";
-    label->setToolTip(FromCodePage(std::string(column.meaning) + ", " + accepted));
-    label->setAccessibleDescription(FromCodePage(accepted));
+    QString help = FromCodePage(AcceptedTexts(column.column));
+    if (column.column == Column::kName) help += '\n' + players_->KeysText();
+    if (IsFeature(column.column)) {
+      help += "; click a box to pick from pictures\nLeaf through them: Page Up, Page Down";
+    }
+    label->setToolTip(FromCodePage(column.meaning) + ", " + help);
+    label->setAccessibleDescription(help);
     label->setGeometry(HeaderRectOf(layout, place));
     label->setFont(theme::Font(kPixels, QFont::DemiBold));
     label->setContentsMargins(0, kHeaderGap, 0, 0);
