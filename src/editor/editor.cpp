@@ -7,39 +7,13 @@
 
 #include "codecs/code_page.h"
 #include "codecs/hex_text.h"
+#include "editor/name_reporter.h"
 #include "team/column_bytes.h"
 
 namespace morlek {
 namespace {
 
 constexpr char kImageFailureTitle[] = "Morlek Editor";
-
-// A listener has a routine of the same name.
-using LetterNote = UnknownLetter;
-
-/// Reports what of a name cannot be saved in a message box, which keeps the save waiting.
-class NameReporter : public EncodingListener {
- public:
-  /// `note` is called before each message, with the unknown letter that it is about or with
-  /// nothing.
-  NameReporter(MessagePort& messages, std::function<void(StepNote)> note)
-      : messages_(messages), note_(std::move(note)) {}
-
-  void UnknownLetter(int row, std::string_view letter) override {
-    note_(LetterNote{row, std::string(letter)});
-    messages_.Show(
-        {"You've used a letter that is not recognized by MORLEK EDITOR, change the letter and "
-         "save your edits again."});
-  }
-  void NameTooLong(int /*row*/) override {
-    note_({});
-    messages_.Show({"You are only allowed 10 player letters per name counting the period."});
-  }
-
- private:
-  MessagePort& messages_;
-  std::function<void(StepNote)> note_;
-};
 
 bool LacksHeader(const std::filesystem::path& path) {
   std::error_code failure;
