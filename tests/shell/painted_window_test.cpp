@@ -111,15 +111,6 @@ TEST_F(PaintedWindowTest, ACellThatIsNotSavedHasABarWhateverElseItHas) {
   }
   QApplication::setPalette(QPalette());
 
-  const auto red_in = [this](int column) {
-    const QImage corner = Seen(Box(column, 3)).copy(17, 1, 7, 7);
-    EXPECT_GE(ContrastIn(corner), kPlain);
-    return CountOf(corner, theme::kLight.lossy_mark, 90);
-  };
-  Box(6, 3).setText("X");
-  EXPECT_GT(red_in(6), 1.2 * red_in(5)) << "what is lost because of it is marked more quietly";
-  Press(Qt::Key_Z, Qt::ControlModifier);
-
   const QImage idle = Seen(Find("Command1"));
   TypeInto(6, 3, "X");
   const QImage pending = Seen(Find("Command1"));

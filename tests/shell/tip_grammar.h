@@ -58,9 +58,10 @@ inline SpokenTip ReadTip(const QString& tip) {
            text + ")|ends here, because this name is too long; the image then holds (?<ends>" +
            text + ")|does not reach this, because the name of (?<player>" + player +
            ") is too long; the image (?<verb>keeps|then holds) (?<unreached>" + text + "))" +
-           R"((?:\n(?<one>\w+) and (?<other>\w+) share a byte, and (?<bad>\w+) is not (?<not>.+))?)"
-           R"((?:\n(?<fault>Character \d+ is no letter that the game has|)"
-           R"(No initial stands before the period|No period follows the initial|A second period stands in the name))?)"
+           R"((?:\n(?<one>\w+) and (?<other>\w+) share a byte, )"
+           R"(and (?<bad>\w+) is not (?<not>.+))?)"
+           R"((?:\n(?<fault>Character \d+ is no letter that the game has|No initial stands )"
+           R"(before the period|No period follows the initial|A second period stands in the name))?)"
            R"((?:\n(?<head>[\w.#]+) takes (?<takes>.+))?)?)"
            R"((?<end>\n|\z)(?:Not saved yet; the image holds (?<held>)" +
            text + R"())?\z)";
