@@ -61,7 +61,8 @@ inline SpokenTip ReadTip(const QString& tip) {
            R"((?:\n(?<one>\w+) and (?<other>\w+) share a byte, )"
            R"(and (?<bad>\w+) is not (?<not>.+))?)"
            R"((?:\n(?<fault>Character \d+ is no letter that the game has|No initial stands )"
-           R"(before the period|No period follows the initial|A second period stands in the name))?)"
+           R"(before the period|No period follows the initial|A second period stands in )"
+           R"(the name))?)"
            R"((?:\n(?<head>[\w.#]+) takes (?<takes>.+))?)?)"
            R"((?<end>\n|\z)(?:Not saved yet; the image holds (?<held>)" +
            text + R"())?\z)";
