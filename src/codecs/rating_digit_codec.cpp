@@ -1,5 +1,7 @@
 #include "codecs/rating_digit_codec.h"
 
+#include <limits>
+
 #include "codecs/hex_text.h"
 #include "codecs/number_text.h"
 
@@ -27,6 +29,13 @@ std::optional<std::string> ShownRating(std::string_view digits) {
 
 std::optional<std::int32_t> PackRatings(std::string_view first, std::string_view second) {
   return DigitsOfDifference(std::string(first).append(second), 11);
+}
+
+bool KeepsRatings(std::string_view first, std::string_view second) {
+  const std::optional<std::int32_t> packed = PackRatings(first, second);
+  if (!packed || *packed < 0 || *packed > std::numeric_limits<std::uint8_t>::max()) return false;
+  const std::string digits = FormatRatingBytes({.first = static_cast<std::uint8_t>(*packed)}).first;
+  return ShownRating(digits.substr(0, 1)) == first && ShownRating(digits.substr(1)) == second;
 }
 
 std::optional<std::int32_t> PackSingleRating(std::string_view rating) {

@@ -37,6 +37,9 @@ inline constexpr int kLargestSingleRating = 100;
 [[nodiscard]] std::optional<std::int32_t> PackRatings(std::string_view first,
                                                       std::string_view second);
 
+/// Whether a load shows both texts again after SAVE has written the byte of such a pair.
+[[nodiscard]] bool KeepsRatings(std::string_view first, std::string_view second);
+
 /// The byte value of the one rating that a pitcher has in the second field; as above.
 [[nodiscard]] std::optional<std::int32_t> PackSingleRating(std::string_view rating);
 

@@ -7,39 +7,13 @@
 
 #include "codecs/code_page.h"
 #include "codecs/hex_text.h"
+#include "editor/name_reporter.h"
 #include "team/column_bytes.h"
 
 namespace morlek {
 namespace {
 
 constexpr char kImageFailureTitle[] = "Morlek Editor";
-
-// A listener has a routine of the same name.
-using LetterNote = UnknownLetter;
-
-/// Reports what of a name cannot be saved in a message box, which keeps the save waiting.
-class NameReporter : public EncodingListener {
- public:
-  /// `note` is called before each message, with the unknown letter that it is about or with
-  /// nothing.
-  NameReporter(MessagePort& messages, std::function<void(StepNote)> note)
-      : messages_(messages), note_(std::move(note)) {}
-
-  void UnknownLetter(int row, std::string_view letter) override {
-    note_(LetterNote{row, std::string(letter)});
-    messages_.Show(
-        {"You've used a letter that is not recognized by MORLEK EDITOR, change the letter and "
-         "save your edits again."});
-  }
-  void NameTooLong(int /*row*/) override {
-    note_({});
-    messages_.Show({"You are only allowed 10 player letters per name counting the period."});
-  }
-
- private:
-  MessagePort& messages_;
-  std::function<void(StepNote)> note_;
-};
 
 bool LacksHeader(const std::filesystem::path& path) {
   std::error_code failure;
@@ -90,9 +64,9 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
     return OpenResult::kRefused;
   }
   // The grid keeps its texts, but they are not this image's.
-  const Scene before = std::exchange(state_.scene, {{path, state_.scene.place.team}, false});
-  state_.picked = nullptr;
-  const StepNote left_behind = LeftBehindIn(before);
+  const PassedScene before{state_.scene, std::exchange(state_.picked, nullptr)};
+  state_.scene = {{path, before.scene.place.team}, false};
+  const StepNote left_behind = LeftBehindIn(before.scene);
   AddStep(before, {});
   Enter(state_.scene);
   EndOpening(path, OpenResult::kOpened, {.layout_set = true}, left_behind);
@@ -100,8 +74,13 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
 }
 
 void Editor::CancelDialog() {
+  StepNote note;
+  const auto* import = std::get_if<ImportResult>(&state_.outcome);
+  if (import != nullptr && import->outcome == ImportResult::Outcome::kEndedEarly) {
+    note = ClosedImport{import->lines};
+  }
   image_.Close();
-  EndFileStep({});
+  EndFileStep({}, {}, std::move(note));
 }
 
 bool Editor::ShowIdentity(std::uint8_t identity) {
@@ -110,6 +89,7 @@ bool Editor::ShowIdentity(std::uint8_t identity) {
 }
 
 LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
+  const PassedScene before{state_.scene, state_.picked};
   const Team* team = FindTeam(toolbar_key);
   if (team != nullptr) {
     state_.picked = team;
@@ -124,10 +104,9 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
     Publish();
   }
 
-  const Scene before = state_.scene;
   RosterGrid grid = state_.grid;
   LoadResult result = morlek::LoadTeam(image_, LocationOf(team), codec_state_, grid);
-  const StepNote left_behind = LeftBehindIn(before);
+  const StepNote left_behind = LeftBehindIn(before.scene);
   state_.note = {};
   baseline_ = nullptr;
   if (result.outcome == LoadResult::Outcome::kNotOpened) {
@@ -136,7 +115,7 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
                          : result.failure);
     AddStep(before, {});
   } else {
-    state_.scene = {{before.place.image, team}, true};
+    state_.scene = {{before.scene.place.image, team}, true};
     const GridChange texts = ChangeBetween(state_.grid, grid);
     state_.grid = grid;
     state_.layout = Layout::kNarrow;
@@ -148,7 +127,9 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
       EndFileStep(result, {.texts = texts, .loaded = true, .layout_set = true}, left_behind);
       return result;
     }
+    const Team* shown_before = state_.loaded;
     RefreshMarks();
+    state_.loaded = shown_before;
     Publish({.texts = texts, .layout_set = true});
     AbandonLoad(result.failure);
     AddStep(before, texts);
@@ -186,14 +167,14 @@ StepNote Editor::SavedIn(const SaveResult& saved) const {
   return changes;
 }
 
-void Editor::AddStep(const Scene& before, const GridChange& texts) {
+void Editor::AddStep(const PassedScene& before, const GridChange& texts) {
   history_.EndVisit();
   Step step{.texts = texts, .scenes = {}};
-  if (before != state_.scene) step.scenes = {before, state_.scene};
+  if (before.scene != state_.scene) step.scenes = {before, {state_.scene, state_.picked}};
   if (texts.empty() && !step.scenes) return;
   // Before the first team there is nothing to go back to.
   const bool is_first = !history_.can_undo() && !history_.can_redo() &&
-                        before.place.team == nullptr &&
+                        before.scene.place.team == nullptr &&
                         std::ranges::all_of(texts, &std::string::empty, &CellChange::before);
   if (!is_first) history_.Add(std::move(step));
 }
@@ -328,14 +309,16 @@ std::optional<Cell> Editor::Follow(const std::optional<Step>& step) {
     EndStep({.texts = step->texts});
     return step->texts.front().cell;
   }
-  const Scene& scene = step->scenes->after;
-  state_.picked = scene.is_grid_shown ? scene.place.team : nullptr;
+  const auto& [scene, picked] = step->scenes->after;
+  state_.picked = picked;
   Enter(scene);
   state_.outcome = {};
   state_.note = {};
   Publish({.texts = step->texts, .loaded = scene.is_grid_shown, .layout_set = true});
   return std::nullopt;
 }
+
+void Editor::NoteCopy(std::string who) { EndStep({}, {}, CopyNote{std::move(who)}); }
 
 void Editor::Minimize() {
   state_.layout = Layout::kNarrow;
@@ -360,15 +343,15 @@ GridChange Editor::Replace(const RosterGrid& grid) {
   return texts;
 }
 
-void Editor::EndStep(const StateChange& change, StepOutcome outcome) {
+void Editor::EndStep(const StateChange& change, StepOutcome outcome, StepNote note) {
   state_.outcome = std::move(outcome);
-  state_.note = {};
+  state_.note = std::move(note);
   if (!change.texts.empty()) RefreshMarks();
   Publish(change);
 }
 
 void Editor::RefreshMarks() {
-  state_.is_loaded = baseline_ != nullptr;
+  state_.loaded = baseline_ == nullptr ? nullptr : state_.scene.place.team;
   if (baseline_ == nullptr) {
     preview_.reset();
     state_.marks = {};

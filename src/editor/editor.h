@@ -109,6 +109,9 @@ class Editor {
   std::optional<Cell> Undo();
   std::optional<Cell> Redo();
 
+  /// A player or the team was copied to the clipboard, which changes nothing here.
+  void NoteCopy(std::string who);
+
   /// Asks for the narrow layout.
   void Minimize();
 
@@ -134,7 +137,7 @@ class Editor {
   [[nodiscard]] StepNote SavedIn(const SaveResult& saved) const;
 
   /// Adds the step that led from a scene to the current one, if there is anything to take back.
-  void AddStep(const Scene& before, const GridChange& texts);
+  void AddStep(const PassedScene& before, const GridChange& texts);
 
   /// Goes to a scene, whose grid is in place, in the narrow layout. No file is opened.
   void Enter(const Scene& scene);
@@ -149,7 +152,7 @@ class Editor {
   void RefreshMarks();
 
   /// Ends a step that has to do with no file.
-  void EndStep(const StateChange& change, StepOutcome outcome = {});
+  void EndStep(const StateChange& change, StepOutcome outcome = {}, StepNote note = {});
 
   /// Ends a step that had to do with a file.
   void EndFileStep(StepOutcome outcome, const StateChange& change = {}, StepNote note = {});

@@ -55,6 +55,16 @@ struct SavedChanges {
   int refused = 0;
 };
 
+/// An import that ended early, whose file a cancelled dialog has closed.
+struct ClosedImport {
+  int lines = 0;
+};
+
+/// Who was copied to the clipboard, by his name or in words.
+struct CopyNote {
+  std::string who;
+};
+
 /// A file that is no image of this game.
 struct RefusedFile {
   std::filesystem::path path;
@@ -63,7 +73,8 @@ struct RefusedFile {
 };
 
 /// What a person should know of the last step, until the next one.
-using StepNote = std::variant<std::monostate, LeftBehind, UnknownLetter, SavedChanges, RefusedFile>;
+using StepNote = std::variant<std::monostate, LeftBehind, UnknownLetter, SavedChanges, ClosedImport,
+                              CopyNote, RefusedFile>;
 
 /// How things stand: all that a window shows, as one value.
 struct EditorState {
@@ -75,9 +86,9 @@ struct EditorState {
   /// The team that was asked for last, where the next and the previous one are counted from; null
   /// when an image has just been opened.
   const Team* picked = nullptr;
-  /// Whether a load came through, so that marks can be told. Unlike the grid's being shown it is
-  /// false while a load reports its failure.
-  bool is_loaded = false;
+  /// The team of the last load that came through; null while no grid is shown. While a load that
+  /// ended early reports its failure, it is still the team before.
+  const Team* loaded = nullptr;
 
   RosterGrid grid;
   GridMarks marks;

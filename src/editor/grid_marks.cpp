@@ -4,12 +4,12 @@
 #include <iterator>
 #include <vector>
 
+#include "team/refusal.h"
 #include "team/same_text.h"
 
 namespace morlek {
 
-GridMarks::GridMarks(const RosterGrid& grid, const SavePreview& preview, const Baseline& baseline)
-    : end_row_(preview.end_row()) {
+GridMarks::GridMarks(const RosterGrid& grid, const SavePreview& preview, const Baseline& baseline) {
   for (const Cell cell : kAllCells) {
     const std::string& text = grid.Text(cell);
     const std::string& known = baseline.texts().Text(cell);
@@ -17,7 +17,9 @@ GridMarks::GridMarks(const RosterGrid& grid, const SavePreview& preview, const B
     const bool is_modified = !IsSameText(cell.column, text, known);
     const bool is_lossy = text == known ? text != after : !IsSameText(cell.column, text, after);
     if (!is_modified && !is_lossy) continue;
-    marks_.at(IndexOf(cell)) = {is_modified, is_lossy, preview.FateOf(cell), after, known};
+    marks_.at(IndexOf(cell)) = {
+        is_modified, is_lossy, preview.FateOf(cell),
+        after,       known,    is_lossy ? CauseElsewhere(grid, preview, cell) : std::nullopt};
     modified_count_ += is_modified ? 1 : 0;
     lossy_count_ += is_lossy ? 1 : 0;
   }
@@ -25,8 +27,11 @@ GridMarks::GridMarks(const RosterGrid& grid, const SavePreview& preview, const B
 
 std::optional<Cell> GridMarks::NextLossy(std::optional<Cell> from, bool backwards) const {
   const auto is_lossy = [this](Cell cell) { return At(cell).is_lossy; };
+  std::vector<Cell> cells;
+  std::ranges::copy_if(kCellsOnScreen, std::back_inserter(cells),
+                       [&](Cell cell) { return is_lossy(cell) || cell == from; });
+  std::stable_partition(cells.begin(), cells.end(), [this](Cell cell) { return !At(cell).cause; });
   // Forwards or backwards, the search begins behind the cell and comes round to it last.
-  std::vector<Cell> cells(kCellsOnScreen.begin(), kCellsOnScreen.end());
   if (backwards) std::ranges::reverse(cells);
   if (from) {
     std::rotate(cells.begin(), std::next(std::ranges::find(cells, *from)), cells.end());

@@ -20,6 +20,9 @@ struct CellMark {
   SavePreview::Fate fate = SavePreview::Fate::kStored;
   std::string after;
   std::string known;
+  /// The cell because of which SAVE would not keep a text that is good by itself; nothing when the
+  /// text is itself the cause.
+  std::optional<Cell> cause;
 
   [[nodiscard]] bool is_marked() const { return is_modified || is_lossy; }
 
@@ -43,19 +46,15 @@ class GridMarks {
   [[nodiscard]] int modified_count() const { return modified_count_; }
   [[nodiscard]] int lossy_count() const { return lossy_count_; }
 
-  /// The row of the name that ends SAVE, or nothing when none does.
-  [[nodiscard]] std::optional<int> end_row() const { return end_row_; }
-
-  /// The next cell that SAVE will not keep, as the cells stand on the screen, after `from` (or
-  /// before it, backwards), going round; without `from` the first one (or the last). Nothing when
-  /// there is none.
+  /// The next cell that SAVE will not keep after `from` (or before it, backwards), going round;
+  /// without `from` the first one (or the last). The causes come first, then what is lost because
+  /// of them, both as the cells stand on the screen. Nothing when there is none.
   [[nodiscard]] std::optional<Cell> NextLossy(std::optional<Cell> from, bool backwards) const;
 
  private:
   std::array<CellMark, kCellCount> marks_;
   int modified_count_ = 0;
   int lossy_count_ = 0;
-  std::optional<int> end_row_;
 };
 
 }  // namespace morlek

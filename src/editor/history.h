@@ -9,13 +9,19 @@
 
 namespace morlek {
 
+/// A scene, and the team that had been asked for last while it was shown.
+struct PassedScene {
+  Scene scene;
+  const Team* picked = nullptr;
+};
+
 /// A step that can be taken back and made again: what it did to the texts of the grid, and, when it
 /// went from one scene to another, both of them.
 struct Step {
   GridChange texts;
   struct SceneChange {
-    Scene before;
-    Scene after;
+    PassedScene before;
+    PassedScene after;
   };
   std::optional<SceneChange> scenes;
 };

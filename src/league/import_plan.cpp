@@ -74,8 +74,9 @@ class TeamPlanner {
 
   void Refuse(Cell cell, const SavePreview& preview) {
     const std::string head(HeadOf(cell.column));
-    const std::string why =
-        ReasonOfRefusal(grid_, preview, cell).value_or("the game cannot hold it");
+    const std::string why = ReasonOfRefusal(grid_.Text(cell), cell, preview.FateOf(cell),
+                                            CauseElsewhere(grid_, preview, cell))
+                                .value_or("the game cannot hold it");
     complaints_.push_back("line " +
                           std::to_string(asked_.lines.at(static_cast<std::size_t>(cell.row))) +
                           ": " + PlayerOf(team_, cell.row, known_.Text({Column::kName, cell.row})) +

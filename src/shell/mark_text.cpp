@@ -4,6 +4,8 @@
 #include <QTextDocument>
 
 #include "shell/code_page_text.h"
+#include "team/accepted_texts.h"
+#include "team/refusal.h"
 
 namespace morlek {
 namespace {
@@ -13,7 +15,7 @@ QString Quoted(const std::string& text) {
   return text.empty() ? QString("an empty box") : FromCodePage(text);
 }
 
-QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
+QString WhatSaveDoes(Cell cell, const CellMark& mark) {
   const QString after = Quoted(mark.after);
   switch (mark.fate) {
     case SavePreview::Fate::kStored:
@@ -31,13 +33,42 @@ QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
   // Initials are saved before everything else, so a name may still change.
   const bool is_name = cell.column == Column::kName;
   return QString("SAVE does not reach this, because the name of %1 is too long; the image %2 %3")
-      .arg(FromCodePage(PlayerText(marks.end_row().value_or(cell.row))),
+      .arg(FromCodePage(PlayerText(mark.cause.value_or(cell).row)),
            is_name ? "then holds" : "keeps", after);
+}
+
+/// Why it does so, where that has not been said, and what the column takes.
+QStringList WhySo(const std::string& text, Cell cell, const CellMark& mark) {
+  using enum SavePreview::Fate;
+  if (mark.fate == kNotReached) return {};
+  QStringList lines;
+  if (mark.fate != kEndsSave) {
+    QString reason =
+        FromCodePage(ReasonOfRefusal(text, cell, mark.fate, mark.cause).value_or(std::string()));
+    if (!reason.isEmpty()) lines << reason.replace(0, 1, reason[0].toUpper());
+  }
+  return lines << QString("%1 takes %2")
+                      .arg(FromCodePage(CaptionOf(BlockOf(cell.row), cell.column)),
+                           FromCodePage(AcceptedTexts(cell.column)));
 }
 
 QString Counted(int count, const QString& one, const QString& many) {
   return QString("%1 %2").arg(count).arg(count == 1 ? one : many);
 }
+
+/// A text that may be of any length, short enough for a line.
+QString Shortened(const QString& text) {
+  constexpr int kMost = 24;
+  constexpr int kEnd = kMost / 2;
+  if (text.size() <= kMost) return text;
+  return text.first(kMost - kEnd - 1) + QChar(0x2026) + text.last(kEnd);
+}
+
+QString NameOf(const RefusedFile& file) {
+  return QString::fromStdU16String(file.path.filename().u16string());
+}
+
+QString LinesRead(int lines) { return QString("%1 of %2 lines read").arg(lines).arg(kSlotCount); }
 
 QString TextOf(std::monostate /*nothing*/, const EditorState& /*state*/) { return {}; }
 
@@ -53,7 +84,7 @@ QString TextOf(const UnknownLetter& unknown, const EditorState& state) {
   if (unknown.letter.empty()) return QString("the name of %1 is empty").arg(player);
   return QString("%1 in %2, the name of %3")
       .arg(FromCodePage(unknown.letter),
-           FromCodePage(state.grid.Text({Column::kName, unknown.row})), player);
+           Shortened(FromCodePage(state.grid.Text({Column::kName, unknown.row}))), player);
 }
 
 QString TextOf(const SavedChanges& saved, const EditorState& /*state*/) {
@@ -63,18 +94,25 @@ QString TextOf(const SavedChanges& saved, const EditorState& /*state*/) {
   return parts.join(", ");
 }
 
+QString TextOf(const ClosedImport& import, const EditorState& state) {
+  return LinesRead(import.lines) + (state.can_undo ? ", Ctrl+Z goes back" : "");
+}
+
+QString TextOf(const CopyNote& copied, const EditorState& /*state*/) {
+  return QString("%1 is copied").arg(Shortened(FromCodePage(copied.who)));
+}
+
 QString TextOf(const RefusedFile& file, const EditorState& /*state*/) {
   if (!file.lacks_header) return {};
-  const QString name = QString::fromStdU16String(file.path.filename().u16string());
-  return QString("%1 lacks the 512 bytes in front of the game").arg(name);
+  return QString("%1 lacks the 512 bytes in front of the game").arg(Shortened(NameOf(file)));
 }
 
 }  // namespace
 
-QString TipOf(const GridMarks& marks, Cell cell) {
-  const CellMark& mark = marks.At(cell);
+QString TipOf(const EditorState& state, Cell cell) {
+  const CellMark& mark = state.marks.At(cell);
   QStringList lines;
-  if (mark.is_lossy) lines << WhatSaveDoes(marks, cell, mark);
+  if (mark.is_lossy) lines << WhatSaveDoes(cell, mark) << WhySo(state.grid.Text(cell), cell, mark);
   const bool is_explained = mark.is_lossy && mark.after == mark.known;
   if (mark.is_modified && !is_explained) {
     lines << QString("Not saved yet; the image holds %1").arg(Quoted(mark.known));
@@ -97,7 +135,7 @@ QString SummaryOf(const GridMarks& marks) {
 QString NoteOf(const EditorState& state) {
   if (const auto* import = std::get_if<ImportResult>(&state.outcome)) {
     if (import->outcome == ImportResult::Outcome::kEndedEarly) {
-      return QString("%1 of %2 lines read").arg(import->lines).arg(kSlotCount);
+      return LinesRead(import->lines);
     }
   }
   if (const auto* paste = std::get_if<PasteResult>(&state.outcome)) {
@@ -122,8 +160,10 @@ QString DetailsOf(const EditorState& state) {
   }
   const auto* refused = std::get_if<RefusedFile>(&state.note);
   if (refused != nullptr && refused->lacks_header) {
-    return "The size of the file is that of a game without the 512 bytes that a copier puts in "
-           "front of it. The README says how to add them.\n";
+    return QString(
+               "%1 has the size of a game without the 512 bytes that a copier puts in front of "
+               "it. The README says how to add them.\n")
+        .arg(NameOf(*refused));
   }
   return {};
 }

@@ -6,8 +6,9 @@
 
 namespace morlek {
 
-/// The tip that explains the marks of a cell; empty for a cell without marks.
-[[nodiscard]] QString TipOf(const GridMarks& marks, Cell cell);
+/// The tip that explains the marks of a cell: what SAVE does, why, what the column takes, and what
+/// the image holds; empty for a cell without marks.
+[[nodiscard]] QString TipOf(const EditorState& state, Cell cell);
 
 /// How many changes are not saved and how many cells SAVE will not keep, in words; empty when both
 /// are zero.

@@ -33,7 +33,22 @@ QAction* PlayerCommands::Add(QWidget& frame, const QString& caption, const QKeyS
     if (cell && editor_.state().scene.is_grid_shown) (this->*run)(*cell);
   });
   frame.addAction(action);
+  actions_ << action;
   return action;
+}
+
+QString PlayerCommands::KeysText() const {
+  QStringList lines;
+  for (const QAction* action : actions_) {
+    lines << action->text().remove('&') + ": " +
+                 action->shortcut().toString(QKeySequence::NativeText);
+  }
+  return lines.join('\n');
+}
+
+std::string PlayerCommands::PlayerIn(int row) const {
+  const std::string& name = editor_.state().grid.Text({Column::kName, row});
+  return name.empty() ? PlayerText(row) : name;
 }
 
 void PlayerCommands::MenuOpens() {
@@ -49,7 +64,10 @@ void PlayerCommands::MenuCloses() {
   for (QAction* action : {paste_, exchange_, move_up_, move_down_}) action->setEnabled(true);
 }
 
-void PlayerCommands::Copy(Cell cell) { CopyPlayer(PlayerAt(editor_.state().grid, cell.row)); }
+void PlayerCommands::Copy(Cell cell) {
+  CopyPlayer(PlayerAt(editor_.state().grid, cell.row));
+  editor_.NoteCopy(PlayerIn(cell.row));
+}
 
 void PlayerCommands::Paste(Cell cell) {
   if (const auto player = CopiedPlayer(BlockOf(cell.row))) editor_.PastePlayer(cell.row, *player);
@@ -58,8 +76,10 @@ void PlayerCommands::Paste(Cell cell) {
 void PlayerCommands::Exchange(Cell cell) {
   const auto player = CopiedPlayer(BlockOf(cell.row));
   if (!player) return;
-  Copy(cell);
+  const std::string copied = PlayerIn(cell.row);
+  CopyPlayer(PlayerAt(editor_.state().grid, cell.row));
   editor_.PastePlayer(cell.row, *player);
+  editor_.NoteCopy(copied);
 }
 
 void PlayerCommands::MoveUp(Cell cell) { Move(cell, -1); }
@@ -71,6 +91,9 @@ void PlayerCommands::Move(Cell cell, int direction) {
   if (row) emit Moved({cell.column, *row});
 }
 
-void PlayerCommands::CopyWholeTeam(Cell /*cell*/) { CopyTeam(editor_.state().grid); }
+void PlayerCommands::CopyWholeTeam(Cell /*cell*/) {
+  CopyTeam(editor_.state().grid);
+  editor_.NoteCopy("the team");
+}
 
 }  // namespace morlek

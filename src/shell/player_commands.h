@@ -24,6 +24,9 @@ class PlayerCommands : public QObject {
   /// `focused_cell` gives the cell of the box with the focus, if one has it.
   PlayerCommands(Editor& editor, QWidget& frame, FocusedCell focused_cell);
 
+  /// The commands with their keys, one a line.
+  [[nodiscard]] QString KeysText() const;
+
   /// A context menu opens: disables what could not do anything. Until the menu closes, nothing else
   /// can change that.
   void MenuOpens();
@@ -48,8 +51,12 @@ class PlayerCommands : public QObject {
   void CopyWholeTeam(Cell cell);
   void Move(Cell cell, int direction);
 
+  /// The player of a row by his name, or in words where he has none.
+  [[nodiscard]] std::string PlayerIn(int row) const;
+
   Editor& editor_;
   FocusedCell focused_cell_;
+  QList<QAction*> actions_;
   QAction* paste_ = nullptr;
   QAction* exchange_ = nullptr;
   QAction* move_up_ = nullptr;

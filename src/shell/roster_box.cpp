@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <numbers>
 
 #include "shell/box_clipboard.h"
 #include "shell/box_menu.h"
@@ -113,18 +114,23 @@ void RosterBox::PaintBar(QPainter& painter) const {
 }
 
 void RosterBox::PaintCorner(QPainter& painter) const {
-  // Above text and selection, with an edge that sets it off from both.
-  constexpr qreal kSize = 7;
   const theme::Shades& shades = theme::ShadesOf(palette());
   const QPointF corner(width() - 1, 1);
-  const QPointF left = corner - QPointF(kSize, 0);
-  const QPointF below = corner + QPointF(0, kSize);
+  const auto paint = [&painter](const QPointF& top, qreal size, const QColor& color) {
+    painter.setBrush(color);
+    painter.drawPolygon(QPolygonF({top - QPointF(size, 0), top, top + QPointF(0, size)}));
+  };
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(shades.lossy_mark);
-  painter.drawPolygon(QPolygonF({left, corner, below}));
-  painter.setPen(QPen(shades.base, 1));
-  painter.drawLine(QLineF(left - QPointF(0.5, -0.5), below - QPointF(0.5, -0.5)));
+  // Above text and selection, with an edge that sets it off from both.
+  constexpr qreal kSize = 7;
+  constexpr qreal kEdge = 1.5;
+  paint(corner, kSize + kEdge, shades.base);
+  paint(corner, kSize, shades.lossy_mark);
+  if (!mark_.cause) return;
+  constexpr qreal kStroke = 1;
+  constexpr qreal kInside = kSize - (2 + std::numbers::sqrt2) * kStroke;
+  paint(corner + QPointF(-kStroke, kStroke), kInside, shades.base);
 }
 
 bool RosterBox::event(QEvent* event) {

@@ -20,6 +20,9 @@ class RosterBox : public ValueEdit, public OwnPanel {
 
   [[nodiscard]] Cell cell() const { return cell_; }
 
+  /// The marks that were shown last.
+  [[nodiscard]] const CellMark& mark() const { return mark_; }
+
   /// Shows the marks of the cell; `tip` says in words what they mean, and is empty without any.
   void ShowMark(const CellMark& mark, const QString& tip);
 
@@ -30,7 +33,8 @@ class RosterBox : public ValueEdit, public OwnPanel {
   /// Paints the box as a cell of the sheet: neighbours share their border lines.
   void PaintPanel(QPainter& painter) const override;
 
-  /// Paints the bar of a cell that is not saved and the corner of one that SAVE will not keep.
+  /// Paints the bar of a cell that is not saved and the corner of one that SAVE will not keep,
+  /// hollow where another cell is to blame.
   /// Belongs above the focus ring.
   void PaintMarks(QPainter& painter) const;
 

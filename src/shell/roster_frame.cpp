@@ -66,10 +66,10 @@ RosterFrame::RosterFrame(Editor& editor, QWidget* parent) : QFrame(parent), edit
   setObjectName("Frame1");
   setAccessibleName("roster");
   setGeometry(RectFromTwips(60, 720, 6555, 9015));
+  AddKeys();
   for (const BlockLayout& layout : kBlockLayouts) AddHeaders(layout);
   for (const Cell cell : kCellsOnScreen) AddBox(cell);
   AddTeamNameAndSave();
-  AddKeys();
   new FocusRing(this);
   hide();
 }
@@ -82,7 +82,7 @@ void RosterFrame::Show(const EditorState& state, const StateChange& change) {
   ShowVisible(state.scene.is_grid_shown);
   ShowTints();
   ShowTexts(change);
-  ShowMarks(state);
+  ShowMarks(state, change);
 }
 
 void RosterFrame::ShowVisible(bool shown) {
@@ -106,18 +106,26 @@ void RosterFrame::ShowTexts(const StateChange& change) {
   if (focused != nullptr) focused->BeginVisit();
 }
 
-void RosterFrame::ShowMarks(const EditorState& state) {
+void RosterFrame::ShowMarks(const EditorState& state, const StateChange& change) {
   const GridMarks& marks = state.marks;
   for (const Cell cell : kAllCells) {
     // Most cells have no mark and had none; this runs with every key.
     const bool is_marked = marks.At(cell).is_marked();
     if (!std::exchange(is_marked_.at(IndexOf(cell)), is_marked) && !is_marked) continue;
-    BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
+    if (marks.At(cell) != BoxAt(cell).mark()) ShowMark(state, cell);
+  }
+  // The reason depends on the text as well, be the mark the same.
+  for (const CellChange& part : change.texts) {
+    if (marks.At(part.cell).is_lossy) ShowMark(state, part.cell);
   }
   save_->SetFilled(marks.modified_count() > 0);
   save_->setAccessibleDescription(SummaryOf(marks));
   undo_->setEnabled(state.can_undo);
   redo_->setEnabled(state.can_redo);
+}
+
+void RosterFrame::ShowMark(const EditorState& state, Cell cell) {
+  BoxAt(cell).ShowMark(state.marks.At(cell), TipOf(state, cell));
 }
 
 void RosterFrame::ShowTints() {
@@ -152,10 +160,13 @@ void RosterFrame::AddHeaders(const BlockLayout& layout) {
     auto* label = new QLabel(FromCodePage(column.caption), this);
     label->setObjectName(QString("Label4(%1)").arg(layout.first_header + static_cast<int>(place)));
     label->setAccessibleName(FromCodePage(column.meaning));
-    std::string accepted = AcceptedTexts(column.column);
-    if (IsFeature(column.column)) accepted += "; click a box to pick from pictures";
-    label->setToolTip(FromCodePage(std::string(column.meaning) + ", " + accepted));
-    label->setAccessibleDescription(FromCodePage(accepted));
+    QString help = FromCodePage(AcceptedTexts(column.column));
+    if (column.column == Column::kName) help += '\n' + players_->KeysText();
+    if (IsFeature(column.column)) {
+      help += "; click a box to pick from pictures\nLeaf through them: Page Up, Page Down";
+    }
+    label->setToolTip(FromCodePage(column.meaning) + ", " + help);
+    label->setAccessibleDescription(help);
     label->setGeometry(HeaderRectOf(layout, place));
     label->setFont(theme::Font(kPixels, QFont::DemiBold));
     label->setContentsMargins(0, kHeaderGap, 0, 0);

@@ -58,7 +58,8 @@ class RosterFrame : public QFrame {
 
   void ShowVisible(bool shown);
   void ShowTexts(const StateChange& change);
-  void ShowMarks(const EditorState& state);
+  void ShowMarks(const EditorState& state, const StateChange& change);
+  void ShowMark(const EditorState& state, Cell cell);
   void ShowTints();
 
   Editor& editor_;

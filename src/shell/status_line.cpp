@@ -16,6 +16,21 @@ constexpr char kFileHeld[] = "a file is still open and blocks SAVE (Ctrl+O, Canc
 constexpr int kPixels = 11;
 constexpr int kSmallestNameWidth = 60;
 
+const QString& Separator() {
+  static const QString separator = QString::fromUtf8(" \u00b7 ");
+  return separator;
+}
+
+/// As many of the parts as there is room for; an ellipsis stands for the rest.
+QString Fitted(QStringList parts, const QFontMetrics& metrics, int width) {
+  QString fitted = parts.join(Separator());
+  while (metrics.horizontalAdvance(fitted) > width && parts.size() > 1) {
+    parts.removeLast();
+    fitted = parts.join(Separator()) + Separator() + QChar(0x2026);
+  }
+  return metrics.elidedText(fitted, Qt::ElideRight, width);
+}
+
 }  // namespace
 
 StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
@@ -28,27 +43,27 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
 
 void StatusLine::Show(const EditorState& state) {
   const QString path = QString::fromStdU16String(state.scene.place.image.u16string());
-  const QString separator = QString::fromUtf8(" \u00b7 ");
   QStringList notes = {NoteOf(state)};
   if (state.scene.is_grid_shown) {
     notes << (state.is_file_held ? QString(kFileHeld) : SummaryOf(state.marks));
   }
   notes.removeAll(QString());
   const QString name = QFileInfo(path).fileName();
-  const QString said = notes.join(separator);
+  const QString said = notes.join(Separator());
   const QFontMetrics metrics(font());
-  const int room = width() - metrics.horizontalAdvance(separator + said);
-  QStringList shown = notes;
+  const int room = width() - metrics.horizontalAdvance(Separator() + said);
+  QStringList shown = said.split(Separator(), Qt::SkipEmptyParts);
   // What is said comes before the name, which its tip shows as well.
   if (room >= kSmallestNameWidth || notes.isEmpty()) {
     shown.prepend(metrics.elidedText(name, Qt::ElideMiddle, notes.isEmpty() ? width() : room));
   }
   shown.removeAll(QString());
-  setText(metrics.elidedText(shown.join(separator), Qt::ElideRight, width()));
-  setToolTip(PlainTip(DetailsOf(state) + QDir::toNativeSeparators(path)));
+  setText(Fitted(shown, metrics, width()));
+  const QString cut = text().endsWith(said) ? QString() : said + '\n';
+  setToolTip(PlainTip(cut + DetailsOf(state) + QDir::toNativeSeparators(path)));
   QStringList spoken = notes;
   if (!name.isEmpty()) spoken.prepend(name);
-  setAccessibleDescription(spoken.join(separator));
+  setAccessibleDescription(spoken.join(Separator()));
   // For who cannot see that the line has changed.
   QAccessibleEvent changed(this, QAccessible::Alert);
   if (said != said_) QAccessible::updateAccessibility(&changed);

@@ -13,9 +13,10 @@ class StatusLine : public QLabel {
  public:
   explicit StatusLine(QWidget* parent);
 
-  /// Shows the file name of the image (its whole path in the tool tip), truncated if necessary,
-  /// followed by the outcome of the last step and the counts of marks. Alerts screen readers when
-  /// that changes.
+  /// Shows the file name of the image (its whole path in the tool tip), followed by the outcome of
+  /// the last step and the counts of marks. Where there is no room for all of it, the name goes
+  /// first, then parts at the end, which the tool tip shows. Alerts screen readers when what
+  /// follows the name changes.
   void Show(const EditorState& state);
 
  private:

@@ -110,7 +110,7 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
 void TeamToolbar::Show(const EditorState& state) {
   setVisible(!state.scene.place.image.empty());
   for (const Team& team : kTeamDirectory) {
-    buttons_.at(PlaceOf(team))->SetMarked(state.is_loaded && state.scene.place.team == &team);
+    buttons_.at(PlaceOf(team))->SetMarked(state.loaded == &team);
   }
 }
 

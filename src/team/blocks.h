@@ -115,4 +115,9 @@ inline constexpr Block kPitchers = {
   return row < kBatters.end_row ? kBatters : kPitchers;
 }
 
+/// The caption over a column of a block; lives for the whole run.
+[[nodiscard]] constexpr std::string_view CaptionOf(const Block& block, Column column) {
+  return block.columns.at(block.PlaceOf(column).value()).caption;
+}
+
 }  // namespace morlek

@@ -1,41 +1,52 @@
 #include "team/refusal.h"
 
-#include <algorithm>
+#include <cstdint>
 #include <string_view>
 
+#include "codecs/appearance_codec.h"
+#include "codecs/hand_codec.h"
+#include "codecs/hex_text.h"
 #include "codecs/name_letter_codec.h"
-#include "image/record_layout.h"
+#include "codecs/rating_digit_codec.h"
 #include "team/accepted_texts.h"
 #include "team/column_bytes.h"
-#include "team/record_bytes.h"
-#include "team/record_decoder.h"
 #include "team/same_text.h"
 
 namespace morlek {
 namespace {
 
-/// Whether SAVE keeps the text of a cell, and what shares a byte with it, beside neighbours that do
-/// not stand in its way: those of a record of zeros.
-bool IsTakenAlone(Cell cell, const std::string& text) {
-  RecordBytes zeros;
-  for (int row = 0; row < kSlotCount; ++row) {
-    for (int offset = 0; offset < kSlotBytes; ++offset) zeros.Put(row, offset, 0);
+using enum Column;
+
+/// Whether SAVE keeps the text of a cell, and what shares a byte with it, beside a good text there.
+/// Only of columns that share a byte; this is asked for with every key.
+bool IsTakenAlone(Column column, const std::string& text) {
+  constexpr char kGoodRating[] = "1";
+  switch (column) {
+    case kBatting:
+    case kPitchSpeed:
+    case kSpeed:
+      return KeepsRatings(text, kGoodRating);
+    case kPower:
+    case kControl:
+    case kFielding:
+      return KeepsRatings(kGoodRating, text);
+    case kThrowingHand: {
+      PitcherHandEncoder encoder;
+      return encoder.EncodeHandAndFace(text, ByteToTwoDigits(0)).is_known &&
+             encoder.EncodeMarks(text).is_known;
+    }
+    case kFace: {
+      const std::optional<std::uint8_t> byte = AppearanceByte(text);
+      return byte && IsSameText(column, text, ByteToText(*byte));
+    }
+    default:
+      return true;
   }
-  CodecState state;
-  RosterGrid grid;
-  DecodeRecord([](int /*row*/, int /*offset*/) { return std::uint8_t{0}; }, state, grid);
-  grid.SetText(cell, text);
-  const SavePreview alone(grid, state, zeros);
-  return IsSameText(cell.column, text, alone.TextAfter(cell)) &&
-         std::ranges::all_of(BlockOf(cell.row).columns, [&](const BlockColumn& each) {
-           const Cell other{each.column, cell.row};
-           return other == cell || !ShareAByte(cell, other) ||
-                  grid.Text(other) == alone.TextAfter(other);
-         });
 }
 
 /// What is wrong with a name, by its first fault.
 std::optional<std::string> FaultOfName(std::string_view name) {
+  if (name.starts_with('.')) return "no initial stands before the period";
   constexpr std::size_t kPoint = 1;
   for (std::size_t place = 0; place < name.size(); ++place) {
     const char character = name[place];
@@ -52,32 +63,34 @@ std::optional<std::string> FaultOfName(std::string_view name) {
 
 }  // namespace
 
-std::optional<std::string> ReasonOfRefusal(const RosterGrid& grid, const SavePreview& preview,
-                                           Cell cell) {
-  const SavePreview::Fate fate = preview.FateOf(cell);
-  if (fate == SavePreview::Fate::kEndsSave) return "the name is too long";
-  if (fate == SavePreview::Fate::kNotReached) {
-    return "the name of " + PlayerText(*preview.end_row()) + " is too long and ends the save";
+std::optional<Cell> CauseElsewhere(const RosterGrid& grid, const SavePreview& preview, Cell cell) {
+  if (preview.FateOf(cell) == SavePreview::Fate::kNotReached) {
+    return Cell{kName, *preview.end_row()};
   }
-  const std::string& text = grid.Text(cell);
-  if (cell.column == Column::kName) return FaultOfName(text);
-  if (!IsTakenAlone(cell, text)) return std::nullopt;
-
-  const Block& block = BlockOf(cell.row);
-  const auto caption = [&block](Column column) {
-    return std::string(block.columns.at(block.PlaceOf(column).value_or(0)).caption);
-  };
-  for (const BlockColumn& each : block.columns) {
+  for (const BlockColumn& each : BlockOf(cell.row).columns) {
     const Cell other{each.column, cell.row};
     if (other == cell || !ShareAByte(cell, other)) continue;
-    if (IsTakenAlone(other, grid.Text(other))) continue;
-    const bool is_first = *block.PlaceOf(cell.column) < *block.PlaceOf(other.column);
-    std::string reason = caption(is_first ? cell.column : other.column);
-    reason.append(" and ").append(caption(is_first ? other.column : cell.column));
-    reason.append(" share a byte, and ").append(caption(other.column));
-    return reason.append(" is not ").append(AcceptedTexts(other.column));
+    if (!IsTakenAlone(cell.column, grid.Text(cell))) return std::nullopt;
+    if (!IsTakenAlone(other.column, grid.Text(other))) return other;
   }
   return std::nullopt;
+}
+
+std::optional<std::string> ReasonOfRefusal(const std::string& text, Cell cell,
+                                           SavePreview::Fate fate, std::optional<Cell> cause) {
+  if (fate == SavePreview::Fate::kEndsSave) return "the name is too long";
+  if (!cause) return cell.column == kName ? FaultOfName(text) : std::nullopt;
+  if (cause->column == kName) {
+    return "the name of " + PlayerText(cause->row) + " is too long and ends the save";
+  }
+  const Block& block = BlockOf(cell.row);
+  const bool is_first = *block.PlaceOf(cell.column) < *block.PlaceOf(cause->column);
+  const std::string_view caption = CaptionOf(block, cell.column);
+  const std::string_view bad = CaptionOf(block, cause->column);
+  std::string reason(is_first ? caption : bad);
+  reason.append(" and ").append(is_first ? bad : caption);
+  reason.append(" share a byte, and ").append(bad);
+  return reason.append(" is not ").append(AcceptedTexts(cause->column));
 }
 
 }  // namespace morlek

@@ -11,7 +11,9 @@ using enum Column;
 
 /// What an observer was shown at one moment.
 struct Shown {
-  bool grid, ring, held;
+  bool grid;
+  const Team* ring;
+  bool held;
   int modified;
   std::size_t messages;  // that had been shown before
 
@@ -23,7 +25,7 @@ class EditorStateTest : public TeamTest {
  protected:
   EditorStateTest() {
     subscription = editor.Subscribe([this](const EditorState& state, const StateChange& change) {
-      seen.push_back({state.scene.is_grid_shown, state.is_loaded, state.is_file_held,
+      seen.push_back({state.scene.is_grid_shown, state.loaded, state.is_file_held,
                       state.marks.modified_count(), messages.shown.size()});
       last_change = change;
       const auto* letter = std::get_if<UnknownLetter>(&state.note);
@@ -75,7 +77,8 @@ TEST_F(EditorStateTest, BehindTheMessagesOfASaveStandTheLetterAndThenTheFreshMar
   editor.Save();
   EXPECT_EQ(messages.shown,
             (std::vector<Message>{{kUnknownLetter, "MORLEK EDITOR"}, {kSaved, "MORLEK EDITOR"}}));
-  EXPECT_EQ(seen, (std::vector<Shown>{{true, true, false, 2, 0}, {true, true, false, 1, 1}}));
+  EXPECT_EQ(seen, (std::vector<Shown>{{true, kBravesTeam, false, 2, 0},
+                                      {true, kBravesTeam, false, 1, 1}}));
   EXPECT_EQ(notes.at(0).row, 3);
   EXPECT_EQ(notes.at(0).letter, "1");
 }
@@ -86,7 +89,8 @@ TEST_F(EditorStateTest, ANameThatIsTooLongIsReportedBeforeTheFileIsClosedAndTheM
   seen.clear();
   editor.Save();
   EXPECT_EQ(messages.Texts(), std::vector<std::string>{kNameTooLong});
-  EXPECT_EQ(seen, (std::vector<Shown>{{true, true, false, 1, 1}})) << "the row before it is saved";
+  EXPECT_EQ(seen, (std::vector<Shown>{{true, kBravesTeam, false, 1, 1}}))
+      << "the row before it is saved";
   EXPECT_EQ(std::get<SaveResult>(state().outcome).end_row, 4);
 }
 
@@ -96,15 +100,16 @@ TEST_F(EditorStateTest, ALoadThatFailsHidesTheGridOnlyAfterItsMessage) {
   seen.clear();
   EXPECT_EQ(editor.LoadTeam("Orioles").outcome, LoadResult::Outcome::kEndedEarly);
   EXPECT_TRUE(last_change.layout_set == false && state().scene.place.team == kOriolesTeam);
-  EXPECT_EQ(seen, (std::vector<Shown>{{true, false, false, 0, 0}, {false, false, false, 0, 1}}))
-      << "with what was read";
+  EXPECT_EQ(seen,
+            (std::vector<Shown>{{true, kBravesTeam, false, 0, 0}, {false, nullptr, false, 0, 1}}))
+      << "with what was read, and the ring where it was";
   EXPECT_EQ(state().layout, Layout::kNarrow);
   editor.LoadTeam("Braves");
   editor.Type(kNumber, "77");
   seen.clear();
   disk.files.clear();
   EXPECT_EQ(editor.LoadTeam("Orioles").outcome, LoadResult::Outcome::kNotOpened);
-  EXPECT_EQ(seen, (std::vector<Shown>{{false, false, false, 0, 2}}));
+  EXPECT_EQ(seen, (std::vector<Shown>{{false, nullptr, false, 0, 2}}));
   EXPECT_EQ(state().grid.Text(kNumber), "77");
   EXPECT_EQ(state().picked, kOriolesTeam);
 }

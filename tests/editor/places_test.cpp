@@ -85,10 +85,10 @@ class PlacesTest : public TeamTest {
 
   /// The marks follow from the grid, what codecs keep and what the image is known to hold.
   void ExpectMarksOfTheMoment() {
-    EXPECT_EQ(state().is_loaded, state().scene.is_grid_shown);
-    const GridMarks marks = state().is_loaded
-                                ? GridMarks(state().grid, editor.Preview(), *editor.baseline())
-                                : GridMarks();
+    const bool is_loaded = state().scene.is_grid_shown;
+    EXPECT_EQ(state().loaded, is_loaded ? state().scene.place.team : nullptr);
+    const GridMarks marks =
+        is_loaded ? GridMarks(state().grid, editor.Preview(), *editor.baseline()) : GridMarks();
     for (const Cell cell : kAllCells) EXPECT_EQ(state().marks.At(cell), marks.At(cell));
   }
 
@@ -101,10 +101,14 @@ TEST_F(PlacesTest, EveryStepCanBeTakenBackAndMadeAgainAcrossTeamsAndImages) {
     std::mt19937 random(seed);
     while (state().can_undo) editor.Undo();
     std::vector<std::pair<Scene, RosterGrid>> passed = {{state().scene, state().grid}};
+    std::vector<const Team*> picked = {state().picked};
     for (int step = 0; step < 60; ++step) {
       TakeStep(random);
       const std::pair now(state().scene, state().grid);
-      if (now != passed.back()) passed.push_back(now);
+      if (now != passed.back()) {
+        passed.push_back(now);
+        picked.push_back(state().picked);
+      }
       if (random() % 10 == 0) SaveInPlace();
     }
     const std::size_t files_opened = disk.opened.size();
@@ -122,6 +126,9 @@ TEST_F(PlacesTest, EveryStepCanBeTakenBackAndMadeAgainAcrossTeamsAndImages) {
     for (std::size_t place = 1; place < passed.size(); ++place) {
       editor.Redo();
       expect_at(place);
+      if (passed.at(place).first != passed.at(place - 1).first) {
+        EXPECT_EQ(state().picked, picked.at(place)) << place;
+      }
     }
     EXPECT_FALSE(state().can_redo);
     EXPECT_EQ(disk.opened.size(), files_opened) << "undo and redo open no file";

@@ -115,6 +115,7 @@ TEST_F(FilesTest, WhatCannotBeOpenedIsSilentAndACancelFreesAShortFile) {
     ChooseWith("mnuImport", PathOf("short.txt"));
     EXPECT_EQ(Box(1, 0).text(), "A.B");
     ChooseWith(cancelled, std::nullopt);
+    EXPECT_TRUE(LabelText("labelStatus").contains("1 of 25 lines read, Ctrl+Z goes back"));
     Click("Braves");
     EXPECT_TRUE(user.messages.empty()) << cancelled;
   }

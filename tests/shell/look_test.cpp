@@ -92,11 +92,12 @@ class LookTest : public WindowTest {
     EXPECT_EQ(seen, 3);
   }
 
-  /// Marks of every kind: not saved, not kept, and a dot on SAVE. The focus is in one of them.
+  /// Marks of every kind: not saved, not kept, lost because of another cell, and a dot on SAVE. The
+  /// focus is in one of them.
   void MarkTeam() {
     StartWithTeam();
     int column = 0;
-    for (const char* text : {"J.SM1TH", "ZZ", "300", "X", "12"}) TypeInto(++column, 1, text);
+    for (const char* text : {"J.SM1TH", "ZZ", "300", "X", "8", "12"}) TypeInto(++column, 1, text);
     TypeInto(3, 14, "77");
     TypeInto(9, 20, "9.99");
     Box(12, 5).setFocus();

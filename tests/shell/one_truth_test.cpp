@@ -74,6 +74,10 @@ void OneTruthTest::ExpectFoot() const {
     parts.removeAll("");
     notes << parts.join(", ");
   }
+  if (const auto* closed = std::get_if<ClosedImport>(&state().note)) {
+    notes << QString("%1 of 25 lines read").arg(closed->lines) +
+                 (state().can_undo ? ", Ctrl+Z goes back" : "");
+  }
   const auto* import = std::get_if<ImportResult>(&state().outcome);
   if (import != nullptr && import->outcome == ImportResult::Outcome::kEndedEarly) {
     notes << QString("%1 of 25 lines read").arg(import->lines);
@@ -92,13 +96,16 @@ void OneTruthTest::ExpectFoot() const {
   notes.removeAll("");
   const QString foot = notes.join(QString::fromUtf8(" · "));
   ASSERT_EQ(Find("labelStatus").accessibleDescription(), foot);
-  // The name of the image gives way where the rest needs the room, and then the end of the rest.
+  // The name of the image gives way where the rest needs the room, and then whole parts of the
+  // rest.
   QString shown = LabelText("labelStatus");
-  const bool is_cut = shown.endsWith(QChar(0x2026));
-  if (is_cut) shown.chop(1);
+  const QString cut = QString::fromUtf8(" · …");
+  const bool is_cut = shown.endsWith(cut);
+  if (is_cut) shown.chop(3);
   const QString nameless = foot.section(QString::fromUtf8(" · "), 1);
   ASSERT_TRUE(shown == foot || shown == nameless || (is_cut && nameless.startsWith(shown)))
       << foot.toStdString();
+  ASSERT_EQ(is_cut, Find("labelStatus").toolTip().startsWith(nameless + "\n"));
   ASSERT_EQ(LabelText("Label3").toStdString(), state().identity);
 }
 

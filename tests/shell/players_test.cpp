@@ -54,6 +54,7 @@ TEST_F(PlayersWindowTest, ATradeAcrossTwoTeamsIsMadeByKeys) {
 
   ClickBox(1, 3);
   Press(Qt::Key_C, kCtrlShift);
+  EXPECT_TRUE(LabelText("labelStatus").endsWith(brave[0] + " is copied"));
   Click("Orioles");
   ClickBox(13, 5);
   Press(Qt::Key_X, kCtrlShift);

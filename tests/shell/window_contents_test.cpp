@@ -28,8 +28,9 @@ class WindowContentsTest : public WindowTest {
   /// SAVE keeps what the head of a box's column says that it takes, and nothing beyond.
   static void ExpectToTake(QLineEdit& box, const QString& accepted) {
     static const QRegularExpression range(R"(^([.\d]+) to ([.\dF]+)( in hexadecimal; click a box )"
-                                          "to pick from pictures)?$");
-    static const QRegularExpression name("^an initial, a period and up to (\\d) letters A to Z$");
+                                          R"(to pick from pictures\n.*Page Up, Page Down)?$)");
+    static const QRegularExpression name(R"(^an initial, a period and up to (\d) letters A to Z)"
+                                         R"((\n[A-Z][A-Za-z ]+: (Ctrl\+Shift|Alt)\+\w+){6}$)");
     static const QRegularExpression comma(", | or ");
     QStringList good;
     QStringList bad = {"ZZ"};
@@ -116,6 +117,10 @@ TEST_F(WindowContentsTest, ColumnHeadsAndTheBoxesBelow) {
     EXPECT_LE(head.fontMetrics().horizontalAdvance(head.text()), head.width()) << index;
     ExpectToTake(*box, accepted);
   }
+  Box(1, 0).setText("A.B1");
+  const QString unknown_letter = Box(1, 0).toolTip();
+  Box(1, 0).setText("A.B.");
+  EXPECT_NE(Box(1, 0).toolTip(), unknown_letter) << "SAVE makes the same of both";
 }
 
 TEST_F(WindowContentsTest, NamesHintsAndTips) {
