@@ -37,6 +37,10 @@ class GridMarks {
   /// shows, SAVE has to keep it to the letter.
   GridMarks(const RosterGrid& grid, const SavePreview& preview, const Baseline& baseline);
 
+  /// Follows a change of one row, which `preview` has followed.
+  void FollowRow(int row, const RosterGrid& grid, const SavePreview& preview,
+                 const Baseline& baseline);
+
   [[nodiscard]] const CellMark& At(Cell cell) const { return marks_.at(IndexOf(cell)); }
 
   /// How many cells are marked so.

@@ -20,6 +20,8 @@ class RosterBox : public ValueEdit, public OwnPanel {
 
   [[nodiscard]] Cell cell() const { return cell_; }
 
+  [[nodiscard]] const CellMark& mark() const { return mark_; }
+
   /// Shows the marks of the cell; `tip` says in words what they mean, and is empty without any.
   void ShowMark(const CellMark& mark, const QString& tip);
 

@@ -66,6 +66,8 @@ RosterFrame::RosterFrame(Editor& editor, QWidget* parent) : QFrame(parent), edit
   setObjectName("Frame1");
   setAccessibleName("roster");
   setGeometry(RectFromTwips(60, 720, 6555, 9015));
+  // What is below need not be painted with every box.
+  setAutoFillBackground(true);
   for (const BlockLayout& layout : kBlockLayouts) AddHeaders(layout);
   for (const Cell cell : kCellsOnScreen) AddBox(cell);
   AddTeamNameAndSave();
@@ -108,11 +110,14 @@ void RosterFrame::ShowTexts(const StateChange& change) {
 
 void RosterFrame::ShowMarks(const EditorState& state) {
   const GridMarks& marks = state.marks;
+  const bool is_same_end = marks.end_row() == std::exchange(end_row_, marks.end_row());
   for (const Cell cell : kAllCells) {
     // Most cells have no mark and had none; this runs with every key.
-    const bool is_marked = marks.At(cell).is_marked();
+    const CellMark& mark = marks.At(cell);
+    const bool is_marked = mark.is_marked();
     if (!std::exchange(is_marked_.at(IndexOf(cell)), is_marked) && !is_marked) continue;
-    BoxAt(cell).ShowMark(marks.At(cell), TipOf(marks, cell));
+    RosterBox& box = BoxAt(cell);
+    if (!is_same_end || mark != box.mark()) box.ShowMark(mark, TipOf(marks, cell));
   }
   save_->SetFilled(marks.modified_count() > 0);
   save_->setAccessibleDescription(SummaryOf(marks));
@@ -123,9 +128,13 @@ void RosterFrame::ShowMarks(const EditorState& state) {
 void RosterFrame::ShowTints() {
   using enum RosterBox::Tint;
   const EditorState& state = editor_.state();
+  TintedRows rows{focus_row_, std::nullopt};
+  if (state.layout == Layout::kWide) rows.stance = state.stance_row;
+  if (rows == std::exchange(tinted_rows_, rows)) return;
   for (const Cell cell : kAllCells) {
-    const bool is_stance = state.layout == Layout::kWide && cell.row == state.stance_row;
-    BoxAt(cell).SetTint(cell.row == focus_row_ ? kFocusRow : is_stance ? kStanceRow : kNone);
+    BoxAt(cell).SetTint(cell.row == rows.focus    ? kFocusRow
+                        : cell.row == rows.stance ? kStanceRow
+                                                  : kNone);
   }
 }
 

@@ -71,6 +71,14 @@ class RosterFrame : public QFrame {
   std::array<RosterBox*, kCellCount> boxes_{};
   // Whether each box shows a mark, by the index of its cell.
   std::array<bool, kCellCount> is_marked_{};
+  // The end of SAVE that the tips are about.
+  std::optional<int> end_row_;
+  struct TintedRows {
+    std::optional<int> focus;
+    std::optional<int> stance;
+    friend bool operator==(const TintedRows&, const TintedRows&) = default;
+  };
+  TintedRows tinted_rows_;
   std::optional<int> focus_row_;
 };
 

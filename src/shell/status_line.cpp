@@ -27,13 +27,19 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
 }
 
 void StatusLine::Show(const EditorState& state) {
-  const QString path = QString::fromStdU16String(state.scene.place.image.u16string());
-  const QString separator = QString::fromUtf8(" \u00b7 ");
   QStringList notes = {NoteOf(state)};
   if (state.scene.is_grid_shown) {
     notes << (state.is_file_held ? QString(kFileHeld) : SummaryOf(state.marks));
   }
   notes.removeAll(QString());
+  // Measuring texts takes longer than all else that happens at a key.
+  const Content content{state.scene.place.image, notes, DetailsOf(state)};
+  if (content == content_) return;
+  const bool is_news = notes != content_.notes;
+  content_ = content;
+
+  const QString path = QString::fromStdU16String(content.image.u16string());
+  const QString separator = QString::fromUtf8(" \u00b7 ");
   const QString name = QFileInfo(path).fileName();
   const QString said = notes.join(separator);
   const QFontMetrics metrics(font());
@@ -45,14 +51,13 @@ void StatusLine::Show(const EditorState& state) {
   }
   shown.removeAll(QString());
   setText(metrics.elidedText(shown.join(separator), Qt::ElideRight, width()));
-  setToolTip(PlainTip(DetailsOf(state) + QDir::toNativeSeparators(path)));
+  setToolTip(PlainTip(content.details + QDir::toNativeSeparators(path)));
   QStringList spoken = notes;
   if (!name.isEmpty()) spoken.prepend(name);
   setAccessibleDescription(spoken.join(separator));
   // For who cannot see that the line has changed.
   QAccessibleEvent changed(this, QAccessible::Alert);
-  if (said != said_) QAccessible::updateAccessibility(&changed);
-  said_ = said;
+  if (is_news) QAccessible::updateAccessibility(&changed);
 }
 
 }  // namespace morlek

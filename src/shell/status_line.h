@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QLabel>
+#include <QStringList>
+#include <filesystem>
 
 namespace morlek {
 
@@ -19,7 +21,14 @@ class StatusLine : public QLabel {
   void Show(const EditorState& state);
 
  private:
-  QString said_;
+  /// All that the line depends on.
+  struct Content {
+    std::filesystem::path image;
+    QStringList notes;
+    QString details;
+    friend bool operator==(const Content&, const Content&) = default;
+  };
+  Content content_;
 };
 
 }  // namespace morlek

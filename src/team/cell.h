@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <ranges>
 
 #include "team/blocks.h"
 
@@ -14,6 +15,10 @@ struct Cell {
 
   friend bool operator==(const Cell&, const Cell&) = default;
 };
+
+/// Rows of the grid, one after another.
+using Rows = std::ranges::iota_view<int, int>;
+inline constexpr Rows kAllRows(0, kSlotCount);
 
 /// How many cells the grid has.
 inline constexpr std::size_t kCellCount = std::size_t{kSlotCount} * kColumnCount;
