@@ -38,6 +38,7 @@ void GridMarks::FollowRow(int row, const RosterGrid& grid, const SavePreview& pr
     mark = MarkOf(cell, grid, preview, baseline);
     modified_count_ += mark.is_modified ? 1 : 0;
     lossy_count_ += mark.is_lossy ? 1 : 0;
+    marked_.set(IndexOf(cell), mark.is_marked());
   }
 }
 

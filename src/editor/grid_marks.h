@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <string>
 
 #include "editor/baseline.h"
@@ -43,6 +44,9 @@ class GridMarks {
 
   [[nodiscard]] const CellMark& At(Cell cell) const { return marks_.at(IndexOf(cell)); }
 
+  /// Whether each cell is marked, by its index.
+  [[nodiscard]] const std::bitset<kCellCount>& marked() const { return marked_; }
+
   /// How many cells are marked so.
   [[nodiscard]] int modified_count() const { return modified_count_; }
   [[nodiscard]] int lossy_count() const { return lossy_count_; }
@@ -57,6 +61,7 @@ class GridMarks {
 
  private:
   std::array<CellMark, kCellCount> marks_;
+  std::bitset<kCellCount> marked_;
   int modified_count_ = 0;
   int lossy_count_ = 0;
   std::optional<int> end_row_;

@@ -35,8 +35,8 @@ QString WhatSaveDoes(const GridMarks& marks, Cell cell, const CellMark& mark) {
            is_name ? "then holds" : "keeps", after);
 }
 
-QString Counted(int count, const QString& one, const QString& many) {
-  return QString("%1 %2").arg(count).arg(count == 1 ? one : many);
+QString Counted(int count, const char* one, const char* many) {
+  return QString::number(count) + ' ' + (count == 1 ? one : many);
 }
 
 QString TextOf(std::monostate /*nothing*/, const EditorState& /*state*/) { return {}; }

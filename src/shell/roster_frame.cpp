@@ -66,8 +66,6 @@ RosterFrame::RosterFrame(Editor& editor, QWidget* parent) : QFrame(parent), edit
   setObjectName("Frame1");
   setAccessibleName("roster");
   setGeometry(RectFromTwips(60, 720, 6555, 9015));
-  // What is below need not be painted with every box.
-  setAutoFillBackground(true);
   for (const BlockLayout& layout : kBlockLayouts) AddHeaders(layout);
   for (const Cell cell : kCellsOnScreen) AddBox(cell);
   AddTeamNameAndSave();
@@ -111,11 +109,11 @@ void RosterFrame::ShowTexts(const StateChange& change) {
 void RosterFrame::ShowMarks(const EditorState& state) {
   const GridMarks& marks = state.marks;
   const bool is_same_end = marks.end_row() == std::exchange(end_row_, marks.end_row());
+  // Most cells have no mark and had none; this runs with every key.
+  const auto concerned = marks.marked() | std::exchange(marked_, marks.marked());
   for (const Cell cell : kAllCells) {
-    // Most cells have no mark and had none; this runs with every key.
+    if (!concerned.test(IndexOf(cell))) continue;
     const CellMark& mark = marks.At(cell);
-    const bool is_marked = mark.is_marked();
-    if (!std::exchange(is_marked_.at(IndexOf(cell)), is_marked) && !is_marked) continue;
     RosterBox& box = BoxAt(cell);
     if (!is_same_end || mark != box.mark()) box.ShowMark(mark, TipOf(marks, cell));
   }

@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <array>
+#include <bitset>
 #include <optional>
 
 #include "editor/editor.h"
@@ -70,7 +71,7 @@ class RosterFrame : public QFrame {
   PlayerCommands* players_ = nullptr;
   std::array<RosterBox*, kCellCount> boxes_{};
   // Whether each box shows a mark, by the index of its cell.
-  std::array<bool, kCellCount> is_marked_{};
+  std::bitset<kCellCount> marked_;
   // The end of SAVE that the tips are about.
   std::optional<int> end_row_;
   struct TintedRows {

@@ -33,12 +33,15 @@ void StatusLine::Show(const EditorState& state) {
   }
   notes.removeAll(QString());
   // Measuring texts takes longer than all else that happens at a key.
-  const Content content{state.scene.place.image, notes, DetailsOf(state)};
-  if (content == content_) return;
-  const bool is_news = notes != content_.notes;
-  content_ = content;
+  const std::filesystem::path& image = state.scene.place.image;
+  const QString details = DetailsOf(state);
+  if (image.native() == image_ && notes == notes_ && details == details_) return;
+  const bool is_news = notes != notes_;
+  image_ = image.native();
+  notes_ = notes;
+  details_ = details;
 
-  const QString path = QString::fromStdU16String(content.image.u16string());
+  const QString path = QString::fromStdU16String(image.u16string());
   const QString separator = QString::fromUtf8(" \u00b7 ");
   const QString name = QFileInfo(path).fileName();
   const QString said = notes.join(separator);
@@ -51,7 +54,7 @@ void StatusLine::Show(const EditorState& state) {
   }
   shown.removeAll(QString());
   setText(metrics.elidedText(shown.join(separator), Qt::ElideRight, width()));
-  setToolTip(PlainTip(content.details + QDir::toNativeSeparators(path)));
+  setToolTip(PlainTip(details + QDir::toNativeSeparators(path)));
   QStringList spoken = notes;
   if (!name.isEmpty()) spoken.prepend(name);
   setAccessibleDescription(spoken.join(separator));

@@ -21,14 +21,10 @@ class StatusLine : public QLabel {
   void Show(const EditorState& state);
 
  private:
-  /// All that the line depends on.
-  struct Content {
-    std::filesystem::path image;
-    QStringList notes;
-    QString details;
-    friend bool operator==(const Content&, const Content&) = default;
-  };
-  Content content_;
+  // What the line shows.
+  std::filesystem::path::string_type image_;
+  QStringList notes_;
+  QString details_;
 };
 
 }  // namespace morlek

@@ -109,8 +109,10 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
 
 void TeamToolbar::Show(const EditorState& state) {
   setVisible(!state.scene.place.image.empty());
+  const Team* loaded = state.is_loaded ? state.scene.place.team : nullptr;
+  if (loaded == std::exchange(loaded_, loaded)) return;
   for (const Team& team : kTeamDirectory) {
-    buttons_.at(PlaceOf(team))->SetMarked(state.is_loaded && state.scene.place.team == &team);
+    buttons_.at(PlaceOf(team))->SetMarked(loaded == &team);
   }
 }
 

@@ -10,8 +10,8 @@
 namespace morlek {
 namespace {
 
-/// Notes whether earlier results, which may be another row's, stand in for what cannot be converted.
-/// A rating that is no number needs none.
+/// Notes whether earlier results, which may be another row's, stand in for what cannot be
+/// converted. A rating that is no number needs none.
 class ReuseListener : public EncodingListener, public DecodingListener {
  public:
   void NameTooLong(int /*row*/) override { has_heard_ = true; }
