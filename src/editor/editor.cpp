@@ -370,8 +370,8 @@ void Editor::EndStep(const StateChange& change, StepOutcome outcome) {
 void Editor::RefreshMarks() {
   state_.is_loaded = baseline_ != nullptr;
   if (baseline_ == nullptr) {
+    if (preview_) state_.marks = {};
     preview_.reset();
-    state_.marks = {};
     return;
   }
   preview_ = Preview();
