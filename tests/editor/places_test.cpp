@@ -98,22 +98,6 @@ class PlacesTest : public TeamTest {
   Editor editor{messages, disk.Opener()};
 };
 
-TEST_F(PlacesTest, MarksThatFollowTheRowOfATypedTextAreThoseOfTheTeam) {
-  std::mt19937 random;
-  for (int step = 0; step < 500; ++step) {
-    const Cell cell = kAllCells.at(random() % kCellCount);
-    const int fellow = BlockOf(cell.row).first_row + static_cast<int>(random() % 10);
-    // Few texts that cannot be converted: each has the whole team previewed until it is gone.
-    const bool is_odd = random() % 4 == 0;
-    editor.Type(cell, is_odd ? "#9" : state().grid.Text({cell.column, fellow}));
-    ExpectMarksOfTheMoment();
-    if (is_odd) editor.Undo();
-    if (random() % 50 == 0) editor.LoadTeam("Orioles");
-    if (random() % 50 == 0) SaveInPlace();
-    ExpectMarksOfTheMoment();
-  }
-}
-
 TEST_F(PlacesTest, EveryStepCanBeTakenBackAndMadeAgainAcrossTeamsAndImages) {
   for (unsigned seed = 1; seed <= 12; ++seed) {
     SCOPED_TRACE(seed);
