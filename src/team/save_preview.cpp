@@ -36,7 +36,7 @@ bool SavePreview::FollowRow(int row, const RosterGrid& grid, const CodecState& s
                             const RecordBytes& known) {
   if (!are_rows_independent_) return false;
   written_.ClearRow(row);
-  Rehearse({row, row + 1}, grid, state, known);
+  Rehearse(kAllRows.subspan(static_cast<std::size_t>(row), 1), grid, state, known);
   return are_rows_independent_;
 }
 
