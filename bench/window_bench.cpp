@@ -4,8 +4,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QTimer>
 #include <ctime>
 #include <functional>
@@ -14,10 +14,12 @@
 
 #include "bench_files.h"
 #include "ratio_table.h"
+#include "shell/content_area.h"
 #include "shell/look.h"
 #include "shell/main_window.h"
 #include "shell/roster_frame.h"
 #include "silent_user.h"
+#include "typing.h"
 
 namespace {
 
@@ -57,6 +59,11 @@ class Program {
 
   void Pick(const char* team) { window_.findChild<QAbstractButton*>(team)->click(); }
   void Choose(const char* item) { window_.findChild<QAction*>(item)->trigger(); }
+  void Undo() {
+    for (QAction* action : frame().actions()) {
+      if (action->text() == "&Undo") action->trigger();
+    }
+  }
   [[nodiscard]] QWidget& frame() { return *window_.findChild<QWidget*>("Frame1"); }
   [[nodiscard]] QLineEdit& Box(const char* name) { return *frame().findChild<QLineEdit*>(name); }
 
@@ -91,6 +98,28 @@ class PlainGrid : public QWidget {
   QLineEdit* last_row_ = nullptr;
 };
 
+/// The grid in a window of its own. Its editor has no image, so that nothing is previewed or
+/// marked, and nothing around the grid follows what is typed.
+class BareWindow : public QMainWindow {
+ public:
+  explicit BareWindow(const std::filesystem::path& team_file) {
+    editor_.ImportTeam(team_file);
+    auto* area = new morlek::ContentArea(this);
+    setCentralWidget(area);
+    auto* frame = new morlek::RosterFrame(editor_, area->widget());
+    frame->show();
+    area->widget()->setFixedSize(frame->geometry().right(), morlek::kContentHeight);
+    setFixedSize(area->FitInto(morlek::kContentHeight));
+    show();
+  }
+
+  [[nodiscard]] QLineEdit& Box(const char* name) { return *findChild<QLineEdit*>(name); }
+
+ private:
+  morlek::bench::SilentUser nobody_{{}, {}};
+  morlek::Editor editor_{nobody_};
+};
+
 QStringList TextsOf(const QWidget& frame) {
   QStringList texts;
   for (const auto* box : frame.findChildren<QLineEdit*>()) texts << box->text();
@@ -110,14 +139,6 @@ bool PrintSteps(const char* what, const Step& step, const Step& other, double li
     other_times.push_back(other(round));
   }
   return morlek::bench::PrintRow(what, morlek::bench::MedianRatio(times, other_times), limit);
-}
-
-/// Replaces the text of the box by a typed digit.
-void TypeOver(QLineEdit& box, int round) {
-  box.selectAll();
-  const QString digit = QString::number(round % 9 + 1);
-  QKeyEvent press(QEvent::KeyPress, Qt::Key_0, Qt::NoModifier, digit);
-  QApplication::sendEvent(&box, &press);
 }
 
 bool PrintAllSteps(const morlek::bench::BenchFolder& folder) {
@@ -146,6 +167,18 @@ bool PrintAllSteps(const morlek::bench::BenchFolder& folder) {
       },
       1.3);
 
+  within &= PrintSteps(
+      "undo of a change of team / a click on a team",
+      [&](int /*round*/) {
+        click(0);
+        return last_row.TimeOf([&] { program.Undo(); });
+      },
+      [&](int /*round*/) {
+        click(0);
+        return click(1);
+      },
+      1.2);
+
   Program huge(folder.ImageOf(morlek::bench::kHugeBytes), team_file);
   PaintWatcher huge_row(huge.Box("Text1(24)"));
   const auto click_huge = [&](int round) {
@@ -154,20 +187,23 @@ bool PrintAllSteps(const morlek::bench::BenchFolder& folder) {
   click_huge(1);
   within &= PrintSteps("click with 4 GiB / with 1.5 MiB", click_huge, click, 1.1);
 
-  // A frame by itself, with an editor that has no image, marks nothing.
-  morlek::bench::SilentUser nobody({}, {});
-  morlek::Editor imageless(nobody);
-  imageless.ImportTeam(team_file);
-  morlek::RosterFrame unmarked(imageless, nullptr);
-  unmarked.show();
-  QLineEdit& unmarked_box = *unmarked.findChild<QLineEdit*>("Text3(7)");
-
-  PaintWatcher number(program.Box("Text3(7)"));
-  PaintWatcher unmarked_number(unmarked_box);
+  // The base is what any window does for a character: the line edit takes it, the history notes it,
+  // and the box is painted in a scrolling area. The preview, the marks and the views that follow
+  // them are left to the measured side.
+  BareWindow bare(team_file);
+  QLineEdit& box = program.Box("Text3(7)");
+  QLineEdit& bare_box = bare.Box("Text3(7)");
+  PaintWatcher number(box);
+  PaintWatcher bare_number(bare_box);
+  const auto digit_of = [](int round) { return QString::number(round % 9 + 1); };
   within &= PrintSteps(
-      "a typed character to its painting / without marks",
-      [&](int round) { return number.TimeOf([&] { TypeOver(program.Box("Text3(7)"), round); }); },
-      [&](int round) { return unmarked_number.TimeOf([&] { TypeOver(unmarked_box, round); }); },
+      "a typed character to its painting / in a bare window",
+      [&](int round) {
+        return number.TimeOf([&] { morlek::bench::TypeOver(box, digit_of(round)); });
+      },
+      [&](int round) {
+        return bare_number.TimeOf([&] { morlek::bench::TypeOver(bare_box, digit_of(round)); });
+      },
       1.2, 1000);
 
   return PrintSteps(

@@ -1,8 +1,8 @@
 #include "codecs/hex_text.h"
 
-#include <algorithm>
 #include <bit>
 #include <charconv>
+#include <system_error>
 
 namespace morlek {
 namespace {
@@ -27,11 +27,12 @@ std::string ByteToTwoDigits(std::uint8_t byte) {
 }
 
 std::optional<std::uint32_t> HexDigitsToNumber(std::string_view digits) {
-  if (digits.empty() || digits.size() > kMostDigits || !std::ranges::all_of(digits, IsHexDigit)) {
+  const char* const end = digits.data() + digits.size();
+  std::uint32_t value = 0;
+  const auto parsed = std::from_chars(digits.data(), end, value, 16);
+  if (parsed.ec != std::errc() || parsed.ptr != end || digits.size() > kMostDigits) {
     return std::nullopt;
   }
-  std::uint32_t value = 0;
-  std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
   return value;
 }
 

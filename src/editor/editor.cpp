@@ -346,19 +346,27 @@ GridChange Editor::Replace(const RosterGrid& grid) {
 void Editor::EndStep(const StateChange& change, StepOutcome outcome, StepNote note) {
   state_.outcome = std::move(outcome);
   state_.note = std::move(note);
-  if (!change.texts.empty()) RefreshMarks();
+  if (!change.texts.empty() && !FollowRow(change.texts)) RefreshMarks();
   Publish(change);
 }
 
 void Editor::RefreshMarks() {
   state_.loaded = baseline_ == nullptr ? nullptr : state_.scene.place.team;
   if (baseline_ == nullptr) {
+    if (preview_) state_.marks = {};
     preview_.reset();
-    state_.marks = {};
     return;
   }
   preview_ = Preview();
   state_.marks = GridMarks(state_.grid, *preview_, *baseline_);
+}
+
+bool Editor::FollowRow(const GridChange& texts) {
+  const int row = texts.front().cell.row;
+  if (!preview_ || texts.back().cell.row != row) return false;
+  if (!preview_->FollowRow(row, state_.grid, codec_state_, baseline_->bytes())) return false;
+  state_.marks.FollowRow(row, state_.grid, *preview_, *baseline_);
+  return true;
 }
 
 void Editor::EndFileStep(StepOutcome outcome, const StateChange& change, StepNote note) {

@@ -151,6 +151,9 @@ class Editor {
   /// Works out the marks of the grid.
   void RefreshMarks();
 
+  /// Works out the marks of one row alone when no others can have changed; false if they can.
+  [[nodiscard]] bool FollowRow(const GridChange& texts);
+
   /// Ends a step that has to do with no file.
   void EndStep(const StateChange& change, StepOutcome outcome = {}, StepNote note = {});
 

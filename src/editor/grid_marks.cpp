@@ -2,26 +2,44 @@
 
 #include <algorithm>
 #include <iterator>
+#include <span>
 #include <vector>
 
 #include "team/refusal.h"
 #include "team/same_text.h"
 
 namespace morlek {
+namespace {
+
+CellMark MarkOf(Cell cell, const RosterGrid& grid, const SavePreview& preview,
+                const Baseline& baseline) {
+  const std::string& text = grid.Text(cell);
+  const std::string& known = baseline.texts().Text(cell);
+  const std::string& after = preview.TextAfter(cell);
+  const bool is_modified = !IsSameText(cell.column, text, known);
+  const bool is_lossy = text == known ? text != after : !IsSameText(cell.column, text, after);
+  if (!is_modified && !is_lossy) return {};
+  return {is_modified, is_lossy, preview.FateOf(cell),
+          after,       known,    is_lossy ? CauseElsewhere(grid, preview, cell) : std::nullopt};
+}
+
+}  // namespace
 
 GridMarks::GridMarks(const RosterGrid& grid, const SavePreview& preview, const Baseline& baseline) {
-  for (const Cell cell : kAllCells) {
-    const std::string& text = grid.Text(cell);
-    const std::string& known = baseline.texts().Text(cell);
-    const std::string& after = preview.TextAfter(cell);
-    const bool is_modified = !IsSameText(cell.column, text, known);
-    const bool is_lossy = text == known ? text != after : !IsSameText(cell.column, text, after);
-    if (!is_modified && !is_lossy) continue;
-    marks_.at(IndexOf(cell)) = {
-        is_modified, is_lossy, preview.FateOf(cell),
-        after,       known,    is_lossy ? CauseElsewhere(grid, preview, cell) : std::nullopt};
-    modified_count_ += is_modified ? 1 : 0;
-    lossy_count_ += is_lossy ? 1 : 0;
+  for (const int row : kAllRows) FollowRow(row, grid, preview, baseline);
+}
+
+void GridMarks::FollowRow(int row, const RosterGrid& grid, const SavePreview& preview,
+                          const Baseline& baseline) {
+  const auto first = std::size_t{kColumnCount} * static_cast<std::size_t>(row);
+  for (const Cell cell : std::span(kAllCells).subspan(first, kColumnCount)) {
+    CellMark& mark = marks_.at(IndexOf(cell));
+    modified_count_ -= mark.is_modified ? 1 : 0;
+    lossy_count_ -= mark.is_lossy ? 1 : 0;
+    mark = MarkOf(cell, grid, preview, baseline);
+    modified_count_ += mark.is_modified ? 1 : 0;
+    lossy_count_ += mark.is_lossy ? 1 : 0;
+    marked_.set(IndexOf(cell), mark.is_marked());
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <string>
 
 #include "editor/baseline.h"
@@ -40,7 +41,14 @@ class GridMarks {
   /// shows, SAVE has to keep it to the letter.
   GridMarks(const RosterGrid& grid, const SavePreview& preview, const Baseline& baseline);
 
+  /// Follows a change of one row, which `preview` has followed.
+  void FollowRow(int row, const RosterGrid& grid, const SavePreview& preview,
+                 const Baseline& baseline);
+
   [[nodiscard]] const CellMark& At(Cell cell) const { return marks_.at(IndexOf(cell)); }
+
+  /// Whether each cell is marked, by its index.
+  [[nodiscard]] const std::bitset<kCellCount>& marked() const { return marked_; }
 
   /// How many cells are marked so.
   [[nodiscard]] int modified_count() const { return modified_count_; }
@@ -53,6 +61,7 @@ class GridMarks {
 
  private:
   std::array<CellMark, kCellCount> marks_;
+  std::bitset<kCellCount> marked_;
   int modified_count_ = 0;
   int lossy_count_ = 0;
 };

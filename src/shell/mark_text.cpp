@@ -52,8 +52,8 @@ QStringList WhySo(const std::string& text, Cell cell, const CellMark& mark) {
                            FromCodePage(AcceptedTexts(cell.column)));
 }
 
-QString Counted(int count, const QString& one, const QString& many) {
-  return QString("%1 %2").arg(count).arg(count == 1 ? one : many);
+QString Counted(int count, const char* one, const char* many) {
+  return QString::number(count) + ' ' + (count == 1 ? one : many);
 }
 
 /// A text that may be of any length, short enough for a line.

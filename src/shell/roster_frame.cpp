@@ -108,10 +108,10 @@ void RosterFrame::ShowTexts(const StateChange& change) {
 
 void RosterFrame::ShowMarks(const EditorState& state, const StateChange& change) {
   const GridMarks& marks = state.marks;
+  // Most cells have no mark and had none; this runs with every key.
+  const auto concerned = marks.marked() | std::exchange(marked_, marks.marked());
   for (const Cell cell : kAllCells) {
-    // Most cells have no mark and had none; this runs with every key.
-    const bool is_marked = marks.At(cell).is_marked();
-    if (!std::exchange(is_marked_.at(IndexOf(cell)), is_marked) && !is_marked) continue;
+    if (!concerned.test(IndexOf(cell))) continue;
     if (marks.At(cell) != BoxAt(cell).mark()) ShowMark(state, cell);
   }
   // The reason depends on the text as well, be the mark the same.
@@ -131,9 +131,13 @@ void RosterFrame::ShowMark(const EditorState& state, Cell cell) {
 void RosterFrame::ShowTints() {
   using enum RosterBox::Tint;
   const EditorState& state = editor_.state();
+  TintedRows rows{focus_row_, std::nullopt};
+  if (state.layout == Layout::kWide) rows.stance = state.stance_row;
+  if (rows == std::exchange(tinted_rows_, rows)) return;
   for (const Cell cell : kAllCells) {
-    const bool is_stance = state.layout == Layout::kWide && cell.row == state.stance_row;
-    BoxAt(cell).SetTint(cell.row == focus_row_ ? kFocusRow : is_stance ? kStanceRow : kNone);
+    BoxAt(cell).SetTint(cell.row == rows.focus    ? kFocusRow
+                        : cell.row == rows.stance ? kStanceRow
+                                                  : kNone);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <array>
+#include <bitset>
 #include <optional>
 
 #include "editor/editor.h"
@@ -71,7 +72,13 @@ class RosterFrame : public QFrame {
   PlayerCommands* players_ = nullptr;
   std::array<RosterBox*, kCellCount> boxes_{};
   // Whether each box shows a mark, by the index of its cell.
-  std::array<bool, kCellCount> is_marked_{};
+  std::bitset<kCellCount> marked_;
+  struct TintedRows {
+    std::optional<int> focus;
+    std::optional<int> stance;
+    friend bool operator==(const TintedRows&, const TintedRows&) = default;
+  };
+  TintedRows tinted_rows_;
   std::optional<int> focus_row_;
 };
 

@@ -42,12 +42,21 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
 }
 
 void StatusLine::Show(const EditorState& state) {
-  const QString path = QString::fromStdU16String(state.scene.place.image.u16string());
   QStringList notes = {NoteOf(state)};
   if (state.scene.is_grid_shown) {
     notes << (state.is_file_held ? QString(kFileHeld) : SummaryOf(state.marks));
   }
   notes.removeAll(QString());
+  // Measuring texts takes longer than all else that happens at a key.
+  const std::filesystem::path& image = state.scene.place.image;
+  const QString details = DetailsOf(state);
+  if (image.native() == image_ && notes == notes_ && details == details_) return;
+  const bool is_news = notes != notes_;
+  image_ = image.native();
+  notes_ = notes;
+  details_ = details;
+
+  const QString path = QString::fromStdU16String(image.u16string());
   const QString name = QFileInfo(path).fileName();
   const QString said = notes.join(Separator());
   const QFontMetrics metrics(font());
@@ -60,14 +69,13 @@ void StatusLine::Show(const EditorState& state) {
   shown.removeAll(QString());
   setText(Fitted(shown, metrics, width()));
   const QString cut = text().endsWith(said) ? QString() : said + '\n';
-  setToolTip(PlainTip(cut + DetailsOf(state) + QDir::toNativeSeparators(path)));
+  setToolTip(PlainTip(cut + details + QDir::toNativeSeparators(path)));
   QStringList spoken = notes;
   if (!name.isEmpty()) spoken.prepend(name);
   setAccessibleDescription(spoken.join(Separator()));
   // For who cannot see that the line has changed.
   QAccessibleEvent changed(this, QAccessible::Alert);
-  if (said != said_) QAccessible::updateAccessibility(&changed);
-  said_ = said;
+  if (is_news) QAccessible::updateAccessibility(&changed);
 }
 
 }  // namespace morlek

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QLabel>
+#include <QStringList>
+#include <filesystem>
 
 namespace morlek {
 
@@ -20,7 +22,10 @@ class StatusLine : public QLabel {
   void Show(const EditorState& state);
 
  private:
-  QString said_;
+  // What the line shows.
+  std::filesystem::path::string_type image_;
+  QStringList notes_;
+  QString details_;
 };
 
 }  // namespace morlek

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <cstddef>
+#include <numeric>
+#include <span>
 
 #include "team/blocks.h"
 
@@ -14,6 +16,17 @@ struct Cell {
 
   friend bool operator==(const Cell&, const Cell&) = default;
 };
+
+/// The rows of the grid, 0 to 24.
+inline constexpr auto kRowNumbers = [] {
+  std::array<int, kSlotCount> numbers{};
+  std::iota(numbers.begin(), numbers.end(), 0);
+  return numbers;
+}();
+
+/// Some of these rows, one after another.
+using Rows = std::span<const int>;
+inline constexpr Rows kAllRows(kRowNumbers);
 
 /// How many cells the grid has.
 inline constexpr std::size_t kCellCount = std::size_t{kSlotCount} * kColumnCount;

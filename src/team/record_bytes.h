@@ -19,6 +19,12 @@ class RecordBytes {
   }
   void Put(int row, int offset, std::uint8_t byte) { bytes_.at(Index(row, offset)) = byte; }
 
+  /// Takes all bytes of a row away.
+  void ClearRow(int row) {
+    const auto of_row = std::span(bytes_).subspan(Index(row, 0), kSlotBytes);
+    std::ranges::fill(of_row, std::nullopt);
+  }
+
   /// Whether a byte is there at any of these offsets of a row.
   [[nodiscard]] bool HasAny(int row, std::span<const int> offsets) const {
     return std::ranges::any_of(offsets, [&](int offset) { return At(row, offset).has_value(); });

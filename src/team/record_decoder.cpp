@@ -35,8 +35,8 @@ class StrictListener : public DecodingListener {
 class RecordDecoder {
  public:
   RecordDecoder(const RecordSource& source, CodecState& state, RosterGrid& grid,
-                DecodingListener& listener)
-      : source_(source), state_(state), grid_(grid), listener_(listener) {}
+                DecodingListener& listener, Rows rows)
+      : source_(source), state_(state), grid_(grid), listener_(listener), rows_(rows) {}
 
   void LoadAll();
 
@@ -68,6 +68,7 @@ class RecordDecoder {
   CodecState& state_;
   RosterGrid& grid_;
   DecodingListener& listener_;
+  Rows rows_;
 };
 
 void RecordDecoder::LoadAll() {
@@ -89,7 +90,7 @@ void RecordDecoder::LoadAll() {
 }
 
 void RecordDecoder::LoadNames() {
-  for (int row = 0; row < kSlotCount; ++row) {
+  for (const int row : rows_) {
     std::string letters;
     for (const int offset : BytesOf(kName)) {
       letters += Hear({kName, row}, state_.name_letter.DecodeNameLetter(Read(row, offset)));
@@ -99,25 +100,26 @@ void RecordDecoder::LoadNames() {
 }
 
 void RecordDecoder::LoadFieldingPositions() {
-  for (int row = 0; row < kSlotCount; ++row) {
+  for (const int row : rows_) {
     const Cell cell{kPosition, row};
     Show(cell, Hear(cell, state_.fielding_position.DecodeFieldingPosition(Read(cell))));
   }
 }
 
 void RecordDecoder::LoadHands() {
-  for (int row = kBatters.first_row; row < kBatters.end_row; ++row) {
-    const Cell cell{kBattingSide, row};
-    Show(cell, Hear(cell, state_.batting_side.DecodeBattingSide(Read(cell))));
-  }
-  for (int row = kPitchers.first_row; row < kPitchers.end_row; ++row) {
-    const Cell cell{kThrowingHand, row};
-    Show(cell, DecodeThrowingHand(Read(cell)));
+  for (const int row : rows_) {
+    const Cell side{kBattingSide, row};
+    const Cell hand{kThrowingHand, row};
+    if (kBatters.Contains(row)) {
+      Show(side, Hear(side, state_.batting_side.DecodeBattingSide(Read(side))));
+    } else {
+      Show(hand, DecodeThrowingHand(Read(hand)));
+    }
   }
 }
 
 void RecordDecoder::LoadPitcherMarks() {
-  for (int row = 0; row < kSlotCount; ++row) {
+  for (const int row : rows_) {
     const std::uint8_t byte = Read(row, BytesOf(kThrowingHand).back());
     const Cell cell{kThrowingHand, row};
     const std::string_view marks = Hear(cell, state_.pitcher_marks.DecodePitcherMarks(byte));
@@ -127,7 +129,8 @@ void RecordDecoder::LoadPitcherMarks() {
 }
 
 void RecordDecoder::LoadRatingPairs(const Block& block, Column first, Column second) {
-  for (int row = block.first_row; row < block.end_row; ++row) {
+  for (const int row : rows_) {
+    if (!block.Contains(row)) continue;
     const std::string digits = RatingDigits({first, row});
     ShowRating({first, row}, digits.substr(0, 1));
     ShowRating({second, row}, digits.substr(1));
@@ -135,24 +138,25 @@ void RecordDecoder::LoadRatingPairs(const Block& block, Column first, Column sec
 }
 
 void RecordDecoder::LoadFatigueRatings() {
-  for (int row = kPitchers.first_row; row < kPitchers.end_row; ++row) {
+  for (const int row : rows_) {
+    if (!kPitchers.Contains(row)) continue;
     ShowRating({kFatigue, row}, RatingDigits({kFatigue, row}));
   }
 }
 
 void RecordDecoder::LoadAppearance(Column column) {
-  for (int row = 0; row < kSlotCount; ++row) Show({column, row}, ByteToText(Read({column, row})));
+  for (const int row : rows_) Show({column, row}, ByteToText(Read({column, row})));
 }
 
 void RecordDecoder::LoadBattingAverages() {
-  for (int row = 0; row < kSlotCount; ++row) {
+  for (const int row : rows_) {
     const Cell cell{kBattingAverage, row};
     Show(cell, Hear(cell, state_.batting_average.DecodeBattingAverage(ReadPairKey(cell))));
   }
 }
 
 void RecordDecoder::LoadEarnedRunAverages() {
-  for (int row = 0; row < kSlotCount; ++row) {
+  for (const int row : rows_) {
     const Cell cell{kEarnedRunAverage, row};
     const std::string key = ReadPairKey(cell);
     Show(cell, WithPoint(Hear(cell, state_.earned_run_average.DecodeEarnedRunAverage(key))));
@@ -160,7 +164,7 @@ void RecordDecoder::LoadEarnedRunAverages() {
 }
 
 void RecordDecoder::LoadNumbers(Column column) {
-  for (int row = 0; row < kSlotCount; ++row) {
+  for (const int row : rows_) {
     SmallNumberCodec& codec = state_.small_number;
     const Cell cell{column, row};
     codec.number_bytes.at(static_cast<std::size_t>(row)) = Read(cell);
@@ -204,8 +208,8 @@ std::string RecordDecoder::ReadPairKey(Cell cell) {
 }  // namespace
 
 void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid,
-                  DecodingListener& listener) {
-  RecordDecoder(source, state, grid, listener).LoadAll();
+                  DecodingListener& listener, Rows rows) {
+  RecordDecoder(source, state, grid, listener, rows).LoadAll();
 }
 
 void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid) {

@@ -36,8 +36,9 @@ class DecodingListener {
 /// passes is part of what a load does.
 /// Throws OperationFailed when the source does or when `listener` ends it at a rating, and says
 /// where; the grid is then filled up to that field.
+/// Without all `rows` it works as if the record had no others.
 void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid,
-                  DecodingListener& listener);
+                  DecodingListener& listener, Rows rows = kAllRows);
 
 /// The same; a rating that is none ends it.
 void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid);

@@ -15,12 +15,6 @@ using enum Column;
 
 constexpr std::size_t kLongestName = kNameBytes + 1;  // with the period
 
-/// Assigns when there is a value. `Target` is a working value of the save or of the codec state.
-template <typename Target>
-void Assign(Target& target, std::optional<std::int32_t> converted) {
-  if (converted) target = *converted;
-}
-
 /// Results of the last conversions of one save, carried from row to row. Initial and surname
 /// letters share a value, and so do wins and saves.
 struct WorkingValues {
@@ -50,7 +44,7 @@ class RecordEncoder {
                 EncodingListener& listener)
       : grid_(grid), state_(state), sink_(sink), listener_(listener) {}
 
-  void SaveInitials();
+  void SaveInitial(int row) { SaveLetter(row, 0, Text({kName, row}).substr(0, 1)); }
 
   /// False when the row's name is too long; nothing of the row has been offered then.
   [[nodiscard]] bool SaveRow(int row);
@@ -66,13 +60,23 @@ class RecordEncoder {
   void SaveHandAndMarks(int row);
   void SaveAppearance(Cell source, std::int32_t& value);
 
+  /// Assigns when there is a value, to a working value of the save or of the codec state.
+  void Assign(auto& target, std::optional<std::int32_t> converted) {
+    if (converted) {
+      target = *converted;
+    } else {
+      listener_.ConversionFailed();
+    }
+  }
+  void Assign(auto& target, const CodecAnswer& code) {
+    if (!code.is_known) listener_.ConversionFailed();
+    Assign(target, ByteTextToNumber(code.text));
+  }
+
   /// Converts a field into its working value, and offers that when the cell is filled.
-  void Save(Cell source, auto& value, std::optional<std::int32_t> converted) {
+  void Save(Cell source, auto& value, const auto& converted) {
     Assign(value, converted);
     WriteFilled(source, OffsetOf(source.column), value);
-  }
-  void Save(Cell source, auto& value, const CodecAnswer& code) {
-    Save(source, value, ByteTextToNumber(code.text));
   }
 
   /// Passes a count through the number byte buffer and the encoder.
@@ -91,10 +95,6 @@ class RecordEncoder {
   EncodingListener& listener_;
   WorkingValues values_;
 };
-
-void RecordEncoder::SaveInitials() {
-  for (int row = 0; row < kSlotCount; ++row) SaveLetter(row, 0, Text({kName, row}).substr(0, 1));
-}
 
 bool RecordEncoder::SaveRow(int row) {
   if (!SaveName(row)) return false;
@@ -131,7 +131,7 @@ bool RecordEncoder::SaveName(int row) {
 void RecordEncoder::SaveLetter(int row, int letter, std::string_view character) {
   const CodecAnswer code = state_.name_letter.EncodeNameLetter(character);
   if (!code.is_known) listener_.UnknownLetter(row, character);
-  Assign(values_.letter, ByteTextToNumber(code.text));
+  Assign(values_.letter, code);
   WriteFilled({kName, row}, OffsetOf(kName) + letter, values_.letter);
 }
 
@@ -188,11 +188,10 @@ void RecordEncoder::SaveFace(int row) {
 
 void RecordEncoder::SaveHandAndMarks(int row) {
   const std::string& text = Text({kThrowingHand, row});
-  const CodecAnswer hand = values_.hand_encoder.EncodeHandAndFace(text, values_.face_code);
-  Assign(values_.hand, ByteTextToNumber(hand.text));
+  Assign(values_.hand, values_.hand_encoder.EncodeHandAndFace(text, values_.face_code));
   // The hand shares its byte with the face, so it is written when the face is filled.
   WriteFilled({kFace, row}, OffsetOf(kThrowingHand), values_.hand);
-  Assign(values_.marks, ByteTextToNumber(values_.hand_encoder.EncodeMarks(text).text));
+  Assign(values_.marks, values_.hand_encoder.EncodeMarks(text));
   WriteFilled({kThrowingHand, row}, BytesOf(kThrowingHand).back(), values_.marks);
 }
 
@@ -205,7 +204,7 @@ void RecordEncoder::EncodeCount(Cell source, std::int32_t& value) {
   if (const auto count = TextToByte(Text(source))) {
     codec.number_bytes.at(static_cast<std::size_t>(source.row)) = *count;
   }
-  Assign(value, ByteTextToNumber(codec.EncodeSmallNumber(source.row).text));
+  Assign(value, codec.EncodeSmallNumber(source.row));
 }
 
 void RecordEncoder::SaveCount(Cell source, std::int32_t& value) {
@@ -227,10 +226,10 @@ void RecordEncoder::Write(int row, int offset, std::int32_t value) {
 }  // namespace
 
 std::optional<int> EncodeRecord(const RosterGrid& grid, CodecState& state, const RecordSink& sink,
-                                EncodingListener& listener) {
+                                EncodingListener& listener, Rows rows) {
   RecordEncoder encoder(grid, state, sink, listener);
-  encoder.SaveInitials();
-  for (int row = 0; row < kSlotCount; ++row) {
+  for (const int row : rows) encoder.SaveInitial(row);
+  for (const int row : rows) {
     if (!encoder.SaveRow(row)) return row;
   }
   return std::nullopt;

@@ -25,6 +25,9 @@ class EncodingListener {
 
   /// The name of this row has more than 10 characters, so the encoder ends here.
   virtual void NameTooLong(int /*row*/) {}
+
+  /// A conversion has failed, so an earlier result stands in for it, perhaps that of another row.
+  virtual void ConversionFailed() {}
 };
 
 /// Turns the texts of the grid into the bytes of a record: the initials of all names first, then
@@ -32,7 +35,8 @@ class EncodingListener {
 /// leaves its working value as it was, so the following write repeats what the same field had in
 /// the row before; a byte that the sink does not take is not offered again.
 /// A name of more than 10 characters ends it; the result is then that row, else nothing.
+/// Without all `rows` it works as if the grid had no others.
 std::optional<int> EncodeRecord(const RosterGrid& grid, CodecState& state, const RecordSink& sink,
-                                EncodingListener& listener);
+                                EncodingListener& listener, Rows rows = kAllRows);
 
 }  // namespace morlek

@@ -90,6 +90,9 @@ class PlacesTest : public TeamTest {
     const GridMarks marks =
         is_loaded ? GridMarks(state().grid, editor.Preview(), *editor.baseline()) : GridMarks();
     for (const Cell cell : kAllCells) EXPECT_EQ(state().marks.At(cell), marks.At(cell));
+    EXPECT_EQ(state().marks.marked(), marks.marked());
+    EXPECT_EQ(state().marks.modified_count(), marks.modified_count());
+    EXPECT_EQ(state().marks.lossy_count(), marks.lossy_count());
   }
 
   Editor editor{messages, disk.Opener()};
