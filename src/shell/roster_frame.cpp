@@ -75,10 +75,9 @@ RosterFrame::RosterFrame(Editor& editor, QWidget* parent) : QFrame(parent), edit
 }
 
 void RosterFrame::Show(const EditorState& state, const StateChange& change) {
-  if (state.scene.place.team != nullptr) {
-    team_name_->setText(FromCodePage(state.scene.place.team->display_name));
-    team_name_->setAccessibleDescription(team_name_->text());
-  }
+  const Team* team = state.scene.place.team;
+  team_name_->setText(team == nullptr ? QString() : FromCodePage(team->display_name));
+  team_name_->setAccessibleDescription(team_name_->text());
   ShowVisible(state.scene.is_grid_shown);
   ShowTints();
   ShowTexts(change);
@@ -221,7 +220,6 @@ void RosterFrame::AddTeamNameAndSave() {
 
   save_ = new FilledButton("SAVE", this);
   save_->setObjectName("Command1");
-  save_->setAccessibleName("SAVE");
   save_->setGeometry(RectFromTwips(4200, 60, 2295, 375));
   save_->setFont(theme::Font(kSavePixels, QFont::Bold));
   connect(save_, &QPushButton::clicked, this, &RosterFrame::SaveRequested);
