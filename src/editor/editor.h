@@ -43,7 +43,7 @@ class Editor {
   /// identity byte is right, else a message says that an image must be opened.
   OpenResult OpenFirstImage(const std::filesystem::path& path);
 
-  /// A later file, likewise. A file that cannot be opened or read changes nothing and is not
+  /// A later file, in the same way. A file that cannot be opened or read changes nothing and is not
   /// reported; one that was opened before its reading failed keeps channel 1.
   OpenResult OpenAnotherImage(const std::filesystem::path& path);
 

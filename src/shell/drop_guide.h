@@ -8,7 +8,7 @@ namespace morlek {
 
 /// While a file is dragged over the window: a frame around its content, and in the middle what
 /// dropping it would do. It watches the drag and has no part in it: who takes what stays the same,
-/// and what nobody takes can be told why.
+/// and what nobody takes has a reason to show.
 class DropGuide : public QLabel {
   Q_OBJECT
 

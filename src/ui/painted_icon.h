@@ -12,7 +12,7 @@ namespace morlek {
 /// copies, and so holds what it paints by value.
 using PicturePainter = std::function<void(QPainter& painter, const QRectF& target)>;
 
-/// An icon that is painted anew for every size and scale, and so is never blurred.
+/// An icon that is painted for every size and scale, and so is never blurred.
 [[nodiscard]] QIcon MakePaintedIcon(PicturePainter paint);
 
 }  // namespace morlek

@@ -137,7 +137,7 @@ TEST_F(MainWindowTest, OnTopIsTurnedOnAndOffInPlace) {
     EXPECT_EQ(Find<QAction>("mnuNotTop").isVisible(), on_top);
     Choose(on_top ? "mnuNotTop" : "mnuAlwaysOnTop");
   }
-  EXPECT_EQ(window->windowHandle(), native) << "the window was made anew";
+  EXPECT_EQ(window->windowHandle(), native) << "the window was recreated";
   EXPECT_EQ(window->winId(), id);
 }
 

@@ -49,7 +49,7 @@ class RandomWindowTest : public WindowTest {
     }
   }
 
-  /// Shows the window anew over this image and answers its first dialog.
+  /// Shows a new window over this image and answers its first dialog.
   void StartRound(const std::optional<QString>& answer, const std::vector<std::uint8_t>& image) {
     PutFile(ImageFile(), image);
     Start(answer);
