@@ -51,6 +51,8 @@ class GridMarks {
   /// there is none.
   [[nodiscard]] std::optional<Cell> NextLossy(std::optional<Cell> from, bool backwards) const;
 
+  friend bool operator==(const GridMarks&, const GridMarks&) = default;
+
  private:
   std::array<CellMark, kCellCount> marks_;
   int modified_count_ = 0;
