@@ -1,5 +1,4 @@
 #include <QMenu>
-#include <QMimeData>
 #include <QTimer>
 
 #include "shell/window_fixture.h"
@@ -51,9 +50,15 @@ TEST_F(PlayersWindowTest, TheMenuOffersWhatCanBeDone) {
   const QString batter = Row(0);
   QApplication::clipboard()->setText("A.B");
   ClickBox(1, 3);
-  EXPECT_EQ(OpenMenu("Paste"),
+  const QString name = Box(1, 3).text();
+  EXPECT_EQ(OpenMenu("Copy"),
             "Cut, Copy, Paste, Delete, Select All, Copy Player, Move Player Up, Move Player Down, "
             "Copy Team");
+  EXPECT_EQ(QApplication::clipboard()->text(), name);
+  OpenMenu("Cut");
+  EXPECT_EQ(Box(1, 3).text(), "");
+  QApplication::clipboard()->setText("A.B");
+  OpenMenu("Paste");
   EXPECT_EQ(Box(1, 3).text(), "A.B");
   EXPECT_EQ(OpenMenu("Undo"),
             "Undo, Paste, Select All, Copy Player, Move Player Up, Move Player Down, Copy Team");

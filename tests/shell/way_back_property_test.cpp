@@ -349,6 +349,7 @@ void WayBackPropertyTest::TakeRandomStep() {
       if (!dice.OneIn(3)) break;
       const bool is_open = ImportRandomFile();
       AddStep(Shown());
+      ExpectState();
       // So that the file is not in the way of a load.
       if (is_open) ChooseWith("mnuOpen", std::nullopt);
       break;

@@ -1,4 +1,3 @@
-#include <QAbstractButton>
 #include <QAccessible>
 #include <QAccessibleActionInterface>
 #include <QDialog>
