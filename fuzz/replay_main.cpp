@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-#include "fuzz/fuzz_world.h"
+#include "fuzz/promise.h"
 
 int main(int argument_count, char** arguments) {
   int files = 0;

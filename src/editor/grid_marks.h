@@ -59,6 +59,8 @@ class GridMarks {
   /// of them, both as the cells stand on the screen. Nothing when there is none.
   [[nodiscard]] std::optional<Cell> NextLossy(std::optional<Cell> from, bool backwards) const;
 
+  friend bool operator==(const GridMarks&, const GridMarks&) = default;
+
  private:
   std::array<CellMark, kCellCount> marks_;
   std::bitset<kCellCount> marked_;

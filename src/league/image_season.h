@@ -29,8 +29,8 @@ struct ImageSeason {
 };
 
 /// Opens the image at `path` for reading, reads all its teams and closes it. When it is not the
-/// game's, adds a complaint with the identity byte and, as far as the size shows it, what is missing,
-/// and gives nothing. Throws OperationFailed when it cannot be opened or read.
+/// game's, adds a complaint with the identity byte and, as far as the size shows it, what is
+/// missing, and gives nothing. Throws OperationFailed when it cannot be opened or read.
 [[nodiscard]] std::optional<ImageSeason> ReadImage(const Disk& disk,
                                                    const std::filesystem::path& path,
                                                    Complaints& complaints);

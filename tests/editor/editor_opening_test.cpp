@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "editor/editor.h"
 #include "support/memory_disk.h"
 #include "support/recording_messages.h"
@@ -30,8 +28,6 @@ class EditorOpeningTest : public ::testing::Test {
     messages.shown.clear();
   }
 
-  bool Exports() { return editor.ExportTeam("text") == ExportResult::kWritten; }
-
   MemoryDisk disk;
   RecordingMessages messages;
   Editor editor{messages, disk.Opener()};
@@ -52,10 +48,6 @@ TEST_F(EditorOpeningTest, TheFirstFileIsTakenOnlyWhenItsIdentityByteIsRight) {
     ExpectImage("", "0");
     ExpectMessage(kMustOpen);
   }
-  disk.failing_access = 2;
-  EXPECT_EQ(editor.OpenFirstImage("good"), OpenResult::kNotOpened);
-  ExpectImage("", "0");
-  ExpectMessage(kMustOpen);
   EXPECT_EQ(editor.OpenFirstImage("good"), OpenResult::kOpened);
   ExpectImage("good", "3C");
   EXPECT_TRUE(messages.shown.empty());
@@ -70,33 +62,6 @@ TEST_F(EditorOpeningTest, ALaterFileThatIsAnotherGamesIsReportedAndTheImageStays
   }
   EXPECT_EQ(editor.OpenAnotherImage("good too"), OpenResult::kOpened);
   ExpectImage("good too", "3C");
-}
-
-TEST_F(EditorOpeningTest, AHeldChannelIsReportedByTheLoadAndFreedByIt) {
-  disk.files["short.txt"] = {'A', ',', '\r'};
-  disk.files["good"].resize(1300000, 0);
-  const std::vector<std::function<void()>> ways_out = {
-      [this] { editor.CancelDialog(); },
-      [this] {
-        EXPECT_EQ(editor.LoadTeam("Braves").outcome, LoadResult::Outcome::kNotOpened);
-        ASSERT_EQ(messages.shown.size(), 1U);
-        EXPECT_NE(messages.shown[0].text.find("a team file was still open"), std::string::npos);
-        EXPECT_EQ(messages.shown[0].icon, Message::Icon::kCritical);
-        messages.shown.clear();
-      }};
-  editor.OpenFirstImage("good");
-  for (const auto& way_out : ways_out) {
-    const ImportResult imported = editor.ImportTeam("short.txt");
-    EXPECT_EQ(imported.outcome, ImportResult::Outcome::kEndedEarly);
-    EXPECT_EQ(imported.lines, 1);
-    EXPECT_TRUE(editor.state().is_file_held);
-    EXPECT_FALSE(Exports());
-    way_out();
-    EXPECT_FALSE(editor.state().is_file_held);
-    EXPECT_TRUE(Exports());
-  }
-  EXPECT_EQ(editor.LoadTeam("Braves").outcome, LoadResult::Outcome::kLoaded);
-  EXPECT_TRUE(messages.shown.empty());
 }
 
 }  // namespace

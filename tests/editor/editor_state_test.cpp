@@ -49,27 +49,6 @@ constexpr Cell kNumber{kUniformNumber, 7};
 const Team* const kBravesTeam = FindTeam("Braves");
 const Team* const kOriolesTeam = FindTeam("Orioles");
 
-TEST_F(EditorStateTest, OnlyAVisitOfAFeatureMovesTheStanceAndAsksForTheWideLayout) {
-  editor.Visit({kBody, 20});
-  EXPECT_TRUE(last_change.layout_set);
-  editor.Pick(kFace, "57");
-  EXPECT_EQ(last_change.picked_into, (Cell{kFace, 20}));
-  EXPECT_EQ(state().layout, Layout::kWide);
-  editor.Minimize();
-  EXPECT_TRUE(last_change.layout_set);
-  EXPECT_EQ(state().layout, Layout::kNarrow);
-  editor.Visit({kName, 3});
-  EXPECT_EQ(state().stance_row, 20);
-  EXPECT_EQ(state().chooser, kBody);
-  for (const auto& step : {std::function<void()>([&] { editor.OpenAnotherImage(kImage); }),
-                           {[&] { editor.LoadTeam("Orioles"); }}}) {
-    editor.Visit({kLegs, 3});
-    step();
-    EXPECT_TRUE(last_change.layout_set);
-    EXPECT_EQ(state().layout, Layout::kNarrow);
-  }
-}
-
 TEST_F(EditorStateTest, BehindTheMessagesOfASaveStandTheLetterAndThenTheFreshMarks) {
   editor.Type(kNumber, "77");
   editor.Type({kName, 3}, "J.SM1TH");
@@ -123,20 +102,20 @@ TEST_F(EditorStateTest, AFileThatIsHeldIsNoLongerReportedBehindTheMessageOfTheLo
   ASSERT_EQ(seen.size(), 2U);
   EXPECT_TRUE(!seen[0].held && seen[0].messages == 0);
   EXPECT_FALSE(seen[1].grid);
+  EXPECT_NE(messages.shown.at(0).text.find("a team file was still open"), std::string::npos);
+  EXPECT_EQ(messages.shown[0].icon, Message::Icon::kCritical);
 }
 
-TEST_F(EditorStateTest, NextAndPreviousTeamGoRound) {
-  editor.OpenAnotherImage(kImage);
-  editor.LoadTeamBeside(-1);
-  EXPECT_FALSE(state().scene.is_grid_shown);
-  for (const auto& [places, key] :
-       {std::pair(+1, "Braves"), {-1, "Blue Jays"}, {+1, "Braves"}, {+1, "Orioles"}}) {
-    editor.LoadTeamBeside(places);
-    EXPECT_EQ(state().scene.place.team, FindTeam(key));
-  }
-  editor.OpenAnotherImage(kImage);
-  editor.LoadTeamBeside(+1);
-  EXPECT_EQ(state().scene.place.team, kBravesTeam) << "each image starts anew";
+TEST_F(EditorStateTest, NotesTellWhatAStepHasLeftUnsavedAndWhatASaveHasStored) {
+  for (int row = 0; row < 8; ++row) editor.Type({kUniformNumber, row}, "77");
+  editor.LoadTeam("Orioles");
+  EXPECT_EQ(std::get<LeftBehind>(state().note).changes, 8);
+  EXPECT_EQ(std::get<LeftBehind>(state().note).place.team, kBravesTeam);
+  editor.Undo();
+  EXPECT_EQ(state().note.index(), 0U);
+  EXPECT_EQ(state().picked, kBravesTeam);
+  editor.Save();
+  EXPECT_EQ(std::get<SavedChanges>(state().note).stored, 8);
 }
 
 TEST_F(EditorStateTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {
@@ -144,6 +123,22 @@ TEST_F(EditorStateTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {
   editor.LoadTeam("braves");
   EXPECT_EQ(state().grid.Text(kNumber), "99");
   EXPECT_EQ(state().scene.place.team, kBravesTeam);
+}
+
+TEST_F(EditorStateTest, ABlockLeavesWordOfWhatFoundNoPlaceUntilTheNextStep) {
+  const auto without_place = [this] {
+    const auto* result = std::get_if<PasteResult>(&state().outcome);
+    return result == nullptr ? -1 : result->cells;
+  };
+  const Cell last{Column::kLegs, 24};
+  editor.PasteBlock(last, "7\t8\n9");
+  EXPECT_EQ(without_place(), 2);
+  editor.PasteBlock(last, "7\t8");
+  EXPECT_EQ(without_place(), 1) << "though no text changes";
+  editor.PasteBlock(last, "3\t");
+  EXPECT_EQ(without_place(), 0);
+  editor.Type(last, "4");
+  EXPECT_EQ(without_place(), -1);
 }
 
 TEST_F(EditorStateTest, ObserversMayEndASubscriptionWhileTheyAreCalledAndOutliveTheEditor) {

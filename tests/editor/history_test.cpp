@@ -13,23 +13,6 @@ int StepsBack(History& history) {
   return steps;
 }
 
-TEST(History, LeafingIsOneStepAVisitBesideTyping) {
-  const Cell cell{Column::kFace, 7};
-  History history;
-  history.AddTyping({cell, "", "5"});
-  for (const auto& [before, after] : {std::pair("5", "6"), {"6", "7"}, {"7", "10"}}) {
-    history.AddLeafing({cell, before, after});
-  }
-  history.AddTyping({cell, "10", "101"});
-  history.AddLeafing({cell, "101", "57"});
-  history.EndVisit();
-  history.AddLeafing({cell, "57", "56"});
-  for (const char* text : {"57", "101", "10", "5", ""}) {
-    EXPECT_EQ(history.Undo().value().texts.front().after, text);
-  }
-  EXPECT_FALSE(history.can_undo());
-}
-
 TEST(History, ALongOneDropsItsOldestStepsAndNoMore) {
   // Each step but the first holds a little more than 7 MiB, so 32 MiB take four of them.
   GridChange change;

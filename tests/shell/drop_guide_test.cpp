@@ -1,3 +1,4 @@
+#include <QDialog>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QWindow>
@@ -16,13 +17,23 @@ class DropGuideTest : public WindowTest {
             const char* over = "Label4(0)") {
     data.setUrls(files);
     data.setText("their paths");
-    const QPoint place = Find(over).mapTo(window.get(), QPoint(9, 9));
+    place = Find(over).mapTo(window.get(), QPoint(9, 9));
     QDragEnterEvent enter(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window->windowHandle(), &enter);
     QDragMoveEvent move(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
     move.setAccepted(enter.isAccepted());
     QApplication::sendEvent(window->windowHandle(), &move);
     return move.isAccepted();
+  }
+  /// Drags files there and lets go of them; true when they are taken, and as a copy.
+  bool Drop(const QList<QUrl>& files, Qt::DropActions actions = Qt::CopyAction,
+            const char* over = "Label4(0)") {
+    if (!Drag(files, actions, over)) return false;
+    // Which asks for a move.
+    QDropEvent drop(place, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+    QApplication::sendEvent(window->windowHandle(), &drop);
+    QCoreApplication::processEvents();
+    return drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
   }
   void Leave() {
     QDragLeaveEvent leave;
@@ -36,6 +47,7 @@ class DropGuideTest : public WindowTest {
   static QUrl Url(const QString& path) { return QUrl::fromLocalFile(path); }
 
   QMimeData data;
+  QPoint place;
 };
 
 TEST_F(DropGuideTest, SaysWhatADropWillDoAndThenDoesIt) {
@@ -54,6 +66,9 @@ TEST_F(DropGuideTest, SaysWhatADropWillDoAndThenDoesIt) {
   Click("Cardinals");
   Drag({team});
   EXPECT_EQ(Said(), "Import into St. Louis Cardinals");
+  EXPECT_TRUE(Drop({team}, Qt::CopyAction, "Text1(0)"));
+  EXPECT_EQ(Box(1, 24).text(), "D.ROP");
+  Click("Cardinals");
   TypeInto(3, 14, "77");
   Drag({image});
   EXPECT_EQ(Said(), "Open this image; 1 change stays behind Ctrl+Z");
@@ -63,16 +78,22 @@ TEST_F(DropGuideTest, SaysWhatADropWillDoAndThenDoesIt) {
   EXPECT_EQ(CountOf(Seen(*window).copy(0, 100, 4, 500), theme::kLight.accent), 2000) << "the frame";
   EXPECT_TRUE(IsShown("Frame1")) << "not before the drop";
 
-  QDropEvent drop(window->rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(window->windowHandle(), &drop);
+  EXPECT_TRUE(Drop({image}, Qt::CopyAction | Qt::MoveAction));
   EXPECT_EQ(Said(), "");
-  QCoreApplication::processEvents();
   EXPECT_FALSE(IsShown("Frame1"));
+  EXPECT_TRUE(user.messages.empty());
 }
 
 TEST_F(DropGuideTest, SaysWhyAThingIsNotTakenAndLeavesItAlone) {
-  StartWithTeam();
   const QUrl image = Url(ImagePath());
+  StartWithTeam();
+  EXPECT_FALSE(Drag({QUrl("https://example.org/game.smc")}));
+  {
+    QDialog question;  // as one of the editor's own stands over the window
+    question.setModal(true);
+    question.show();
+    EXPECT_FALSE(Drag({image}));
+  }
   EXPECT_FALSE(Drag({image, image}));
   EXPECT_EQ(Said(), "Not taken: one file at a time");
   EXPECT_FALSE(Drag({Url(PathOf("."))}));

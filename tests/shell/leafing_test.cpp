@@ -7,81 +7,15 @@ namespace {
 class LeafingTest : public WindowTest {
  protected:
   /// Puts a code into the face box of a row, which then has the focus.
-  QLineEdit& EnterFace(int row, const QString& code) {
+  void EnterFace(int row, const QString& code) {
     Box(1, row).setFocus();
     Box(12, row).setFocus();
     Box(12, row).setText(code);
-    return Box(12, row);
   }
 
   /// The player alone, without the plate.
   [[nodiscard]] QImage Figure() const { return Seen(Find("StanceView")).copy(2, 3, 76, 97); }
 };
-
-TEST_F(LeafingTest, PageKeysGoThroughThePicturesInTheOrderOfTheirCodes) {
-  StartWithTeam();
-  QLineEdit& face = EnterFace(4, "0");
-  QStringList codes = {face.text()};
-  for (; codes.size() < 48; codes << face.text()) Press(Qt::Key_PageDown);
-  EXPECT_EQ(codes.mid(0, 10).join(' '), "0 1 2 3 4 5 6 7 10 11");
-  Press(Qt::Key_PageDown);
-  EXPECT_EQ(face.text(), "57") << "there is no next one";
-  EXPECT_EQ(face.selectedText(), "57") << "typing replaces it";
-  for (int place = 46; place >= 0; --place) {
-    Press(Qt::Key_PageUp);
-    EXPECT_EQ(face.text(), codes[place]);
-  }
-  Press(Qt::Key_PageUp);
-  EXPECT_EQ(face.text(), "0");
-
-  struct Case {
-    const char* from;
-    const char* down;
-    const char* up;
-  };
-  for (const auto& [from, down, up] : {Case{"18", "20", "17"},
-                                       {"FF", "FF", "57"},
-                                       {"07", "10", "6"},
-                                       {"zz", "0", "57"},
-                                       {"", "0", "57"}}) {
-    EnterFace(4, from);
-    Press(Qt::Key_PageDown);
-    EXPECT_EQ(face.text(), down) << from;
-    EnterFace(4, from);
-    Press(Qt::Key_PageUp);
-    EXPECT_EQ(face.text(), up) << from;
-  }
-  Box(14, 4).setFocus();
-  Box(14, 4).setText("4");
-  Press(Qt::Key_PageDown);
-  EXPECT_EQ(Box(14, 4).text(), "10") << "legs have pictures of their own";
-  Box(3, 4).setFocus();
-  const std::vector<QString> before = GridTexts();
-  Press(Qt::Key_PageDown);
-  EXPECT_EQ(GridTexts(), before);
-}
-
-TEST_F(LeafingTest, TheFigureFollowsAndOneVisitIsTakenBackInOneStep) {
-  StartWithTeam();
-  QLineEdit& face = EnterFace(9, "20");
-  const QImage first = Figure();
-  Choose("mnuMini");
-  for (int pictures = 0; pictures < 3; ++pictures) Press(Qt::Key_PageDown);
-  EXPECT_EQ(face.text(), "23");
-  EXPECT_EQ(window->width(), 666) << "the choosers come back into view";
-  EXPECT_NE(Figure(), first);
-  EXPECT_TRUE(ChangedPositions().empty());
-
-  QTest::keyClicks(&face, "5");
-  Press(Qt::Key_PageUp);
-  Press(Qt::Key_PageUp);
-  EXPECT_EQ(face.text(), "3");
-  for (const char* text : {"5", "23", "20"}) {
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(face.text(), text);
-  }
-  EXPECT_EQ(Figure(), first);
-}
 
 TEST_F(LeafingTest, APictureUnderThePointerIsTriedOnAndPutsNothing) {
   StartWithTeam();

@@ -106,6 +106,7 @@ TEST_F(MainWindowTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   StartWithTeam();
   QTest::mouseClick(&Box(13, 3), Qt::LeftButton);
   Choose("mnuMini");
+  const std::vector<QString> texts = GridTexts();
   EXPECT_EQ(window->findChild<QWidget*>("Frame5"), nullptr) << "the start waits for the help";
   Choose("mnuMorlekHELP");
   Choose("mnuMorlekHELP");
@@ -116,6 +117,8 @@ TEST_F(MainWindowTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   QTest::mouseDClick(help.viewport(), Qt::RightButton);
   for (const auto key : {Qt::Key_Escape, Qt::Key_X, Qt::Key_Tab, Qt::Key_Backtab}) Press(key);
   for (const auto key : {Qt::Key_PageDown, Qt::Key_S}) Press(key, Qt::ControlModifier);
+  Press(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(GridTexts(), texts);
   EXPECT_EQ(QApplication::focusWidget(), &help) << "the covered grid takes no keys";
   EXPECT_TRUE(IsShown("Frame5"));
   EXPECT_EQ(LabelText("Label4(0)"), "ATLANTA BRAVES");

@@ -65,6 +65,20 @@ class RandomWindowTest : public WindowTest {
     return texts;
   }
 
+  static QString Counted(int count, const QString& one, const QString& many) {
+    return count == 0 ? QString() : QString::number(count) + " " + (count == 1 ? one : many);
+  }
+  static QString Changes(int count) {
+    return Counted(count, "change not saved", "changes not saved");
+  }
+  /// What is said of cells with marks.
+  static QString Summary(int unsaved, int lossy) {
+    QStringList parts = {Changes(unsaved)};
+    if (lossy > 0) parts << "SAVE will not keep " + Counted(lossy, "cell", "cells") + " (F8)";
+    parts.removeAll("");
+    return parts.join(QString::fromUtf8(" · "));
+  }
+
   void Note(const QString& step) { trail << step; }
 
   /// What a person could put into this column, now and then with a slip.

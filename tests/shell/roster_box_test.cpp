@@ -4,7 +4,6 @@
 #include <QMimeData>
 #include <QSignalSpy>
 
-#include "shell/box_menu.h"
 #include "shell/eye.h"
 #include "shell/window_fixture.h"
 #include "team/roster_grid.h"
@@ -125,39 +124,6 @@ TEST_F(RosterBoxTest, TheRingStaysBehindAMenuAndIsNothingToClickOrToRead) {
   for (int child = 0; child < grid.childCount(); ++child) {
     EXPECT_NE(grid.child(child)->role(), QAccessible::Client) << child;
   }
-}
-
-TEST_F(RosterBoxTest, TheContextMenuOffersWhatCanBeDoneWithTheBox) {
-  StartWithTeam();
-  QLineEdit& box = Box(1, 3);
-  const auto menu_of = [&box] {
-    BoxMenu menu(box, [] {});
-    QStringList items;
-    for (const QAction* action : menu.actions()) {
-      items << (action->isSeparator() ? "-" : action->isEnabled() ? action->text() : "");
-    }
-    return items.join(' ').toStdString();
-  };
-  const std::string players =
-      " - Copy P&layer Paste Pla&yer E&xchange with Copied Player &Move Player Up Move Player "
-      "&Down "
-      "Copy T&eam";
-  box.selectAll();
-  PasteDirectly(box, "A.B");
-  EXPECT_EQ(menu_of(), "&Undo  -   &Paste  - Select All" + players);
-  box.selectAll();
-  EXPECT_EQ(menu_of(), "&Undo  - Cu&t &Copy &Paste Delete - Select All" + players);
-
-  int pastes = 0;
-  BoxMenu menu(box, [&pastes] { ++pastes; });
-  for (const char* caption : {"&Paste", "&Copy", "Cu&t"}) {
-    for (QAction* action : menu.actions()) {
-      if (action->text() == caption) action->trigger();
-    }
-  }
-  EXPECT_EQ(pastes, 1);
-  EXPECT_EQ(QApplication::clipboard()->text(), "A.B");
-  EXPECT_EQ(box.text(), "");
 }
 
 }  // namespace

@@ -93,35 +93,4 @@ inline SpokenTip ReadTip(const QString& tip) {
   return spoken;
 }
 
-/// What the line at the foot says behind the name of the image.
-struct SpokenSummary {
-  int unsaved = 0;
-  int lossy = 0;
-  bool is_file_open = false;
-
-  friend bool operator==(const SpokenSummary&, const SpokenSummary&) = default;
-};
-
-/// The line without what it says of the last step.
-inline QString WithoutNote(QString line) {
-  static const QRegularExpression note(QString::fromUtf8(
-      R"( · (?:[A-Z][A-Za-z ]+: (?:1 change|(?:[2-9]|[1-9]\d+) changes) not saved, Ctrl\+Z goes back)"
-      R"(|\d+ changes? stored(?:, \d+ refused by the disk)?|\d+ refused by the disk)"
-      R"(|\d+ of 25 lines read(?:, Ctrl\+Z goes back)?|\d+ cells? found no place))"));
-  return line.remove(note);
-}
-
-/// Understands the line to the last letter, one and many included.
-inline SpokenSummary ReadSummary(const QString& line) {
-  static const QRegularExpression grammar(QString::fromUtf8(
-      R"(\Agame\.smc(?:( · a file is still open and blocks SAVE \(Ctrl\+O, Cancel\)))"
-      R"(|(?: · (?:(1) change|([2-9]|[1-9]\d+) changes) not saved)?)"
-      R"((?: · SAVE will not keep (?:(1) cell|([2-9]|[1-9]\d+) cells) \(F8\))?)\z)"));
-  const QRegularExpressionMatch match = grammar.match(WithoutNote(line));
-  EXPECT_TRUE(match.hasMatch()) << "no such line: " << line.toStdString();
-  return {.unsaved = (match.captured(2) + match.captured(3)).toInt(),
-          .lossy = (match.captured(4) + match.captured(5)).toInt(),
-          .is_file_open = !match.captured(1).isEmpty()};
-}
-
 }  // namespace morlek

@@ -1,0 +1,189 @@
+#include "shell/one_truth.h"
+
+#include <QAction>
+#include <QScreen>
+#include <map>
+
+#include "image/team_directory.h"
+
+namespace morlek {
+
+void OneTruth::ExpectCells() const {
+  int unsaved = 0;
+  int lossy = 0;
+  const SavePreview preview = editor->Preview();
+  for (int place = 0; place < kCells; ++place) {
+    const QLineEdit& box = *boxes[place];
+    ASSERT_EQ(ToCodePage(box.text()), state().grid.Text(CellAt(place)));
+    const SpokenTip said = ReadTip(box.accessibleDescription());
+    ASSERT_EQ(ShownTip(box.toolTip()), said.all);
+    const bool is_blue = box.palette().color(QPalette::Text) == QColor(0x1f, 0x5f, 0xd0);
+    if (state().loaded == nullptr) {
+      ASSERT_TRUE(said.all.isEmpty() && !is_blue);
+      continue;
+    }
+    const QString held = FromCodePage(editor->baseline()->texts().Text(CellAt(place)));
+    ExpectMark(place, held, preview, said);
+    ExpectReason(place, said);
+    ASSERT_EQ(is_blue, !IsSame(place, box.text(), held)) << box.objectName().toStdString();
+    unsaved += is_blue ? 1 : 0;
+    lossy += said.is_lossy() ? 1 : 0;
+  }
+  ASSERT_EQ(Find("Command1").accessibleDescription(), Summary(unsaved, lossy));
+}
+
+/// Every sentence of a tip agrees with what the box shows, what the image holds, and what a load
+/// after SAVE would show.
+void OneTruth::ExpectMark(int place, const QString& held, const SavePreview& preview,
+                          const SpokenTip& said) const {
+  using enum SpokenTip::Save;
+  static const std::map<SavePreview::Fate, SpokenTip::Save> words = {
+      {SavePreview::Fate::kStored, kStores},
+      {SavePreview::Fate::kSkipped, kSkips},
+      {SavePreview::Fate::kEndsSave, kEnds},
+      {SavePreview::Fate::kNotReached, kNotReached}};
+  const QString text = boxes[place]->text();
+  const std::string where = boxes[place]->objectName().toStdString() + ": " +
+                            said.all.toStdString() + " over " + held.toStdString();
+  const QString after = FromCodePage(preview.TextAfter(CellAt(place)));
+  const bool is_unsaved = !IsSame(place, text, held);
+  const bool is_lost = text == held ? after != text : !IsSame(place, after, text);
+  const bool is_told = is_lost && after == held;
+  ASSERT_EQ(said.is_lossy(), is_lost) << where;
+  ASSERT_EQ(said.held, is_unsaved && !is_told ? std::optional(held) : std::nullopt) << where;
+  ASSERT_EQ(said.is_held_already, is_told && said.save == kStores) << where;
+  if (!is_lost) return;
+  ASSERT_EQ(said.save, words.at(preview.FateOf(CellAt(place)))) << where;
+  ASSERT_EQ(said.after, after) << where;
+  if (said.save != kNotReached) return;
+  const QLineEdit& too_long = Box(1, preview.end_row().value());
+  ASSERT_EQ(said.too_long, too_long.accessibleName().section(", ", 1));
+  ASSERT_EQ(said.verb, ColumnOf(place) == 1 ? "then holds" : "keeps");
+}
+
+/// The reason names what there is, and the column takes what its head says.
+void OneTruth::ExpectReason(int place, const SpokenTip& said) const {
+  static const QRegularExpression letter("[A-Z ]");
+  const QString text = boxes[place]->text();
+  if (!said.is_lossy() || said.save == SpokenTip::Save::kNotReached) {
+    EXPECT_EQ((said.shared + QStringList{said.fault, said.head}).join(""), "");
+    return;
+  }
+  EXPECT_EQ(said.head, HeadOf(place).text());
+  EXPECT_EQ(said.takes, TakesOf(place));
+  if (!said.shared.isEmpty()) {
+    const int bad = PartnerOf(place);
+    ASSERT_GE(bad, 0);
+    QStringList heads = {said.head, HeadOf(bad).text()};
+    if (boxes[bad]->x() < boxes[place]->x()) heads.swapItemsAt(0, 1);
+    EXPECT_EQ(said.shared, heads + QStringList({HeadOf(bad).text(), TakesOf(bad)}));
+  }
+  if (said.fault.isEmpty()) return;
+  const int number = said.fault.startsWith("Character") ? said.fault.section(' ', 1, 1).toInt() : 0;
+  const bool is_true = number > 0 ? !QString(text[number - 1].toUpper()).contains(letter)
+                       : said.fault.startsWith("No initial") ? text[0] == '.'
+                       : said.fault.startsWith("No period")  ? text[1] != '.'
+                                                             : text.lastIndexOf('.') > 1;
+  EXPECT_TRUE(is_true);
+}
+
+void OneTruth::ExpectFoot() const {
+  QStringList notes = {PathText(state().scene.place.image.filename())};
+  if (const auto* left = std::get_if<LeftBehind>(&state().note)) {
+    notes << FromCodePage(left->place.team->key) + ": " + Changes(left->changes) +
+                 ", Ctrl+Z goes back";
+  }
+  if (const auto* saved = std::get_if<SavedChanges>(&state().note)) {
+    QStringList parts = {Counted(saved->stored, "change stored", "changes stored"),
+                         Counted(saved->refused, "refused by the disk", "refused by the disk")};
+    parts.removeAll("");
+    notes << parts.join(", ");
+  }
+  if (const auto* closed = std::get_if<ClosedImport>(&state().note)) {
+    notes << QString("%1 of 25 lines read").arg(closed->lines) +
+                 (state().can_undo ? ", Ctrl+Z goes back" : "");
+  }
+  if (const auto* copied = std::get_if<CopyNote>(&state().note)) {
+    notes << FromCodePage(copied->who) + " is copied";
+  }
+  const auto* import = std::get_if<ImportResult>(&state().outcome);
+  if (import != nullptr && import->outcome == ImportResult::Outcome::kEndedEarly) {
+    notes << QString("%1 of 25 lines read").arg(import->lines);
+  }
+  const auto* paste = std::get_if<PasteResult>(&state().outcome);
+  if (paste != nullptr) {
+    notes << Counted(paste->cells, "cell found no place", "cells found no place");
+  }
+  if (state().scene.is_grid_shown && state().is_file_held) {
+    notes << "a file is still open and blocks SAVE (Ctrl+O, Cancel)";
+  } else if (state().scene.is_grid_shown) {
+    notes << Summary(state().marks.modified_count(), state().marks.lossy_count());
+  }
+  notes.removeAll("");
+  const QString foot = notes.join(QString::fromUtf8(" · "));
+  ASSERT_EQ(Find("labelStatus").accessibleDescription(), foot);
+  // The name of the image gives way where the rest needs the room, and then whole parts of the
+  // rest.
+  QString shown = LabelText("labelStatus");
+  const QString cut = QString::fromUtf8(" · …");
+  const bool is_cut = shown.endsWith(cut);
+  if (is_cut) shown.chop(3);
+  const QString nameless = foot.section(QString::fromUtf8(" · "), 1);
+  ASSERT_TRUE(shown == foot || shown == nameless || (is_cut && nameless.startsWith(shown)))
+      << foot.toStdString();
+  ASSERT_EQ(is_cut, Find("labelStatus").toolTip().startsWith(nameless + "\n"));
+  ASSERT_EQ(LabelText("Label3").toStdString(), state().identity);
+}
+
+void OneTruth::ExpectTeam() const {
+  ASSERT_EQ(IsShown("Toolbar1"), !state().scene.place.image.empty());
+  ASSERT_EQ(IsShown("Frame1"), state().scene.is_grid_shown);
+  ASSERT_EQ(IsShown("labelHint"), !state().scene.is_grid_shown);
+  ASSERT_EQ(LabelText("labelHint"), state().scene.place.image.empty()
+                                        ? "Open a ROM with Ctrl+O"
+                                        : "Pick a team above, or press Ctrl+Page Down");
+  const Team* team = state().scene.place.team;
+  ASSERT_EQ(LabelText("Label4(0)"), team == nullptr ? "" : FromCodePage(team->display_name));
+  for (const Team& each : kTeamDirectory) {
+    ASSERT_EQ(IsChecked(FromCodePage(each.key)), state().scene.is_grid_shown && team == &each)
+        << each.key;
+  }
+  for (const QAction* action : Find("Frame1").actions().first(2)) {
+    ASSERT_EQ(action->isEnabled(), action->text() == "&Undo" ? state().can_undo : state().can_redo);
+  }
+}
+
+void OneTruth::ExpectFeatures() const {
+  ASSERT_EQ(window->width(), state().layout == Layout::kNarrow ? 447 : 666);
+  for (const auto& [frame, array, column, pictures] :
+       {std::tuple("Frame2", "Picture1", Column::kFace, 48),
+        {"Frame3", "Picture2", Column::kBody, 48},
+        {"Frame4", "Picture3", Column::kLegs, 10}}) {
+    ASSERT_EQ(!Find(frame).isHidden(), state().chooser == column) << frame;
+    bool is_number = false;
+    const uint code = TextOf(column).toUInt(&is_number, 16);
+    int marked = 0;
+    for (int index = 0; index < 48; ++index) {
+      const QString name = QString("%1(%2)").arg(array).arg(index);
+      if (window->findChild<QWidget*>(name) == nullptr || !IsChecked(name)) continue;
+      ++marked;
+      // "face 24": a picture is known by its code.
+      ASSERT_TRUE(is_number) << TextOf(column).toStdString();
+      ASSERT_EQ(Find(name).accessibleName().section(' ', 1).toUInt(nullptr, 16), code);
+    }
+    ASSERT_LE(marked, 1);
+  }
+  ASSERT_EQ(Find("StanceView").accessibleDescription(), TextOf(Column::kName));
+}
+
+/// What has been painted on the screen is what the whole window would paint now.
+void OneTruth::ExpectPicture() const {
+  const auto image_of = [](const QPixmap& picture) {
+    return picture.toImage().convertToFormat(QImage::Format_RGB32);
+  };
+  ASSERT_TRUE(QTest::qWaitFor([&] {
+    return image_of(window->screen()->grabWindow(window->winId())) == image_of(window->grab());
+  }));
+}
+
+}  // namespace morlek
