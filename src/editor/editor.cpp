@@ -151,8 +151,8 @@ StepNote Editor::LeftBehindIn(const Scene& left) const {
   return LeftBehind{left.place, changes};
 }
 
-StepNote Editor::SavedIn(const SaveResult& saved) const {
-  SavedChanges changes;
+StepNote Editor::SavedIn(const SaveResult& saved, bool was_blocked) const {
+  SavedChanges changes{.was_blocked = was_blocked};
   for (const Cell cell : kAllCells) {
     const CellMark& mark = state_.marks.At(cell);
     if (!mark.is_modified) continue;
@@ -204,9 +204,10 @@ SaveResult Editor::Save() {
     state_.note = std::move(note);
     Publish();
   });
+  const bool was_blocked = channel_.is_open_for_text();
   const SaveResult result =
       SaveTeam(image_, LocationOf(state_.scene.place.team), state_.grid, codec_state_, reporter);
-  const StepNote saved = SavedIn(result);
+  const StepNote saved = SavedIn(result, was_blocked);
   if (baseline_ != nullptr) baseline_->FollowSave(result, *preview_);
   RefreshMarks();
   EndFileStep(result, {}, saved);
@@ -363,7 +364,8 @@ void Editor::RefreshMarks() {
 
 bool Editor::FollowRow(const GridChange& texts) {
   const int row = texts.front().cell.row;
-  if (!preview_ || texts.back().cell.row != row) return false;
+  // Behind the message of a load that has failed, the preview is still that of the team before.
+  if (baseline_ == nullptr || !preview_ || texts.back().cell.row != row) return false;
   if (!preview_->FollowRow(row, state_.grid, codec_state_, baseline_->bytes())) return false;
   state_.marks.FollowRow(row, state_.grid, *preview_, *baseline_);
   return true;

@@ -134,7 +134,7 @@ class Editor {
   [[nodiscard]] StepNote LeftBehindIn(const Scene& left) const;
 
   /// What a save has made of the changes, of which the marks from before it tell.
-  [[nodiscard]] StepNote SavedIn(const SaveResult& saved) const;
+  [[nodiscard]] StepNote SavedIn(const SaveResult& saved, bool was_blocked) const;
 
   /// Adds the step that led from a scene to the current one, if there is anything to take back.
   void AddStep(const PassedScene& before, const GridChange& texts);

@@ -53,6 +53,8 @@ struct UnknownLetter {
 struct SavedChanges {
   int stored = 0;
   int refused = 0;
+  /// An open team file was in the way, not the disk.
+  bool was_blocked = false;
 };
 
 /// An import that ended early, whose file a cancelled dialog has closed.

@@ -54,9 +54,10 @@ class GridMarks {
   [[nodiscard]] int modified_count() const { return modified_count_; }
   [[nodiscard]] int lossy_count() const { return lossy_count_; }
 
-  /// The next cell that SAVE will not keep after `from` (or before it, backwards), going round;
-  /// without `from` the first one (or the last). The causes come first, then what is lost because
-  /// of them, both as the cells stand on the screen. Nothing when there is none.
+  /// The next cell that SAVE will not keep after `from` (or before it, backwards), going round:
+  /// the causes, then what is lost because of them, both as the cells stand on the screen. From a
+  /// cell that SAVE keeps it is a cause, if there is one; without `from` the first one (or the
+  /// last). Nothing when SAVE keeps all cells.
   [[nodiscard]] std::optional<Cell> NextLossy(std::optional<Cell> from, bool backwards) const;
 
   friend bool operator==(const GridMarks&, const GridMarks&) = default;

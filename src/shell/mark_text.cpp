@@ -56,10 +56,11 @@ QString Counted(int count, const char* one, const char* many) {
   return QString::number(count) + ' ' + (count == 1 ? one : many);
 }
 
-/// A text that may be of any length, short enough for a line.
-QString Shortened(const QString& text) {
+/// A text that may be of any length, short enough for a line, as one line.
+QString Shortened(QString text) {
   constexpr int kMost = 24;
   constexpr int kEnd = kMost / 2;
+  text.replace('\n', ' ');
   if (text.size() <= kMost) return text;
   return text.first(kMost - kEnd - 1) + QChar(0x2026) + text.last(kEnd);
 }
@@ -90,7 +91,9 @@ QString TextOf(const UnknownLetter& unknown, const EditorState& state) {
 QString TextOf(const SavedChanges& saved, const EditorState& /*state*/) {
   QStringList parts;
   if (saved.stored > 0) parts << Counted(saved.stored, "change stored", "changes stored");
-  if (saved.refused > 0) parts << QString("%1 refused by the disk").arg(saved.refused);
+  const char* const refused =
+      saved.was_blocked ? "%1 not stored, a file was still open" : "%1 refused by the disk";
+  if (saved.refused > 0) parts << QString(refused).arg(saved.refused);
   return parts.join(", ");
 }
 

@@ -94,8 +94,10 @@ void OneTruth::ExpectFoot() const {
                  ", Ctrl+Z goes back";
   }
   if (const auto* saved = std::get_if<SavedChanges>(&state().note)) {
+    const QString refused =
+        saved->was_blocked ? "not stored, a file was still open" : "refused by the disk";
     QStringList parts = {Counted(saved->stored, "change stored", "changes stored"),
-                         Counted(saved->refused, "refused by the disk", "refused by the disk")};
+                         Counted(saved->refused, refused, refused)};
     parts.removeAll("");
     notes << parts.join(", ");
   }
