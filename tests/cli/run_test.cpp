@@ -1,10 +1,8 @@
 #include "cli/run.h"
 
-#include <fstream>
 #include <string_view>
 
 #include "support/league_fixture.h"
-#include "support/temp_dir.h"
 
 namespace morlek {
 namespace {
@@ -72,37 +70,6 @@ TEST_F(LeagueTest, StandardOutputThatIsFullIsReported) {
   EXPECT_EQ(cli::Run({"export", kImage}, whole_files, {in, full, messages_stream}),
             cli::ExitStatus::kFileFailure);
   EXPECT_EQ(messages_stream.str(), "morlek-league: standard output could not be written\n");
-}
-
-TEST_F(LeagueTest, RealFilesOfAnyNameAreReadAndWritten) {
-  const TempDir folder;
-  const auto name_of = [&folder](const char8_t* name) {
-    const std::u8string text = (folder / "").u8string() + name;
-    return std::string(text.begin(), text.end());
-  };
-  const std::string image_name = name_of(u8"Ñandú 日本.smc");
-  const std::filesystem::path image_path = folder / "" / std::filesystem::path(u8"Ñandú 日本.smc");
-  const std::string season = name_of(u8"import");
-  PutFile(image_path, file());
-  std::filesystem::permissions(image_path, std::filesystem::perms::owner_read);
-  whole_files = RealDisk();
-  EXPECT_EQ(Run({"export", image_name, season}), 0) << messages_text;
-  const std::string table = GetFile(folder / "import");
-  EXPECT_EQ(Run({"diff", image_name, season}), 0);
-  EXPECT_EQ(Run({"export", image_name, season}), 1);
-  EXPECT_EQ(Run({"export", image_name, name_of(u8""), "--force"}), 3) << "a folder";
-  PutFile(folder / "import", "Team,Slot,#\nBraves,1,99\n");
-  std::filesystem::permissions(
-      image_path, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
-  EXPECT_EQ(Run({"import", season, image_name}), 0);
-  std::vector<std::uint8_t> expected = file();
-  expected.at(kBraves - 1 + 10) = 99;
-  EXPECT_TRUE(GetFile(image_path) == std::string(expected.begin(), expected.end()));
-  const auto open_to_all = std::filesystem::perms{0666};
-  std::filesystem::permissions(folder / "import", open_to_all);
-  EXPECT_EQ(Run({"export", image_name, season, "--force"}), 0);
-  EXPECT_NE(GetFile(folder / "import"), table);
-  EXPECT_EQ(std::filesystem::status(folder / "import").permissions(), open_to_all);
 }
 
 }  // namespace

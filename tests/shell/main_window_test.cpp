@@ -63,20 +63,6 @@ TEST_F(MainWindowTest, QuitAsksAndTheCloseBoxDoesNot) {
   EXPECT_EQ(user.yes_no_questions.size(), 2U);
 }
 
-TEST_F(MainWindowTest, AClickOnAFeaturesBoxWidensAgainAlsoWhereTheFocusHasStayed) {
-  StartWithTeam();
-  for (const bool by_menu : {true, false}) {
-    QTest::mouseClick(&Box(12, 0), Qt::LeftButton);
-    if (by_menu) Choose("mnuMini");
-    if (!by_menu) Click("Cubs");
-    EXPECT_EQ(window->width(), kNarrow);
-    QTest::mouseClick(&Box(12, 0), Qt::RightButton);
-    EXPECT_EQ(window->width(), kNarrow) << "a click of another button is no visit";
-    QTest::mouseClick(&Box(12, 0), Qt::LeftButton);
-    EXPECT_EQ(window->width(), kWide) << by_menu;
-  }
-}
-
 TEST_F(MainWindowTest, TheWindowStaysWithinTheScreenAndItsContentKeepsItsWidth) {
   for (const int number : {0, 1}) {
     StartOnScreen(number);
@@ -114,7 +100,7 @@ TEST_F(MainWindowTest, HelpCoversTheGridUntilItIsDoubleClicked) {
 
   auto& help = Find<QPlainTextEdit>("Text15");
   QTest::mouseClick(help.viewport(), Qt::LeftButton);
-  QTest::mouseDClick(help.viewport(), Qt::RightButton);
+  DoubleClick(*help.viewport(), Qt::RightButton);
   for (const auto key : {Qt::Key_Escape, Qt::Key_X, Qt::Key_Tab, Qt::Key_Backtab}) Press(key);
   for (const auto key : {Qt::Key_PageDown, Qt::Key_S}) Press(key, Qt::ControlModifier);
   Press(Qt::Key_Down, Qt::AltModifier);

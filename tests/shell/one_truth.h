@@ -14,8 +14,8 @@ namespace morlek {
 class OneTruth : public RandomWindowTest {
  protected:
   [[nodiscard]] const EditorState& state() const { return editor->state(); }
-  [[nodiscard]] bool IsChecked(const QString& name) const {
-    return static_cast<bool>(QAccessible::queryAccessibleInterface(&Find(name))->state().checked);
+  static bool IsChecked(QWidget& widget) {
+    return static_cast<bool>(QAccessible::queryAccessibleInterface(&widget)->state().checked);
   }
   [[nodiscard]] QString TextOf(Column column) const {
     return FromCodePage(state().grid.Text({column, state().stance_row}));

@@ -55,6 +55,7 @@ TEST_F(ValueEditTest, TheFocusBeginsAVisitOnceHoweverItComesAndAnotherClickIsAVi
   QTest::mouseClick(&edit, Qt::LeftButton, Qt::NoModifier, {99, 10});
   EXPECT_EQ(Reported(), "visited []");
   QTest::mouseDClick(&edit, Qt::LeftButton);
+  QTest::mouseRelease(&edit, Qt::LeftButton);
   EXPECT_EQ(Reported(), "[VALUE]");
   QTest::mouseClick(&edit, Qt::RightButton, Qt::NoModifier, {99, 10});
   EXPECT_EQ(Reported(), "[VALUE]");

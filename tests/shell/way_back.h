@@ -45,18 +45,9 @@ class WayBack : public OneTruth {
   void GoBackAndForth(int most, bool backwards);
   void ExpectFocusOfTheStep(std::size_t from, const QWidget* before);
 
-  /// The texts in the window, the two keys and the list agree.
+  /// The window and the list agree.
   void ExpectState() const {
-    const Texts shown = Shown();
-    for (int place = 0; place < kCells; ++place) {
-      EXPECT_EQ(shown[place], states[now].texts[place]) << boxes[place]->objectName().toStdString();
-    }
-    EXPECT_EQ(LabelText("Label4(0)"), states[now].team);
-    EXPECT_EQ(CurrentState().image, states[now].image);
-    EXPECT_EQ(IsShown("Frame1"), states[now].is_shown);
-    const QList<QAction*> keys = Find("Frame1").actions();
-    EXPECT_EQ(keys[0]->isEnabled(), now > 0) << "undo";
-    EXPECT_EQ(keys[1]->isEnabled(), now + 1 < states.size()) << "redo";
+    EXPECT_TRUE(CurrentState() == states[now]) << LabelText("Label4(0)").toStdString();
     ExpectTruth();
   }
 

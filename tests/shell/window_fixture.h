@@ -9,7 +9,6 @@
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTest>
-#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,8 +27,6 @@ namespace morlek {
 /// The real main window over real files, with a scripted user.
 class WindowTest : public ::testing::Test {
  protected:
-  static constexpr int kBraves = 1278465;
-
   WindowTest() { PutFile(ImageFile(), Sample()); }
 
   static const std::vector<std::uint8_t>& Sample() {
@@ -79,7 +76,11 @@ class WindowTest : public ::testing::Test {
   [[nodiscard]] bool IsShown(const QString& name) const { return Find(name).isVisible(); }
 
   void Click(const QString& name) { QTest::mouseClick(&Find(name), Qt::LeftButton); }
-  static void DoubleClick(QWidget& widget) { QTest::mouseDClick(&widget, Qt::LeftButton); }
+  /// Lets go of the button as well, which the toolkit's own double-click leaves held down.
+  static void DoubleClick(QWidget& widget, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseDClick(&widget, button);
+    QTest::mouseRelease(&widget, button);
+  }
   void Choose(const QString& menu_item) { Find<QAction>(menu_item).trigger(); }
   /// Chooses a menu item and answers its dialog.
   void ChooseWith(const QString& menu_item, const std::optional<QString>& answer) {
@@ -123,24 +124,6 @@ class WindowTest : public ::testing::Test {
       for (int column = 1; column <= 14; ++column) texts.push_back(Box(column, row).text());
     }
     return texts;
-  }
-
-  /// Where the image file differs from the sample, as 1-based positions.
-  [[nodiscard]] std::vector<std::size_t> ChangedPositions() const {
-    const std::string now = GetFile(ImageFile());
-    EXPECT_EQ(now.size(), Sample().size());
-    std::vector<std::size_t> positions;
-    for (std::size_t place = 0; place < std::min(now.size(), Sample().size()); ++place) {
-      if (static_cast<std::uint8_t>(now[place]) != Sample()[place]) positions.push_back(place + 1);
-    }
-    return positions;
-  }
-
-  void ExpectTold(const QString& text, const QString& title = "MORLEK EDITOR") {
-    ASSERT_EQ(user.messages.size(), 1U);
-    EXPECT_EQ(user.messages.front(), (ScriptedUser::Told{text, title, Message::Icon::kNone}))
-        << user.messages.front().text.toStdString();
-    user.messages.clear();
   }
 
   TempDir folder;

@@ -18,8 +18,6 @@ class ScriptedUser : public User {
     QString text;
     QString title;
     Message::Icon icon;
-
-    friend bool operator==(const Told&, const Told&) = default;
   };
 
   std::deque<std::optional<QString>> paths;

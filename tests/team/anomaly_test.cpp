@@ -59,24 +59,24 @@ TEST_F(AnomalyTest, IdentityCheck) {
   Editor editor(messages, disk.Opener());
   OpenResult result{};
   const auto exports = [&] { return editor.ExportTeam(kText) == ExportResult::kWritten; };
-  FailEachAccess([] {}, [&] { result = editor.OpenFirstImage(kImage); },
-                 [&] {
-                   EXPECT_EQ(result, read_failed() ? OpenResult::kNotOpened : OpenResult::kOpened);
-                   EXPECT_EQ(messages.shown.empty(), !read_failed());
-                   EXPECT_EQ(editor.state().identity, read_failed() ? "0" : "3C");
-                   EXPECT_TRUE(exports()) << "the channel is free again";
-                   disk.files.erase(kText);
-                 });
-  FailEachAccess([] {}, [&] { result = editor.OpenAnotherImage(kImage); },
-                 [&] {
-                   EXPECT_EQ(result, read_failed() ? OpenResult::kNotOpened : OpenResult::kOpened);
-                   EXPECT_EQ(editor.state().identity, "3C");
-                   EXPECT_TRUE(messages.shown.empty());
-                   EXPECT_EQ(editor.state().is_file_held, read_failed() && access > 1);
-                   EXPECT_EQ(exports(), !read_failed() || access == 1) << "else held";
-                   editor.CancelDialog();
-                   disk.files.erase(kText);
-                 });
+  for (const bool is_first : {true, false}) {
+    FailEachAccess([] {},
+                   [&] {
+                     result =
+                         is_first ? editor.OpenFirstImage(kImage) : editor.OpenAnotherImage(kImage);
+                   },
+                   [&] {
+                     const bool failed = read_failed();
+                     const bool is_held = !is_first && failed && access > 1;
+                     EXPECT_EQ(result, failed ? OpenResult::kNotOpened : OpenResult::kOpened);
+                     EXPECT_EQ(messages.shown.empty(), !is_first || !failed);
+                     EXPECT_EQ(editor.state().identity, is_first && failed ? "0" : "3C");
+                     EXPECT_EQ(editor.state().is_file_held, is_held);
+                     EXPECT_EQ(exports(), !is_held);
+                     editor.CancelDialog();
+                     disk.files.erase(kText);
+                   });
+  }
 }
 
 TEST_F(AnomalyTest, Load) {
@@ -97,9 +97,6 @@ TEST_F(AnomalyTest, Load) {
           EXPECT_NE(load.failure.find(where), std::string::npos) << where << load.failure;
         }
         image.Close();
-        if (disk.failures != 1) return;
-        EXPECT_TRUE(Loads("Orioles"));
-        EXPECT_EQ(Text(14, 24), "18");
       });
 }
 
@@ -119,9 +116,6 @@ TEST_F(AnomalyTest, Save) {
                      made.erase(failing, disk.fails_from_then_on ? made.end() : failing + 1);
                    }
                    EXPECT_EQ(disk.writes, made);
-                   if (disk.failures != 1) return;
-                   Save();
-                   EXPECT_EQ(disk.writes, all);
                  });
 }
 
@@ -135,11 +129,7 @@ TEST_F(AnomalyTest, Export) {
                    EXPECT_TRUE(lines.starts_with(std::string(file.begin(), file.end())));
                    EXPECT_EQ(file.size() == lines.size(), !read_failed());
                    EXPECT_EQ(channel.is_open(), read_failed() && access > 1);
-                   // Whatever is left open, a save frees it; no team is loaded, so nothing is
-                   // written.
-                   Save();
-                   EXPECT_TRUE(disk.writes.empty());
-                   EXPECT_TRUE(Exports());
+                   image.Close();
                    disk.files[kText].clear();
                  });
 }
@@ -161,8 +151,6 @@ TEST_F(AnomalyTest, Import) {
         // The grid is emptied only when the file has been opened.
         EXPECT_EQ(Text(2, 24), !succeeded && !channel.is_open() ? "old" : "");
         image.Close();
-        EXPECT_TRUE(Imports());
-        EXPECT_EQ(Text(1, 24), "A");
       });
   EXPECT_TRUE(disk.writes.empty());
 }

@@ -62,17 +62,10 @@ TEST(DelimitedText, NothingGrowsBeyondItsLimits) {
   EXPECT_EQ(Read("a,b\n\na,b,", limits), "1:[a][b] 2:[] fault 4 in line 3");
 }
 
-TEST(DelimitedText, WhatIsWrittenIsReadAgain) {
+TEST(DelimitedText, WhatNeedsQuotesIsWrittenInThem) {
   const std::vector<std::string> fields = {"",     "a",  "b,c",  "d\"e", "f;g",
                                            "h\ti", "\"", "j\nk", " "};
   EXPECT_EQ(JoinFields(fields), ",a,\"b,c\",\"d\"\"e\",f;g,h\ti,\"\"\"\",\"j\nk\", ");
-  for (const char separator : {',', ';', '\t'}) {
-    const std::string text = JoinFields(fields, separator);
-    DelimitedReader reader(CharactersOf(text), {}, separator);
-    TextRecord record;
-    ASSERT_TRUE(reader.Read(record));
-    EXPECT_EQ(record.fields, fields);
-  }
 }
 
 TEST(AverageForm, WhatASpreadsheetHasShortened) {
@@ -85,10 +78,10 @@ TEST(AverageForm, WhatASpreadsheetHasShortened) {
   EXPECT_EQ(InAverageForm(kEarnedRunAverage, "3"), "3.00");
   EXPECT_EQ(InAverageForm(kEarnedRunAverage, ",07"), "0.07");
   for (const char* text :
-       {"", ".", ",", "1.25", ".2504", "300", "x", "-.25", ".2.5", " .25", "1e-1"}) {
+       {"", ".", ",", "1.25", ".2504", ".999", "300", "x", "-.25", ".2.5", " .25", "1e-1"}) {
     EXPECT_EQ(InAverageForm(kBattingAverage, text), text);
   }
-  for (const char* text : {"", "10.25", "3.456", "3 "}) {
+  for (const char* text : {"", "12", "10.25", "3.456", "3 "}) {
     EXPECT_EQ(InAverageForm(kEarnedRunAverage, text), text);
   }
   EXPECT_EQ(InAverageForm(kHomeRuns, "3.5"), "3.5");

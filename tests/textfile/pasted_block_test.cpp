@@ -51,14 +51,6 @@ const std::vector<PastedCase> kBlocks = {
     {CellOfArray(12, 0), "A,B,C,4,5,6,7,8,9,10,11,,13,14,\r\nA,B,C,4,5,6,7,8,9,10,11,12,13,\r\n",
      {{CellOfArray(12, 0), "A"}, {CellOfArray(13, 0), "B"}, {CellOfArray(14, 0), "C"},
       {CellOfArray(12, 1), "A,B,C,4,5,6,7,8,9,10,11,12,13,"}}, {.cells = 10, .lines = 0}},
-    // Averages that have been shortened, and what is no such thing.
-    {CellOfArray(9, 0), "0.25\n,25\n.25\n0\n.2567\n.999\nabc\n3\n-.5",
-     {{CellOfArray(9, 0), ".250"}, {CellOfArray(9, 1), ".250"}, {CellOfArray(9, 2), ".250"},
-      {CellOfArray(9, 3), ".000"}, {CellOfArray(9, 4), ".2567"}, {CellOfArray(9, 5), ".999"},
-      {CellOfArray(9, 6), "abc"}, {CellOfArray(9, 7), "3"}, {CellOfArray(9, 8), "-.5"}}},
-    {CellOfArray(9, 20), "3.5\n3\n2,25\n12",
-     {{CellOfArray(9, 20), "3.50"}, {CellOfArray(9, 21), "3.00"}, {CellOfArray(9, 22), "2.25"},
-      {CellOfArray(9, 23), "12"}}},
     // Beyond the right edge, and below the last row; what is empty loses nothing.
     {CellOfArray(1, 24), "A" + std::string(14, '\t') + "x\t\ty\nB\t\tC\n\t\n",
      {{CellOfArray(1, 24), "A"}, {CellOfArray(2, 24), ""}, {CellOfArray(3, 24), ""}, {CellOfArray(4, 24), ""},
