@@ -57,7 +57,8 @@ std::optional<Cell> GridMarks::NextLossy(std::optional<Cell> from, bool backward
   auto found = cells.end();
   // From elsewhere the way leads to a cause, on whichever side that is.
   if (!from || !is_lossy(*from)) {
-    found = std::ranges::find_if(cells, [&](Cell cell) { return is_lossy(cell) && !At(cell).cause; });
+    found =
+        std::ranges::find_if(cells, [&](Cell cell) { return is_lossy(cell) && !At(cell).cause; });
   }
   if (found == cells.end()) found = std::ranges::find_if(cells, is_lossy);
   if (found == cells.end()) return std::nullopt;

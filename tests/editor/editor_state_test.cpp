@@ -114,8 +114,16 @@ TEST_F(EditorStateTest, NotesTellWhatAStepHasLeftUnsavedAndWhatASaveHasStored) {
   editor.Undo();
   EXPECT_EQ(state().note.index(), 0U);
   EXPECT_EQ(state().picked, kBravesTeam);
+  const Cell rating{kBatting, 3};
+  editor.Type(rating, "3");
   editor.Save();
-  EXPECT_EQ(std::get<SavedChanges>(state().note).stored, 8);
+  EXPECT_EQ(std::get<SavedChanges>(state().note).stored, 9);
+  editor.Type(rating, "12");
+  EXPECT_EQ(state().marks.At(rating).after, "3") << "the image keeps what the save has stored";
+  disk.files.clear();
+  messages.while_shown = [this] { editor.Type(kNumber, "an assistive tool"); };
+  editor.LoadTeam("Orioles");
+  EXPECT_EQ(state().grid.Text(kNumber), "an assistive tool");
 }
 
 TEST_F(EditorStateTest, AnUnknownKeyLoadsTheCurrentTeamAgain) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,10 @@ inline constexpr char kSaved[] = "Your changes have been saved.";
 /// A person who reads every message and closes it.
 class RecordingMessages : public MessagePort {
  public:
-  void Show(const Message& message) override { shown.push_back(message); }
+  void Show(const Message& message) override {
+    shown.push_back(message);
+    if (while_shown) while_shown();
+  }
 
   /// The texts of the messages so far, in order.
   [[nodiscard]] std::vector<std::string> Texts() const {
@@ -27,6 +31,7 @@ class RecordingMessages : public MessagePort {
   }
 
   std::vector<Message> shown;
+  std::function<void()> while_shown;
 };
 
 }  // namespace morlek
