@@ -29,6 +29,7 @@ void RunOnce(const std::filesystem::path& program, Measured& measured,
   const std::string name = program.string();
   words.insert(words.begin(), name);
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   const auto start = std::chrono::steady_clock::now();

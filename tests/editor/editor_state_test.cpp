@@ -120,6 +120,9 @@ TEST_F(EditorStateTest, NotesTellWhatAStepHasLeftUnsavedAndWhatASaveHasStored) {
   EXPECT_EQ(std::get<SavedChanges>(state().note).stored, 9);
   editor.Type(rating, "12");
   EXPECT_EQ(state().marks.At(rating).after, "3") << "the image keeps what the save has stored";
+  const Cell hand{kThrowingHand, 16};
+  editor.Type(hand, "");
+  EXPECT_EQ(state().marks.At(hand).fate, SavePreview::Fate::kStored) << "one byte of it is";
   disk.files.clear();
   messages.while_shown = [this] { editor.Type(kNumber, "an assistive tool"); };
   editor.LoadTeam("Orioles");

@@ -90,7 +90,7 @@ void WayBack::LeafAtRandom(int place) {
 }
 
 void WayBack::CommandPlayer(int place) {
-  constexpr auto kCtrlShift = Qt::ControlModifier | Qt::ShiftModifier;
+  constexpr auto kBoth = Qt::ControlModifier | Qt::ShiftModifier;
   const int row = RowOf(place);
   const Copied here = PlayerIn(row);
   const QString text = boxes[place]->text();
@@ -98,12 +98,12 @@ void WayBack::CommandPlayer(int place) {
   const int command = copied ? dice.Below(5) : 0;
   Note(QString("command %1 on a player").arg(command));
   if (command == 0) {
-    Press(Qt::Key_C, kCtrlShift);
+    Press(Qt::Key_C, kBoth);
     copied = here;
     Enter(RandomPlace());
     CommandPlayer(FocusedPlace());
   } else if (command < 3) {
-    Press(command == 1 ? Qt::Key_V : Qt::Key_X, kCtrlShift);
+    Press(command == 1 ? Qt::Key_V : Qt::Key_X, kBoth);
     PutPlayer(texts, row, *copied);
     if (command == 2) copied = here;
     AddStep(texts);

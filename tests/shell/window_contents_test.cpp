@@ -66,6 +66,8 @@ TEST_F(WindowContentsTest, ColumnHeadsAndTheBoxesBelow) {
     ASSERT_NE(box, nullptr) << index;
     const QString accepted = head.accessibleDescription();
     EXPECT_FALSE(accepted.isEmpty() || head.text().isEmpty());
+    EXPECT_EQ(accepted.contains("Page Down"), accepted.contains("hexadecimal"));
+    EXPECT_EQ(accepted.contains("Alt+Down"), head.text() == "P.NAME");
     EXPECT_EQ(head.toolTip(), box->accessibleName().section(", ", 0, 0) + ", " + accepted);
     EXPECT_LE(head.fontMetrics().horizontalAdvance(head.text()), head.width()) << index;
     ExpectToTake(*box, accepted);
