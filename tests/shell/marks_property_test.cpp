@@ -1,7 +1,4 @@
-#include <sys/resource.h>
-
 #include <QToolTip>
-#include <csignal>
 
 #include "image/team_directory.h"
 #include "shell/random_window.h"
@@ -12,24 +9,6 @@ namespace {
 
 constexpr int kRecordBytes = 800;
 constexpr int kSlotBytes = 32;
-
-/// While it lives, the system refuses every write to a file from this 1-based position on.
-class RefusedWrites {
- public:
-  explicit RefusedWrites(int position) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit limit = before_;
-    limit.rlim_cur = static_cast<rlim_t>(position - 1);
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~RefusedWrites() { setrlimit(RLIMIT_FSIZE, &before_); }
-  RefusedWrites(const RefusedWrites&) = delete;
-  RefusedWrites& operator=(const RefusedWrites&) = delete;
-
- private:
-  rlimit before_ = {};
-};
 
 /// What the window says of every box before SAVE, beside what a load shows after it.
 class MarksPropertyTest : public RandomWindowTest {
@@ -289,10 +268,9 @@ void MarksPropertyTest::SaveWithRefusedWrites() {
   const int byte = dice.OneIn(2) ? 1 + dice.Below(8) : halves;
   const int offset = kSlotBytes * row + byte;
   Note(QString("refused from byte %1 on").arg(offset));
-  {
-    const RefusedWrites refused(static_cast<int>(Place(team, offset)) + 1);
-    Save();
-  }
+  disk.first_refused = Place(team, offset) + 1;
+  Save();
+  disk.first_refused = FullDisk::kNone;
   LoadAlone();
 }
 

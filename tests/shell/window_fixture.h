@@ -16,6 +16,7 @@
 
 #include "sample_image.h"
 #include "shell/main_window.h"
+#include "support/full_disk.h"
 #include "support/scripted_user.h"
 #include "support/temp_dir.h"
 
@@ -44,7 +45,7 @@ class WindowTest : public ::testing::Test {
   /// A new run of the program, its window not yet shown.
   void MakeWindow() {
     window.reset();
-    editor = std::make_unique<Editor>(user);
+    editor = std::make_unique<Editor>(user, disk.Opener());
     window = std::make_unique<MainWindow>(*editor, user);
   }
 
@@ -144,6 +145,7 @@ class WindowTest : public ::testing::Test {
   }
 
   TempDir folder;
+  FullDisk disk;
   ScriptedUser user;
   std::unique_ptr<Editor> editor;
   QScreen* screen = nullptr;  // null for the first
