@@ -9,7 +9,7 @@ int main(int argument_count, char** arguments) {
   ::testing::InitGoogleTest(&argument_count, arguments);
   // Three screens that nobody sees, the second lower than the window, the third with smaller
   // pixels.
-  QTemporaryFile screens;
+  QTemporaryFile screens("screens");  // the platform takes no path with a drive
   if (!screens.open()) return EXIT_FAILURE;
   screens.write(R"({"screens": [
       {"name": "high", "x": 0, "y": 0, "width": 1000, "height": 800,
