@@ -124,7 +124,10 @@ void RosterFrame::ShowMarks(const EditorState& state, const StateChange& change)
 }
 
 void RosterFrame::ShowMark(const EditorState& state, Cell cell) {
-  BoxAt(cell).ShowMark(state.marks.At(cell), TipOf(state, cell));
+  RosterBox& box = BoxAt(cell);
+  // A tip that came by F8 has no pointer that leaves.
+  if (QToolTip::isVisible() && QToolTip::text() == box.toolTip()) QToolTip::hideText();
+  box.ShowMark(state.marks.At(cell), TipOf(state, cell));
 }
 
 void RosterFrame::ShowTints() {
