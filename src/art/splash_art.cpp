@@ -86,6 +86,8 @@ void PaintWords(QPainter& painter, const QString& words, QPointF baseline, int p
   QFont font("Roboto");
   font.setPixelSize(pixel_size);
   font.setWeight(weight);
+  // The distances of letters are those of their outlines, not of what fits a grid of pixels.
+  font.setHintingPreference(QFont::PreferVerticalHinting);
   // Outlines instead of glyph pictures: they stay true at every scale.
   QPainterPath letters;
   letters.addText(baseline, font, words);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QTemporaryFile>
 
 #include "shell/look.h"
@@ -29,9 +30,15 @@ int main(int argument_count, char** arguments) {
       </fontconfig>)");
   fonts.flush();
   qputenv("FONTCONFIG_FILE", fonts.fileName().toLocal8Bit());
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toLocal8Bit());
+  qputenv("QT_QPA_PLATFORM",
+          "offscreen:configfile=" + QFileInfo(screens).fileName().toLocal8Bit());
 
   const QApplication application(argument_count, arguments);
   morlek::ApplyLook();
+  // Letters as Linux shows them, on other systems too: every font takes what it does not say itself
+  // from this one.
+  QFont letters = QApplication::font();
+  letters.setHintingPreference(QFont::PreferVerticalHinting);
+  QApplication::setFont(letters);
   return RUN_ALL_TESTS();
 }

@@ -121,7 +121,9 @@ TEST_F(MainWindowTest, OnTopIsTurnedOnAndOffInPlace) {
   const auto* native = window->windowHandle();
   const WId id = window->winId();
   for (const bool on_top : {false, true, false}) {
+#ifndef Q_OS_WIN  // there the system keeps it, and knows nothing of the windows of tests
     EXPECT_EQ(native->flags().testFlag(Qt::WindowStaysOnTopHint), on_top);
+#endif
     EXPECT_EQ(Find<QAction>("mnuAlwaysOnTop").isVisible(), !on_top);
     EXPECT_EQ(Find<QAction>("mnuNotTop").isVisible(), on_top);
     Choose(on_top ? "mnuNotTop" : "mnuAlwaysOnTop");

@@ -21,7 +21,7 @@
 namespace morlek {
 
 [[nodiscard]] inline QString PathText(const std::filesystem::path& path) {
-  return QString::fromStdU16String(path.u16string());
+  return QString::fromStdU16String(path.generic_u16string());
 }
 
 /// The real main window over real files, with a scripted user.
