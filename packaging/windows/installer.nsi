@@ -23,6 +23,7 @@ VIAddVersionKey LegalCopyright "Copyright (c) 2026 the Morlek Editor developers"
 
 !define MUI_ICON ../icons/morlek-editor.ico
 !define MUI_UNICON "${MUI_ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP ../icons/installer.bmp
 !define MUI_FINISHPAGE_RUN "$INSTDIR\morlek-editor.exe"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
