@@ -35,10 +35,10 @@ int main(int argument_count, char** arguments) {
 
   const QApplication application(argument_count, arguments);
   morlek::ApplyLook();
-  // Letters as Linux shows them, on other systems too: every font takes what it does not say itself
-  // from this one.
+  // Letters that fit no system's grid of pixels: every font takes what it does not set itself from
+  // this one.
   QFont letters = QApplication::font();
-  letters.setHintingPreference(QFont::PreferVerticalHinting);
+  letters.setHintingPreference(QFont::PreferNoHinting);
   QApplication::setFont(letters);
   return RUN_ALL_TESTS();
 }

@@ -15,12 +15,8 @@ namespace morlek {
 /// How far two pictures of one size are apart, channel by channel. What counts is the mean of a
 /// tile; tiles overlap by half, so that what is small lies nearly whole in one of them.
 struct PictureDifference {
-  /// How far a tile may be off. On Windows letters are blended with another gamma.
-#ifdef Q_OS_WIN
-  static constexpr int kLimit = 16;
-#else
+  /// How far a tile may be off.
   static constexpr int kLimit = 3;
-#endif
 
   PictureDifference(QImage one, const QImage& other) : picture(std::move(one)) {
     QPainter painter(&picture);
