@@ -1,6 +1,7 @@
 #include "team/refusal.h"
 
 #include <cstdint>
+#include <sstream>
 #include <string_view>
 
 #include "codecs/appearance_codec.h"
@@ -55,7 +56,9 @@ std::optional<std::string> FaultOfName(std::string_view name) {
                              : "a second period stands in the name";
     }
     if (!NameLetterCodec().EncodeNameLetter(name.substr(place, 1)).is_known) {
-      return "character " + std::to_string(place + 1) + " is no letter that the game has";
+      std::ostringstream reason;
+      reason << "character " << place + 1 << " is no letter that the game has";
+      return reason.str();
     }
   }
   return std::nullopt;

@@ -79,7 +79,8 @@ TEST_F(FilesTest, EveryCharacterThatABoxCanHoldComesBackFromATeamFile) {
   ChooseWith("mnuExport", PathOf("team"));
   EXPECT_EQ(user.save_questions.at(0).title, "Save Dale Harrow Jr. Baseball Team Data");
   EXPECT_EQ(user.save_questions[0].filter, kTeamDataFilter);
-  EXPECT_EQ(user.messages.at(0).text, "Your team data has been saved to " + QDir::toNativeSeparators(PathOf("team")));
+  EXPECT_EQ(user.messages.at(0).text,
+            "Your team data has been saved to " + QDir::toNativeSeparators(PathOf("team")));
   EXPECT_EQ(user.messages[0].icon, Message::Icon::kNone);
 
   Click("Mets");

@@ -30,8 +30,7 @@ int main(int argument_count, char** arguments) {
       </fontconfig>)");
   fonts.flush();
   qputenv("FONTCONFIG_FILE", fonts.fileName().toLocal8Bit());
-  qputenv("QT_QPA_PLATFORM",
-          "offscreen:configfile=" + QFileInfo(screens).fileName().toLocal8Bit());
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFileInfo(screens).fileName().toLocal8Bit());
 
   const QApplication application(argument_count, arguments);
   morlek::ApplyLook();
