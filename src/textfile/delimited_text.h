@@ -52,9 +52,9 @@ class DelimitedReader {
   explicit DelimitedReader(CharacterSource source, TextLimits limits = {},
                            std::optional<char> separator = std::nullopt);
 
-  /// Reads the next record into `record`, whose memory is used again. False at the end of the text
-  /// and at a fault; then what `record` holds is unfinished, but its line is that of the fault.
-  /// Throws what the source throws.
+  /// Reads the next record into `record`. False at the end of the text and at a fault; then what
+  /// `record` holds is unfinished, but its line is that of the fault. Throws what the source
+  /// throws.
   [[nodiscard]] bool Read(TextRecord& record);
 
   /// What ended the reading; nothing at the end of the text.
