@@ -32,9 +32,8 @@ class RecordBytes {
 
   /// Puts every byte that is there in `others`.
   void PutAll(const RecordBytes& others) {
-    for (std::size_t index = 0; index < bytes_.size(); ++index) {
-      if (others.bytes_.at(index)) bytes_.at(index) = others.bytes_.at(index);
-    }
+    std::ranges::transform(others.bytes_, bytes_, bytes_.begin(),
+                           [](auto other, auto own) { return other ? other : own; });
   }
 
   friend bool operator==(const RecordBytes&, const RecordBytes&) = default;
