@@ -16,9 +16,9 @@ namespace {
 constexpr char kImageFailureTitle[] = "Morlek Editor";
 
 bool LacksHeader(const std::filesystem::path& path) {
-  std::error_code failure;
-  const std::uintmax_t size = std::filesystem::file_size(path, failure);
-  return !failure && LacksCopierHeader(size);
+  // The size that stands for a failure is not one of whole banks.
+  std::error_code ignored;
+  return LacksCopierHeader(std::filesystem::file_size(path, ignored));
 }
 
 }  // namespace
@@ -28,7 +28,6 @@ Editor::Editor(MessagePort& messages, FileOpener opener)
 
 Editor::Subscription Editor::Subscribe(Observer observer) {
   auto subscription = std::make_shared<const Observer>(std::move(observer));
-  std::erase_if(observers_, [](const auto& each) { return each.expired(); });
   observers_.emplace_back(subscription);
   return subscription;
 }
@@ -58,7 +57,6 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
     return OpenResult::kNotOpened;
   }
   if (!ShowIdentity(*identity)) {
-    image_.Close();
     EndOpening(path, OpenResult::kRefused, {}, RefusedFile{path, LacksHeader(path)});
     messages_.Show({"This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
     return OpenResult::kRefused;
@@ -163,19 +161,16 @@ StepNote Editor::SavedIn(const SaveResult& saved, bool was_blocked) const {
       ++changes.stored;
     }
   }
-  if (changes.stored + changes.refused == 0) return {};
+  if (changes.stored == 0 && changes.refused == 0) return {};
   return changes;
 }
 
 void Editor::AddStep(const PassedScene& before, const GridChange& texts) {
-  history_.EndVisit();
   Step step{.texts = texts, .scenes = {}};
   if (before.scene != state_.scene) step.scenes = {before, {state_.scene, state_.picked}};
-  if (texts.empty() && !step.scenes) return;
   // Before the first team there is nothing to go back to.
-  const bool is_first = !history_.can_undo() && !history_.can_redo() &&
-                        before.scene.place.team == nullptr &&
-                        std::ranges::all_of(texts, &std::string::empty, &CellChange::before);
+  const bool is_first =
+      before.scene.place.team == nullptr && !history_.can_undo() && !history_.can_redo();
   if (!is_first) history_.Add(std::move(step));
 }
 
@@ -244,14 +239,18 @@ void Editor::TakeFile(const std::filesystem::path& path) {
 
 void Editor::Visit(Cell cell) {
   if (!IsFeature(cell.column)) return;
-  state_.stance_row = cell.row;
-  state_.chooser = cell.column;
-  state_.layout = Layout::kWide;
+  ShowChooser(cell);
   Publish({.layout_set = true});
 }
 
+void Editor::ShowChooser(Cell cell) {
+  state_.stance_row = cell.row;
+  state_.chooser = cell.column;
+  state_.layout = Layout::kWide;
+}
+
 void Editor::Type(Cell cell, std::string text) {
-  if (text.size() > kLongestText) text.resize(kLongestText);
+  text.resize(std::min(text.size(), kLongestText));
   if (text == state_.grid.Text(cell)) return;
   const CellChange typed = {cell, state_.grid.Text(cell), std::move(text)};
   history_.AddTyping(typed);
@@ -271,9 +270,8 @@ void Editor::Leaf(Cell cell, std::string code_text) {
   const CellChange leafed = {cell, state_.grid.Text(cell), std::move(code_text)};
   history_.AddLeafing(leafed);
   state_.grid.SetText(cell, leafed.after);
-  state_.stance_row = cell.row;
-  state_.chooser = cell.column;
-  const bool widened = std::exchange(state_.layout, Layout::kWide) != Layout::kWide;
+  const bool widened = state_.layout != Layout::kWide;
+  ShowChooser(cell);
   EndStep({.texts = {leafed}, .picked_into = cell, .layout_set = widened});
 }
 
@@ -338,8 +336,7 @@ RecordLocation Editor::LocationOf(const Team* team) const {
 
 GridChange Editor::Replace(const RosterGrid& grid) {
   GridChange texts = ChangeBetween(state_.grid, grid);
-  history_.EndVisit();
-  if (!texts.empty()) history_.Add({.texts = texts, .scenes = {}});
+  history_.Add({.texts = texts, .scenes = {}});
   state_.grid = grid;
   return texts;
 }

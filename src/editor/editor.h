@@ -145,6 +145,9 @@ class Editor {
   /// Makes a step of the history. Gives the first cell that changed, unless the scene did.
   std::optional<Cell> Follow(const std::optional<Step>& step);
 
+  /// Brings the chooser of a features cell into view.
+  void ShowChooser(Cell cell);
+
   /// Replaces the grid in one step of the history; nothing when no text changes.
   [[nodiscard]] GridChange Replace(const RosterGrid& grid);
 
