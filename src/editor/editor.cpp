@@ -96,11 +96,7 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
   }
   // A load that finds a file open fails, reports it and closes the file.
   const bool was_held = channel_.is_open_for_text();
-  if (std::exchange(state_.is_file_held, false)) {
-    state_.outcome = {};
-    state_.note = {};
-    Publish();
-  }
+  if (std::exchange(state_.is_file_held, false)) EndStep({});
 
   RosterGrid grid = state_.grid;
   LoadResult result = morlek::LoadTeam(image_, LocationOf(team), codec_state_, grid);
@@ -116,9 +112,7 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
     state_.scene = {{before.scene.place.image, team}, true};
     const GridChange texts = ChangeBetween(state_.grid, grid);
     state_.grid = grid;
-    state_.layout = Layout::kNarrow;
-    const bool loaded = result.outcome == LoadResult::Outcome::kLoaded;
-    if (loaded) {
+    if (result.outcome == LoadResult::Outcome::kLoaded) {
       baselines_.insert_or_assign(state_.scene.place, Baseline(result.read, grid));
       AddStep(before, texts);
       Enter(state_.scene);
@@ -126,6 +120,7 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
       return result;
     }
     const Team* shown_before = state_.loaded;
+    state_.layout = Layout::kNarrow;
     RefreshMarks();
     state_.loaded = shown_before;
     Publish({.texts = texts, .layout_set = true});
@@ -194,10 +189,8 @@ void Editor::LoadTeamBeside(int places) {
 
 SaveResult Editor::Save() {
   NameReporter reporter(messages_, [this](StepNote note) {
-    state_.outcome = {};
     if (note.index() == 0 && state_.note.index() == 0) return;
-    state_.note = std::move(note);
-    Publish();
+    EndStep({}, {}, std::move(note));
   });
   const bool was_blocked = channel_.is_open_for_text();
   const SaveResult result =
@@ -311,9 +304,7 @@ std::optional<Cell> Editor::Follow(const std::optional<Step>& step) {
   const auto& [scene, picked] = step->scenes->after;
   state_.picked = picked;
   Enter(scene);
-  state_.outcome = {};
-  state_.note = {};
-  Publish({.texts = step->texts, .loaded = scene.is_grid_shown, .layout_set = true});
+  EndStep({.texts = step->texts, .loaded = scene.is_grid_shown, .layout_set = true});
   return std::nullopt;
 }
 
@@ -344,28 +335,30 @@ GridChange Editor::Replace(const RosterGrid& grid) {
 void Editor::EndStep(const StateChange& change, StepOutcome outcome, StepNote note) {
   state_.outcome = std::move(outcome);
   state_.note = std::move(note);
-  if (!change.texts.empty() && !FollowRow(change.texts)) RefreshMarks();
+  if (!change.texts.empty()) FollowTexts(change.texts);
   Publish(change);
 }
 
 void Editor::RefreshMarks() {
-  state_.loaded = baseline_ == nullptr ? nullptr : state_.scene.place.team;
   if (baseline_ == nullptr) {
-    if (preview_) state_.marks = {};
-    preview_.reset();
+    state_.loaded = nullptr;
+    state_.marks = {};
     return;
   }
+  state_.loaded = state_.scene.place.team;
   preview_ = Preview();
   state_.marks = GridMarks(state_.grid, *preview_, *baseline_);
 }
 
-bool Editor::FollowRow(const GridChange& texts) {
+void Editor::FollowTexts(const GridChange& texts) {
   const int row = texts.front().cell.row;
   // Behind the message of a load that has failed, the preview is still that of the team before.
-  if (baseline_ == nullptr || !preview_ || texts.back().cell.row != row) return false;
-  if (!preview_->FollowRow(row, state_.grid, codec_state_, baseline_->bytes())) return false;
-  state_.marks.FollowRow(row, state_.grid, *preview_, *baseline_);
-  return true;
+  if (baseline_ != nullptr && texts.back().cell.row == row &&
+      preview_->FollowRow(row, state_.grid, codec_state_, baseline_->bytes())) {
+    state_.marks.FollowRow(row, state_.grid, *preview_, *baseline_);
+  } else {
+    RefreshMarks();
+  }
 }
 
 void Editor::EndFileStep(StepOutcome outcome, const StateChange& change, StepNote note) {

@@ -154,8 +154,8 @@ class Editor {
   /// Works out the marks of the grid.
   void RefreshMarks();
 
-  /// Works out the marks of one row alone when no others can have changed; false if they can.
-  [[nodiscard]] bool FollowRow(const GridChange& texts);
+  /// Works out the marks anew of what a change of texts may have changed: often one row alone.
+  void FollowTexts(const GridChange& texts);
 
   /// Ends a step that has to do with no file.
   void EndStep(const StateChange& change, StepOutcome outcome = {}, StepNote note = {});
@@ -177,9 +177,9 @@ class Editor {
   History history_;
   // Of all places that were loaded in this run.
   std::map<Place, Baseline> baselines_;
-  // That of the team in the grid, and what SAVE would make of the grid; null and nothing while no
-  // load has come through.
+  // That of the team in the grid; null while no load has come through.
   Baseline* baseline_ = nullptr;
+  // What SAVE would make of the grid, while there is a baseline.
   std::optional<SavePreview> preview_;
   std::vector<std::weak_ptr<const Observer>> observers_;
 };
