@@ -40,9 +40,7 @@ OpenResult Editor::OpenFirstImage(const std::filesystem::path& path) {
   const OpenResult result = accepted   ? OpenResult::kOpened
                             : identity ? OpenResult::kRefused
                                        : OpenResult::kNotOpened;
-  StepNote note;
-  if (result == OpenResult::kRefused) note = RefusedFile{path, LacksHeader(path)};
-  EndOpening(path, result, {}, note);
+  EndOpening(path, result);
   if (!accepted) {
     messages_.Show({"You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
   }
@@ -57,7 +55,7 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
     return OpenResult::kNotOpened;
   }
   if (!ShowIdentity(*identity)) {
-    EndOpening(path, OpenResult::kRefused, {}, RefusedFile{path, LacksHeader(path)});
+    EndOpening(path, OpenResult::kRefused);
     messages_.Show({"This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
     return OpenResult::kRefused;
   }
@@ -372,6 +370,7 @@ void Editor::EndOpening(const std::filesystem::path& path, OpenResult result,
                         const StateChange& change, StepNote note) {
   state_.refused.reset();
   if (result != OpenResult::kOpened) state_.refused = {path, result};
+  if (result == OpenResult::kRefused) note = RefusedFile{path, LacksHeader(path)};
   EndFileStep(result, change, std::move(note));
 }
 

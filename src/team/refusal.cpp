@@ -17,8 +17,8 @@ namespace {
 
 using enum Column;
 
-/// Whether SAVE keeps the text of a cell, and what shares a byte with it, beside a good text there.
-/// Only of columns that share a byte; this is asked for with every key.
+/// Whether SAVE keeps the text of a cell, and what shares a byte with it, beside a good text there;
+/// of a column that shares none, anything.
 bool IsTakenAlone(Column column, const std::string& text) {
   constexpr char kGoodRating[] = "1";
   switch (column) {
@@ -32,12 +32,10 @@ bool IsTakenAlone(Column column, const std::string& text) {
       return KeepsRatings(kGoodRating, text);
     case kThrowingHand:
       return PitcherHandEncoder().EncodeMarks(text).is_known;
-    case kFace: {
+    default: {
       const std::optional<std::uint8_t> byte = AppearanceByte(text);
       return byte && IsSameText(column, text, ByteToText(*byte));
     }
-    default:
-      return true;
   }
 }
 

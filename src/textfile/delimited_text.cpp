@@ -83,7 +83,8 @@ bool DelimitedReader::Read(TextRecord& record) {
       end = Fail(TextFault::kTooManyFields);
       break;
     }
-    end = ReadField(first, record.fields.emplace_back());
+    std::string& field = record.fields.emplace_back();
+    end = first == kQuote ? ReadQuoted(field) : ReadPlain(first, field);
     if (end == FieldEnd::kSeparator) first = Next();
   }
   return end == FieldEnd::kRecord;
@@ -93,11 +94,6 @@ bool DelimitedReader::IsSeparator(char character) {
   constexpr std::string_view kSeparators = ",;\t";
   if (!separator_ && kSeparators.find(character) != std::string_view::npos) separator_ = character;
   return separator_ == character;
-}
-
-DelimitedReader::FieldEnd DelimitedReader::ReadField(std::optional<char> first,
-                                                     std::string& field) {
-  return first == kQuote ? ReadQuoted(field) : ReadPlain(first, field);
 }
 
 DelimitedReader::FieldEnd DelimitedReader::ReadQuoted(std::string& field) {

@@ -67,10 +67,9 @@ class DelimitedReader {
   /// The next character, in which every line end is a line feed; nothing at the end.
   [[nodiscard]] std::optional<char> Next();
   [[nodiscard]] bool IsSeparator(char character);
-  /// Reads a field from its first character on.
-  [[nodiscard]] FieldEnd ReadField(std::optional<char> first, std::string& field);
+  /// Reads a field from behind its first quote on.
   [[nodiscard]] FieldEnd ReadQuoted(std::string& field);
-  /// Reads on after a character that is no part of quotes.
+  /// Reads on from a character that is no part of quotes.
   [[nodiscard]] FieldEnd ReadPlain(std::optional<char> character, std::string& field);
   [[nodiscard]] bool Append(std::string& field, char character);
   FieldEnd Fail(TextFault fault);
