@@ -1,7 +1,7 @@
 #pragma once
 
-#include <compare>
 #include <filesystem>
+#include <tuple>
 
 #include "image/team_directory.h"
 
@@ -14,7 +14,10 @@ struct Place {
   /// One of the directory; null before a team has been picked.
   const Team* team = nullptr;
 
-  friend auto operator<=>(const Place&, const Place&) = default;
+  friend bool operator==(const Place&, const Place&) = default;
+  friend bool operator<(const Place& one, const Place& other) {
+    return std::tie(one.image, one.team) < std::tie(other.image, other.team);
+  }
 };
 
 /// What the window shows: the grid of a place, or, while none is shown, the place that is named.
