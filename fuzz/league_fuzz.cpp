@@ -2,10 +2,12 @@
 // chooses.
 
 #include <algorithm>
+#include <vector>
 
 #include "fuzz/promise.h"
 #include "fuzz/season_import.h"
 #include "fuzz/session.h"
+#include "image/team_directory.h"
 #include "sample_image.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -4,6 +4,6 @@
 #include "fuzz/session.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  morlek::fuzz::Session({data, size}).Play();
+  morlek::fuzz::PlaySession({data, size});
   return 0;
 }

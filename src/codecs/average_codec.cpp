@@ -11,6 +11,12 @@ namespace {
 constexpr std::uint8_t kBattingMarker = 0x30;
 constexpr std::uint8_t kEraMarker = 0x20;
 
+/// The number, 0 to 511, in three decimal digits.
+std::string ThreeDigits(int number) {
+  const auto digit = [](int value) { return static_cast<char>('0' + value % 10); };
+  return {digit(number / 100), digit(number / 10), digit(number)};
+}
+
 /// The digits of the number whose word has this key, for the high byte's marker; nothing when none
 /// has.
 std::optional<std::string> DigitsOfPairKey(std::string_view key, std::uint8_t marker) {
@@ -27,13 +33,12 @@ std::optional<std::string> DigitsOfPairKey(std::string_view key, std::uint8_t ma
   return ThreeDigits((high_byte - marker) * 256 + low_byte);
 }
 
-/// The number that exactly three decimal digits show; nothing for other text and above the largest
-/// average.
+/// The number that exactly three decimal digits show; nothing for other text and above 511.
 std::optional<int> NumberOfThreeDigits(std::string_view digits) {
   const auto is_digit = [](char character) { return character >= '0' && character <= '9'; };
   if (digits.size() != 3 || !std::ranges::all_of(digits, is_digit)) return std::nullopt;
   const int number = (digits[0] - '0') * 100 + (digits[1] - '0') * 10 + (digits[2] - '0');
-  if (number > kLargestAverage) return std::nullopt;
+  if (number > 511) return std::nullopt;
   return number;
 }
 
@@ -41,11 +46,6 @@ std::optional<int> NumberOfThreeDigits(std::string_view digits) {
 
 std::string PairKey(std::uint8_t low, std::uint8_t high) {
   return ByteToText(low) + ByteToText(high);
-}
-
-std::string ThreeDigits(int number) {
-  const auto digit = [](int value) { return static_cast<char>('0' + value % 10); };
-  return {digit(number / 100), digit(number / 10), digit(number)};
 }
 
 CodecAnswer BattingAverageCodec::DecodeBattingAverage(std::string_view key) {

@@ -10,14 +10,10 @@ namespace morlek {
 
 /// Batting and earned run averages are two-byte words: a number from 0 to 511 above a marker in the
 /// high byte, which is the marker up to 255 and one more from 256 on.
-inline constexpr int kLargestAverage = 511;
 
 /// The key by which both decoders look up a pair of bytes: the byte text of the low byte, then that
 /// of the high byte. As it has no leading zeros, some pairs share a key.
 [[nodiscard]] std::string PairKey(std::uint8_t low, std::uint8_t high);
-
-/// The number, 0 to 511, in three decimal digits.
-[[nodiscard]] std::string ThreeDigits(int number);
 
 /// Batting averages from ".000" to ".511" as words of 0x3000 and up.
 class BattingAverageCodec {

@@ -12,10 +12,6 @@ namespace {
 constexpr std::array<std::string_view, 12> kPositions = {"P",  "C",  "LF", "CF", "RF", "3B",
                                                          "SS", "2B", "1B", "DH", "IF", "OF"};
 
-/// The places of the positions as a fan counts them: battery, bases, field, and those without one.
-constexpr std::array<std::size_t, kPositions.size()> kFansOrder = {0, 1, 8, 7,  5,  6,
-                                                                   2, 3, 4, 10, 11, 9};
-
 }  // namespace
 
 CodecAnswer FieldingPositionCodec::DecodeFieldingPosition(std::uint8_t code) {
@@ -32,15 +28,6 @@ CodecAnswer FieldingPositionCodec::EncodeFieldingPosition(std::string_view text)
     code = ByteToTwoDigits(static_cast<std::uint8_t>(2 * (found - kPositions.begin())));
   }
   return encoded_position_code_.Answer(code);
-}
-
-std::string FieldingPositionCodec::Abbreviations() {
-  std::string list;
-  for (const std::size_t place : kFansOrder) {
-    if (!list.empty()) list += ", ";
-    list += kPositions.at(place);
-  }
-  return list;
 }
 
 }  // namespace morlek

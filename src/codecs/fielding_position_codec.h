@@ -17,9 +17,6 @@ class FieldingPositionCodec {
   /// The byte text of an abbreviation in either case.
   CodecAnswer EncodeFieldingPosition(std::string_view text);
 
-  /// All abbreviations, separated by commas.
-  [[nodiscard]] static std::string Abbreviations();
-
  private:
   LastResult decoded_position_;
   LastResult encoded_position_code_;

@@ -47,15 +47,6 @@ std::optional<std::string> ByteTextOf(std::string_view text, std::span<const Tex
   return std::string(found->byte_text);
 }
 
-std::string ListOf(std::span<const TextCode> table) {
-  std::string list;
-  for (const TextCode& row : table) {
-    if (!list.empty()) list += &row == &table.back() ? " or " : ", ";
-    list += row.text;
-  }
-  return list;
-}
-
 bool IsHand(char letter) { return letter == 'R' || letter == 'L'; }
 
 }  // namespace
@@ -69,18 +60,14 @@ CodecAnswer BattingSideCodec::EncodeBattingSide(int slot, std::string_view text)
   return encoded.Answer(ByteTextOf(UpperCase(text), kSideCodes));
 }
 
-std::string BattingSideCodec::Letters() { return ListOf(kSideCodes); }
-
-std::string PitcherMarks() { return ListOf(std::span(kMarkCodes).subspan(1)); }
-
 CodecAnswer PitcherMarksCodec::DecodePitcherMarks(std::uint8_t byte) {
   return decoded_marks_.Answer(TextOf(byte, kMarks));
 }
 
 std::string DecodeThrowingHand(std::uint8_t byte) { return byte < 0x10 ? "R" : "L"; }
 
-std::string EncodePitcherSFlag(std::string_view text) {
-  return text.size() > 1 && UpperCase(text[1]) == 'S' ? "01" : "00";
+std::uint8_t EncodePitcherSFlag(std::string_view text) {
+  return text.size() > 1 && UpperCase(text[1]) == 'S' ? 1 : 0;
 }
 
 CodecAnswer PitcherHandEncoder::EncodeHandAndFace(std::string_view text,

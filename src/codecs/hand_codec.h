@@ -20,16 +20,10 @@ class BattingSideCodec {
   /// whichever team it came from.
   CodecAnswer EncodeBattingSide(int slot, std::string_view text);
 
-  /// All letters, in words: "R, L or S".
-  [[nodiscard]] static std::string Letters();
-
  private:
   LastResult decoded_side_;
   std::array<LastResult, kSlotCount> encoded_sides_;
 };
-
-/// The marks that may follow a pitcher's throwing hand, in words: "S, S<, ... or >".
-[[nodiscard]] std::string PitcherMarks();
 
 /// The marks after a pitcher's throwing hand: "S", ">", "<", "S>", "S<" or none.
 class PitcherMarksCodec {
@@ -44,8 +38,8 @@ class PitcherMarksCodec {
 /// "R" for a hand byte below 0x10, "L" from there on.
 [[nodiscard]] std::string DecodeThrowingHand(std::uint8_t byte);
 
-/// "01" when the second character of the shown text is an S of either case, else "00".
-[[nodiscard]] std::string EncodePitcherSFlag(std::string_view text);
+/// 1 when the second character of the shown text is an S of either case, else 0.
+[[nodiscard]] std::uint8_t EncodePitcherSFlag(std::string_view text);
 
 /// The writing side of pitchers' hands and marks; lives for one save, in which it answers an
 /// unknown text with the code of the previous pitcher.

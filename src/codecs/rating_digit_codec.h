@@ -19,11 +19,6 @@ struct RatingTexts {
   std::string second;
 };
 
-/// The largest shown ratings that a save keeps: the first and second of a pair, and a single one.
-inline constexpr int kLargestFirstRating = 10;
-inline constexpr int kLargestSecondRating = 9;
-inline constexpr int kLargestSingleRating = 100;
-
 /// The texts of both bytes; every byte has one.
 [[nodiscard]] RatingTexts FormatRatingBytes(const RatingBytes& bytes);
 

@@ -16,9 +16,9 @@ namespace {
 constexpr char kImageFailureTitle[] = "Morlek Editor";
 
 bool LacksHeader(const std::filesystem::path& path) {
-  std::error_code failure;
-  const std::uintmax_t size = std::filesystem::file_size(path, failure);
-  return !failure && LacksCopierHeader(size);
+  // The size that stands for a failure is not one of whole banks.
+  std::error_code ignored;
+  return LacksCopierHeader(std::filesystem::file_size(path, ignored));
 }
 
 }  // namespace
@@ -28,7 +28,6 @@ Editor::Editor(MessagePort& messages, FileOpener opener)
 
 Editor::Subscription Editor::Subscribe(Observer observer) {
   auto subscription = std::make_shared<const Observer>(std::move(observer));
-  std::erase_if(observers_, [](const auto& each) { return each.expired(); });
   observers_.emplace_back(subscription);
   return subscription;
 }
@@ -41,9 +40,7 @@ OpenResult Editor::OpenFirstImage(const std::filesystem::path& path) {
   const OpenResult result = accepted   ? OpenResult::kOpened
                             : identity ? OpenResult::kRefused
                                        : OpenResult::kNotOpened;
-  StepNote note;
-  if (result == OpenResult::kRefused) note = RefusedFile{path, LacksHeader(path)};
-  EndOpening(path, result, {}, note);
+  EndOpening(path, result);
   if (!accepted) {
     messages_.Show({"You must first open a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
   }
@@ -58,8 +55,7 @@ OpenResult Editor::OpenAnotherImage(const std::filesystem::path& path) {
     return OpenResult::kNotOpened;
   }
   if (!ShowIdentity(*identity)) {
-    image_.Close();
-    EndOpening(path, OpenResult::kRefused, {}, RefusedFile{path, LacksHeader(path)});
+    EndOpening(path, OpenResult::kRefused);
     messages_.Show({"This is not a Dale Harrow Baseball SNES rom.", kImageFailureTitle});
     return OpenResult::kRefused;
   }
@@ -98,11 +94,7 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
   }
   // A load that finds a file open fails, reports it and closes the file.
   const bool was_held = channel_.is_open_for_text();
-  if (std::exchange(state_.is_file_held, false)) {
-    state_.outcome = {};
-    state_.note = {};
-    Publish();
-  }
+  if (std::exchange(state_.is_file_held, false)) EndStep({});
 
   RosterGrid grid = state_.grid;
   LoadResult result = morlek::LoadTeam(image_, LocationOf(team), codec_state_, grid);
@@ -118,9 +110,7 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
     state_.scene = {{before.scene.place.image, team}, true};
     const GridChange texts = ChangeBetween(state_.grid, grid);
     state_.grid = grid;
-    state_.layout = Layout::kNarrow;
-    const bool loaded = result.outcome == LoadResult::Outcome::kLoaded;
-    if (loaded) {
+    if (result.outcome == LoadResult::Outcome::kLoaded) {
       baselines_.insert_or_assign(state_.scene.place, Baseline(result.read, grid));
       AddStep(before, texts);
       Enter(state_.scene);
@@ -128,6 +118,7 @@ LoadResult Editor::LoadTeam(std::string_view toolbar_key) {
       return result;
     }
     const Team* shown_before = state_.loaded;
+    state_.layout = Layout::kNarrow;
     RefreshMarks();
     state_.loaded = shown_before;
     Publish({.texts = texts, .layout_set = true});
@@ -163,19 +154,16 @@ StepNote Editor::SavedIn(const SaveResult& saved, bool was_blocked) const {
       ++changes.stored;
     }
   }
-  if (changes.stored + changes.refused == 0) return {};
+  if (changes.stored == 0 && changes.refused == 0) return {};
   return changes;
 }
 
 void Editor::AddStep(const PassedScene& before, const GridChange& texts) {
-  history_.EndVisit();
   Step step{.texts = texts, .scenes = {}};
   if (before.scene != state_.scene) step.scenes = {before, {state_.scene, state_.picked}};
-  if (texts.empty() && !step.scenes) return;
   // Before the first team there is nothing to go back to.
-  const bool is_first = !history_.can_undo() && !history_.can_redo() &&
-                        before.scene.place.team == nullptr &&
-                        std::ranges::all_of(texts, &std::string::empty, &CellChange::before);
+  const bool is_first =
+      before.scene.place.team == nullptr && !history_.can_undo() && !history_.can_redo();
   if (!is_first) history_.Add(std::move(step));
 }
 
@@ -199,10 +187,8 @@ void Editor::LoadTeamBeside(int places) {
 
 SaveResult Editor::Save() {
   NameReporter reporter(messages_, [this](StepNote note) {
-    state_.outcome = {};
     if (note.index() == 0 && state_.note.index() == 0) return;
-    state_.note = std::move(note);
-    Publish();
+    EndStep({}, {}, std::move(note));
   });
   const bool was_blocked = channel_.is_open_for_text();
   const SaveResult result =
@@ -244,14 +230,18 @@ void Editor::TakeFile(const std::filesystem::path& path) {
 
 void Editor::Visit(Cell cell) {
   if (!IsFeature(cell.column)) return;
-  state_.stance_row = cell.row;
-  state_.chooser = cell.column;
-  state_.layout = Layout::kWide;
+  ShowChooser(cell);
   Publish({.layout_set = true});
 }
 
+void Editor::ShowChooser(Cell cell) {
+  state_.stance_row = cell.row;
+  state_.chooser = cell.column;
+  state_.layout = Layout::kWide;
+}
+
 void Editor::Type(Cell cell, std::string text) {
-  if (text.size() > kLongestText) text.resize(kLongestText);
+  text.resize(std::min(text.size(), kLongestText));
   if (text == state_.grid.Text(cell)) return;
   const CellChange typed = {cell, state_.grid.Text(cell), std::move(text)};
   history_.AddTyping(typed);
@@ -271,9 +261,8 @@ void Editor::Leaf(Cell cell, std::string code_text) {
   const CellChange leafed = {cell, state_.grid.Text(cell), std::move(code_text)};
   history_.AddLeafing(leafed);
   state_.grid.SetText(cell, leafed.after);
-  state_.stance_row = cell.row;
-  state_.chooser = cell.column;
-  const bool widened = std::exchange(state_.layout, Layout::kWide) != Layout::kWide;
+  const bool widened = state_.layout != Layout::kWide;
+  ShowChooser(cell);
   EndStep({.texts = {leafed}, .picked_into = cell, .layout_set = widened});
 }
 
@@ -313,9 +302,7 @@ std::optional<Cell> Editor::Follow(const std::optional<Step>& step) {
   const auto& [scene, picked] = step->scenes->after;
   state_.picked = picked;
   Enter(scene);
-  state_.outcome = {};
-  state_.note = {};
-  Publish({.texts = step->texts, .loaded = scene.is_grid_shown, .layout_set = true});
+  EndStep({.texts = step->texts, .loaded = scene.is_grid_shown, .layout_set = true});
   return std::nullopt;
 }
 
@@ -338,8 +325,7 @@ RecordLocation Editor::LocationOf(const Team* team) const {
 
 GridChange Editor::Replace(const RosterGrid& grid) {
   GridChange texts = ChangeBetween(state_.grid, grid);
-  history_.EndVisit();
-  if (!texts.empty()) history_.Add({.texts = texts, .scenes = {}});
+  history_.Add({.texts = texts, .scenes = {}});
   state_.grid = grid;
   return texts;
 }
@@ -347,28 +333,30 @@ GridChange Editor::Replace(const RosterGrid& grid) {
 void Editor::EndStep(const StateChange& change, StepOutcome outcome, StepNote note) {
   state_.outcome = std::move(outcome);
   state_.note = std::move(note);
-  if (!change.texts.empty() && !FollowRow(change.texts)) RefreshMarks();
+  if (!change.texts.empty()) FollowTexts(change.texts);
   Publish(change);
 }
 
 void Editor::RefreshMarks() {
-  state_.loaded = baseline_ == nullptr ? nullptr : state_.scene.place.team;
   if (baseline_ == nullptr) {
-    if (preview_) state_.marks = {};
-    preview_.reset();
+    state_.loaded = nullptr;
+    state_.marks = {};
     return;
   }
+  state_.loaded = state_.scene.place.team;
   preview_ = Preview();
   state_.marks = GridMarks(state_.grid, *preview_, *baseline_);
 }
 
-bool Editor::FollowRow(const GridChange& texts) {
+void Editor::FollowTexts(const GridChange& texts) {
   const int row = texts.front().cell.row;
   // Behind the message of a load that has failed, the preview is still that of the team before.
-  if (baseline_ == nullptr || !preview_ || texts.back().cell.row != row) return false;
-  if (!preview_->FollowRow(row, state_.grid, codec_state_, baseline_->bytes())) return false;
-  state_.marks.FollowRow(row, state_.grid, *preview_, *baseline_);
-  return true;
+  if (baseline_ != nullptr && texts.back().cell.row == row &&
+      preview_->FollowRow(row, state_.grid, codec_state_, baseline_->bytes())) {
+    state_.marks.FollowRow(row, state_.grid, *preview_, *baseline_);
+  } else {
+    RefreshMarks();
+  }
 }
 
 void Editor::EndFileStep(StepOutcome outcome, const StateChange& change, StepNote note) {
@@ -382,6 +370,7 @@ void Editor::EndOpening(const std::filesystem::path& path, OpenResult result,
                         const StateChange& change, StepNote note) {
   state_.refused.reset();
   if (result != OpenResult::kOpened) state_.refused = {path, result};
+  if (result == OpenResult::kRefused) note = RefusedFile{path, LacksHeader(path)};
   EndFileStep(result, change, std::move(note));
 }
 

@@ -145,14 +145,17 @@ class Editor {
   /// Makes a step of the history. Gives the first cell that changed, unless the scene did.
   std::optional<Cell> Follow(const std::optional<Step>& step);
 
+  /// Brings the chooser of a features cell into view.
+  void ShowChooser(Cell cell);
+
   /// Replaces the grid in one step of the history; nothing when no text changes.
   [[nodiscard]] GridChange Replace(const RosterGrid& grid);
 
   /// Works out the marks of the grid.
   void RefreshMarks();
 
-  /// Works out the marks of one row alone when no others can have changed; false if they can.
-  [[nodiscard]] bool FollowRow(const GridChange& texts);
+  /// Works out the marks anew of what a change of texts may have changed: often one row alone.
+  void FollowTexts(const GridChange& texts);
 
   /// Ends a step that has to do with no file.
   void EndStep(const StateChange& change, StepOutcome outcome = {}, StepNote note = {});
@@ -174,9 +177,9 @@ class Editor {
   History history_;
   // Of all places that were loaded in this run.
   std::map<Place, Baseline> baselines_;
-  // That of the team in the grid, and what SAVE would make of the grid; null and nothing while no
-  // load has come through.
+  // That of the team in the grid; null while no load has come through.
   Baseline* baseline_ = nullptr;
+  // What SAVE would make of the grid, while there is a baseline.
   std::optional<SavePreview> preview_;
   std::vector<std::weak_ptr<const Observer>> observers_;
 };

@@ -33,18 +33,18 @@ using StepOutcome = std::variant<std::monostate, OpenResult, LoadResult, SaveRes
 /// A file that was chosen as an image and did not become one.
 struct RefusedImage {
   std::filesystem::path path;
-  OpenResult why = OpenResult::kNotOpened;
+  OpenResult why;
 };
 
 /// Changes that a step to another team or image has left unsaved; taking it back brings them back.
 struct LeftBehind {
   Place place;
-  int changes = 0;
+  int changes;
 };
 
 /// A letter of a row's name that the game lacks, empty for an empty name, while its message stands.
 struct UnknownLetter {
-  int row = 0;
+  int row;
   std::string letter;
 };
 
@@ -54,12 +54,12 @@ struct SavedChanges {
   int stored = 0;
   int refused = 0;
   /// An open team file was in the way, not the disk.
-  bool was_blocked = false;
+  bool was_blocked;
 };
 
 /// An import that ended early, whose file a cancelled dialog has closed.
 struct ClosedImport {
-  int lines = 0;
+  int lines;
 };
 
 /// Who was copied to the clipboard, by his name or in words.
@@ -71,7 +71,7 @@ struct CopyNote {
 struct RefusedFile {
   std::filesystem::path path;
   /// By its size it is an image without the 512 bytes that stand in front of the game.
-  bool lacks_header = false;
+  bool lacks_header;
 };
 
 /// What a person should know of the last step, until the next one.

@@ -34,11 +34,7 @@ void GridMarks::FollowRow(int row, const RosterGrid& grid, const SavePreview& pr
   const auto first = std::size_t{kColumnCount} * static_cast<std::size_t>(row);
   for (const Cell cell : std::span(kAllCells).subspan(first, kColumnCount)) {
     CellMark& mark = marks_.at(IndexOf(cell));
-    modified_count_ -= mark.is_modified ? 1 : 0;
-    lossy_count_ -= mark.is_lossy ? 1 : 0;
     mark = MarkOf(cell, grid, preview, baseline);
-    modified_count_ += mark.is_modified ? 1 : 0;
-    lossy_count_ += mark.is_lossy ? 1 : 0;
     marked_.set(IndexOf(cell), mark.is_marked());
   }
 }

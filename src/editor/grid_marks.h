@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bitset>
 #include <string>
@@ -51,8 +52,8 @@ class GridMarks {
   [[nodiscard]] const std::bitset<kCellCount>& marked() const { return marked_; }
 
   /// How many cells are marked so.
-  [[nodiscard]] int modified_count() const { return modified_count_; }
-  [[nodiscard]] int lossy_count() const { return lossy_count_; }
+  [[nodiscard]] int modified_count() const { return CountOf(&CellMark::is_modified); }
+  [[nodiscard]] int lossy_count() const { return CountOf(&CellMark::is_lossy); }
 
   /// The next cell that SAVE will not keep after `from` (or before it, backwards), going round:
   /// the causes, then what is lost because of them, both as the cells stand on the screen. From a
@@ -63,10 +64,12 @@ class GridMarks {
   friend bool operator==(const GridMarks&, const GridMarks&) = default;
 
  private:
+  [[nodiscard]] int CountOf(bool CellMark::*kind) const {
+    return static_cast<int>(std::ranges::count(marks_, true, kind));
+  }
+
   std::array<CellMark, kCellCount> marks_;
   std::bitset<kCellCount> marked_;
-  int modified_count_ = 0;
-  int lossy_count_ = 0;
 };
 
 }  // namespace morlek

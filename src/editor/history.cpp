@@ -19,10 +19,12 @@ std::size_t BytesOf(const Step& step) {
 
 void History::Add(Step step) {
   EndVisit();
+  if (step.texts.empty() && !step.scenes) return;
   while (can_redo()) DropLastStep();
   bytes_ += BytesOf(step);
   steps_.push_back(std::move(step));
-  while (bytes_ > kMostBytes && steps_.size() > 1) {
+  // No step alone, a change of all cells at most, holds so much.
+  while (bytes_ > kMostBytes) {
     bytes_ -= BytesOf(steps_.front());
     steps_.pop_front();
   }
@@ -36,7 +38,7 @@ void History::AddToVisit(const CellChange& change, Way way) {
     visited_ = visit;
     return;
   }
-  CellChange& step = steps_.back().texts.front();
+  CellChange& step = steps_.back().texts.at(0);
   bytes_ += change.after.size();
   bytes_ -= step.after.size();
   step.after = change.after;

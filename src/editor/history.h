@@ -30,7 +30,8 @@ struct Step {
 /// first.
 class History {
  public:
-  /// Adds a step that has been made. Steps that were taken back are dropped.
+  /// Adds a step that has been made, unless it changed nothing, and ends a visit. Steps that were
+  /// taken back are dropped.
   void Add(Step step);
 
   /// Adds what was typed into a cell. All that is typed into one cell in one visit is one step,

@@ -26,11 +26,6 @@ class MessagePort {
 
   /// Shows a message and returns when the person has closed it.
   virtual void Show(const Message& message) = 0;
-
- protected:
-  MessagePort() = default;
-  MessagePort(const MessagePort&) = default;
-  MessagePort& operator=(const MessagePort&) = default;
 };
 
 }  // namespace morlek

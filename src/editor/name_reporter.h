@@ -20,7 +20,7 @@ class NameReporter : public EncodingListener {
       : messages_(messages), note_(std::move(note)) {}
 
   void UnknownLetter(int row, std::string_view letter) override {
-    note_(LetterNote{row, std::string(letter)});
+    note_(morlek::UnknownLetter{row, std::string(letter)});
     messages_.Show(
         {"You've used a letter that is not recognized by MORLEK EDITOR, change the letter and "
          "save your edits again."});
@@ -31,9 +31,6 @@ class NameReporter : public EncodingListener {
   }
 
  private:
-  // The routine of the same name hides it.
-  using LetterNote = morlek::UnknownLetter;
-
   MessagePort& messages_;
   std::function<void(StepNote)> note_;
 };

@@ -20,7 +20,7 @@ std::optional<std::int32_t> Hex_to_Dec(std::string_view HexNum, MessagePort& mes
 std::int64_t Hex_to_Unsigned(std::string_view text) {
   constexpr std::size_t kDigits = 8;
   if (UpperCase(text.substr(0, 2)) == "&H") text.remove_prefix(2);
-  if (text.size() > kDigits) text.remove_prefix(text.size() - kDigits);
+  text.remove_prefix(text.size() - std::min(text.size(), kDigits));
   return HexDigitsToNumber(text).value_or(0);
 }
 

@@ -65,11 +65,11 @@ inline constexpr auto kCellPlaces = [] {
   return places;
 }();
 
-/// The place of a cell in kAllCells; kCellCount for a cell that the grid does not have.
+/// The place of a cell in kAllCells; kCellCount for a column that its row does not have. Throws
+/// std::out_of_range for a row that the grid does not have.
 [[nodiscard]] constexpr std::size_t IndexOf(Cell cell) {
-  const auto row = static_cast<std::size_t>(cell.row);
-  if (row >= kCellPlaces.size()) return kCellCount;
-  return kCellPlaces.at(row).at(static_cast<std::size_t>(cell.column));
+  return kCellPlaces.at(static_cast<std::size_t>(cell.row))
+      .at(static_cast<std::size_t>(cell.column));
 }
 
 }  // namespace morlek

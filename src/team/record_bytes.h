@@ -6,7 +6,7 @@
 #include <optional>
 #include <span>
 
-#include "image/record_layout.h"
+#include "team/cell.h"
 
 namespace morlek {
 
@@ -15,15 +15,14 @@ namespace morlek {
 class RecordBytes {
  public:
   [[nodiscard]] std::optional<std::uint8_t> At(int row, int offset) const {
-    return bytes_.at(Index(row, offset));
+    return rows_.at(Index(row)).at(Index(offset));
   }
-  void Put(int row, int offset, std::uint8_t byte) { bytes_.at(Index(row, offset)) = byte; }
+  void Put(int row, int offset, std::uint8_t byte) {
+    rows_.at(Index(row)).at(Index(offset)) = byte;
+  }
 
   /// Takes all bytes of a row away.
-  void ClearRow(int row) {
-    const auto of_row = std::span(bytes_).subspan(Index(row, 0), kSlotBytes);
-    std::ranges::fill(of_row, std::nullopt);
-  }
+  void ClearRow(int row) { rows_.at(Index(row)) = {}; }
 
   /// Whether a byte is there at any of these offsets of a row.
   [[nodiscard]] bool HasAny(int row, std::span<const int> offsets) const {
@@ -32,19 +31,19 @@ class RecordBytes {
 
   /// Puts every byte that is there in `others`.
   void PutAll(const RecordBytes& others) {
-    for (std::size_t index = 0; index < bytes_.size(); ++index) {
-      if (others.bytes_.at(index)) bytes_.at(index) = others.bytes_.at(index);
+    for (const int row : kRowNumbers) {
+      auto& own = rows_.at(Index(row));
+      std::ranges::transform(others.rows_.at(Index(row)), own, own.begin(),
+                             [](auto other, auto mine) { return other ? other : mine; });
     }
   }
 
   friend bool operator==(const RecordBytes&, const RecordBytes&) = default;
 
  private:
-  static std::size_t Index(int row, int offset) {
-    return static_cast<std::size_t>(kSlotBytes * row + offset);
-  }
+  static std::size_t Index(int number) { return static_cast<std::size_t>(number); }
 
-  std::array<std::optional<std::uint8_t>, std::size_t{kSlotBytes} * kSlotCount> bytes_;
+  std::array<std::array<std::optional<std::uint8_t>, kSlotBytes>, kSlotCount> rows_;
 };
 
 }  // namespace morlek

@@ -24,12 +24,6 @@ std::string WithPoint(std::string_view text) {
   return std::string(text.substr(0, 1)) + "." + std::string(text.empty() ? "" : text.substr(1));
 }
 
-class StrictListener : public DecodingListener {
- public:
-  void UnknownByte(Cell /*cell*/) override {}
-  bool NoRating(Cell /*cell*/) override { return false; }
-};
-
 /// One run over the record, a pass for each field. Every pass reads and decodes the bytes of all
 /// rows, because decoders keep their results, but shows them only in rows that have the column.
 class RecordDecoder {
@@ -202,7 +196,7 @@ std::uint8_t RecordDecoder::Read(int row, int offset) {
 
 std::string RecordDecoder::ReadPairKey(Cell cell) {
   const std::uint8_t low = Read(cell);
-  return PairKey(low, Read(cell.row, OffsetOf(cell.column) + 1));
+  return PairKey(low, Read(cell.row, BytesOf(cell.column).back()));
 }
 
 }  // namespace
@@ -210,11 +204,6 @@ std::string RecordDecoder::ReadPairKey(Cell cell) {
 void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid,
                   DecodingListener& listener, Rows rows) {
   RecordDecoder(source, state, grid, listener, rows).LoadAll();
-}
-
-void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid) {
-  StrictListener listener;
-  DecodeRecord(source, state, grid, listener);
 }
 
 }  // namespace morlek

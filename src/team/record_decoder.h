@@ -12,23 +12,19 @@ namespace morlek {
 /// when it cannot.
 using RecordSource = std::function<std::uint8_t(int row, int offset)>;
 
-/// Hears of cells whose bytes no decoder knows.
+/// Hears of cells whose bytes no decoder knows. By default it ends the decoder at a rating that is
+/// none.
 class DecodingListener {
  public:
   virtual ~DecodingListener() = default;
 
   /// A byte of this cell is unknown, so the cell shows an earlier result. Of a name each such
   /// letter is reported.
-  virtual void UnknownByte(Cell cell) = 0;
+  virtual void UnknownByte(Cell /*cell*/) {}
 
   /// A digit of this rating is none, so there is nothing to show. True when the decoder is to go on
   /// and leave the cell empty, false when it is to end here.
-  [[nodiscard]] virtual bool NoRating(Cell cell) = 0;
-
- protected:
-  DecodingListener() = default;
-  DecodingListener(const DecodingListener&) = default;
-  DecodingListener& operator=(const DecodingListener&) = default;
+  [[nodiscard]] virtual bool NoRating(Cell /*cell*/) { return false; }
 };
 
 /// Turns the bytes of a record into the texts of the grid, one field at a time across the whole
@@ -39,8 +35,5 @@ class DecodingListener {
 /// Without all `rows` it works as if the record had no others.
 void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid,
                   DecodingListener& listener, Rows rows = kAllRows);
-
-/// The same; a rating that is none ends it.
-void DecodeRecord(const RecordSource& source, CodecState& state, RosterGrid& grid);
 
 }  // namespace morlek

@@ -153,9 +153,8 @@ void RecordEncoder::SaveBatter(int row) {
 }
 
 void RecordEncoder::SavePitcher(int row) {
-  const auto flag = ByteTextToNumber(EncodePitcherSFlag(Text({kThrowingHand, row})));
   // Written for an empty cell too.
-  if (flag) Write(row, offset::kPitcherSFlag, *flag);
+  Write(row, offset::kPitcherSFlag, EncodePitcherSFlag(Text({kThrowingHand, row})));
   SaveRatings({kPitchSpeed, row}, {kControl, row}, state_.first_ratings);
   const std::string& fatigue = Text({kFatigue, row});
   Save({kFatigue, row}, values_.pitcher_second_rating, PackSingleRating(fatigue));
@@ -177,7 +176,7 @@ void RecordEncoder::SaveRatings(Cell first, Cell second, auto& value) {
 void RecordEncoder::SaveAverage(Cell source, CodecAnswer low, std::int32_t& value,
                                 std::uint8_t high) {
   Save(source, value, low);
-  WriteFilled(source, OffsetOf(source.column) + 1, high);
+  WriteFilled(source, BytesOf(source.column).back(), high);
 }
 
 void RecordEncoder::SaveFace(int row) {
@@ -219,8 +218,7 @@ void RecordEncoder::WriteFilled(Cell source, int offset, std::optional<std::int3
 void RecordEncoder::Write(int row, int offset, std::int32_t value) {
   constexpr std::int32_t kLargestByte = 255;
   if (value < 0 || value > kLargestByte) return;
-  // A write that fails is skipped like every other step.
-  static_cast<void>(sink_(row, offset, static_cast<std::uint8_t>(value)));
+  sink_(row, offset, static_cast<std::uint8_t>(value));
 }
 
 }  // namespace

@@ -11,8 +11,8 @@
 namespace morlek {
 
 /// Takes the byte that encodes a cell, alone or with others of its row, for a row (0 to 24) and an
-/// offset (0 to 31) of the record; false when it could not.
-using RecordSink = std::function<bool(int row, int offset, std::uint8_t byte)>;
+/// offset (0 to 31) of the record.
+using RecordSink = std::function<void(int row, int offset, std::uint8_t byte)>;
 
 /// Is notified of what cannot be encoded in a name as soon as it is found. It may keep the encoder
 /// waiting, as a message box does. By default it does nothing.
@@ -33,7 +33,7 @@ class EncodingListener {
 /// Turns the texts of the grid into the bytes of a record: the initials of all names first, then
 /// row by row. It skips a step that fails and goes on with the next one: a conversion that fails
 /// leaves its working value as it was, so the following write repeats what the same field had in
-/// the row before; a byte that the sink does not take is not offered again.
+/// the row before.
 /// A name of more than 10 characters ends it; the result is then that row, else nothing.
 /// Without all `rows` it works as if the grid had no others.
 std::optional<int> EncodeRecord(const RosterGrid& grid, CodecState& state, const RecordSink& sink,

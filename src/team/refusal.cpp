@@ -18,8 +18,8 @@ namespace {
 
 using enum Column;
 
-/// Whether SAVE keeps the text of a cell, and what shares a byte with it, beside a good text there.
-/// Only of columns that share a byte; this is asked for with every key.
+/// Whether SAVE keeps the text of a cell, and what shares a byte with it, beside a good text there;
+/// of a column that shares none, anything.
 bool IsTakenAlone(Column column, const std::string& text) {
   constexpr char kGoodRating[] = "1";
   switch (column) {
@@ -31,30 +31,22 @@ bool IsTakenAlone(Column column, const std::string& text) {
     case kControl:
     case kFielding:
       return KeepsRatings(kGoodRating, text);
-    case kThrowingHand: {
-      PitcherHandEncoder encoder;
-      return encoder.EncodeHandAndFace(text, ByteToTwoDigits(0)).is_known &&
-             encoder.EncodeMarks(text).is_known;
-    }
-    case kFace: {
+    case kThrowingHand:
+      return PitcherHandEncoder().EncodeMarks(text).is_known;
+    default: {
       const std::optional<std::uint8_t> byte = AppearanceByte(text);
       return byte && IsSameText(column, text, ByteToText(*byte));
     }
-    default:
-      return true;
   }
 }
 
 /// What is wrong with a name, by its first fault.
 std::optional<std::string> FaultOfName(std::string_view name) {
   if (name.starts_with('.')) return "no initial stands before the period";
-  constexpr std::size_t kPoint = 1;
   for (std::size_t place = 0; place < name.size(); ++place) {
-    const char character = name[place];
-    if (place == kPoint ? character != '.' : character == '.') {
-      return place == kPoint ? "no period follows the initial"
-                             : "a second period stands in the name";
-    }
+    const bool is_period = name[place] == '.';
+    if (place == 1 && !is_period) return "no period follows the initial";
+    if (place > 1 && is_period) return "a second period stands in the name";
     if (!NameLetterCodec().EncodeNameLetter(name.substr(place, 1)).is_known) {
       std::ostringstream reason;
       reason << "character " << place + 1 << " is no letter that the game has";
@@ -70,11 +62,10 @@ std::optional<Cell> CauseElsewhere(const RosterGrid& grid, const SavePreview& pr
   if (preview.FateOf(cell) == SavePreview::Fate::kNotReached) {
     return Cell{kName, *preview.end_row()};
   }
+  if (!IsTakenAlone(cell.column, grid.Text(cell))) return std::nullopt;
   for (const BlockColumn& each : BlockOf(cell.row).columns) {
     const Cell other{each.column, cell.row};
-    if (other == cell || !ShareAByte(cell, other)) continue;
-    if (!IsTakenAlone(cell.column, grid.Text(cell))) return std::nullopt;
-    if (!IsTakenAlone(other.column, grid.Text(other))) return other;
+    if (ShareAByte(cell, other) && !IsTakenAlone(other.column, grid.Text(other))) return other;
   }
   return std::nullopt;
 }
@@ -86,14 +77,14 @@ std::optional<std::string> ReasonOfRefusal(const std::string& text, Cell cell,
   if (cause->column == kName) {
     return "the name of " + PlayerText(cause->row) + " is too long and ends the save";
   }
-  const Block& block = BlockOf(cell.row);
-  const bool is_first = *block.PlaceOf(cell.column) < *block.PlaceOf(cause->column);
-  const std::string_view caption = CaptionOf(block, cell.column);
-  const std::string_view bad = CaptionOf(block, cause->column);
-  std::string reason(is_first ? caption : bad);
-  reason.append(" and ").append(is_first ? bad : caption);
-  reason.append(" share a byte, and ").append(bad);
-  return reason.append(" is not ").append(AcceptedTexts(cause->column));
+  std::string columns;
+  for (const BlockColumn& each : BlockOf(cell.row).columns) {
+    if (each.column != cell.column && each.column != cause->column) continue;
+    columns.append(columns.empty() ? "" : " and ").append(each.caption);
+  }
+  return columns + " share a byte, and " +
+         std::string(CaptionOf(BlockOf(cell.row), cause->column)) + " is not " +
+         AcceptedTexts(cause->column);
 }
 
 }  // namespace morlek

@@ -8,9 +8,9 @@ namespace morlek {
 
 std::string CanonicalText(Column column, std::string_view text) {
   if (IsFeature(column)) {
-    const std::size_t zeros = std::min(text.find_first_not_of('0'), text.size());
     // A zero alone stays.
-    text.remove_prefix(zeros == text.size() && zeros > 0 ? zeros - 1 : zeros);
+    const std::size_t most = std::max(text.size(), std::size_t{1}) - 1;
+    text.remove_prefix(std::min(text.find_first_not_of('0'), most));
   }
   return UpperCase(text);
 }

@@ -1,8 +1,5 @@
 #include "team/save_preview.h"
 
-#include <algorithm>
-
-#include "image/failure.h"
 #include "team/column_bytes.h"
 #include "team/record_decoder.h"
 #include "team/record_encoder.h"
@@ -27,41 +24,31 @@ class ReuseListener : public EncodingListener, public DecodingListener {
 
 }  // namespace
 
-SavePreview::SavePreview(const RosterGrid& grid, const CodecState& state,
-                         const RecordBytes& known) {
-  Rehearse(kAllRows, grid, state, known);
-}
+SavePreview::SavePreview(const RosterGrid& grid, const CodecState& state, const RecordBytes& known)
+    : are_rows_independent_(Rehearse(kAllRows, grid, state, known)) {}
 
 bool SavePreview::FollowRow(int row, const RosterGrid& grid, const CodecState& state,
                             const RecordBytes& known) {
   if (!are_rows_independent_) return false;
   written_.ClearRow(row);
-  Rehearse(kAllRows.subspan(static_cast<std::size_t>(row), 1), grid, state, known);
+  are_rows_independent_ =
+      Rehearse(kAllRows.subspan(static_cast<std::size_t>(row), 1), grid, state, known);
   return are_rows_independent_;
 }
 
-void SavePreview::Rehearse(Rows rows, const RosterGrid& grid, CodecState state,
+bool SavePreview::Rehearse(Rows rows, const RosterGrid& grid, CodecState state,
                            const RecordBytes& known) {
   ReuseListener listener;
   const auto sink = [this](int row, int offset, std::uint8_t byte) {
     written_.Put(row, offset, byte);
-    return true;
   };
   end_row_ = EncodeRecord(grid, state, sink, listener, rows);
 
   const auto source = [&](int row, int offset) {
-    std::optional<std::uint8_t> byte = written_.At(row, offset);
-    if (!byte) byte = known.At(row, offset);
-    if (!byte) throw OperationFailed("The byte is not known.");
-    return *byte;
+    return written_.At(row, offset).value_or(known.At(row, offset).value_or(0));
   };
-  try {
-    DecodeRecord(source, state, after_, listener, rows);
-    are_rows_independent_ = !listener.has_heard();
-  } catch (const OperationFailed&) {
-    after_ = grid;
-    are_rows_independent_ = false;
-  }
+  DecodeRecord(source, state, after_, listener, rows);
+  return !listener.has_heard();
 }
 
 SavePreview::Fate SavePreview::FateOf(Cell cell) const {

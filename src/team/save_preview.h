@@ -14,8 +14,7 @@ namespace morlek {
 class SavePreview {
  public:
   /// `state` is what loads and saves keep now, `known` the bytes that the image is known to hold.
-  /// When that load would lack a byte of `known`, nothing can be predicted: every cell then keeps
-  /// its text. A rating that is no number comes out empty.
+  /// A byte that `known` lacks counts as 0. A rating that is no number comes out empty.
   SavePreview(const RosterGrid& grid, const CodecState& state, const RecordBytes& known);
 
   /// Follows a change of one row of the grid, with the same `state` and `known`. False when that
@@ -44,13 +43,14 @@ class SavePreview {
   [[nodiscard]] std::optional<int> end_row() const { return end_row_; }
 
  private:
-  void Rehearse(Rows rows, const RosterGrid& grid, CodecState state, const RecordBytes& known);
+  /// Saves and loads some rows. False when one of them depends on what stands in other rows.
+  bool Rehearse(Rows rows, const RosterGrid& grid, CodecState state, const RecordBytes& known);
 
   RecordBytes written_;
   std::optional<int> end_row_;
   RosterGrid after_;
   // Whether every byte and every text follows from its row alone.
-  bool are_rows_independent_ = true;
+  bool are_rows_independent_;
 };
 
 }  // namespace morlek

@@ -21,8 +21,9 @@ LoadResult LoadTeam(CartridgeImage& image, const RecordLocation& location, Codec
     result.read.Put(row, offset, byte);
     return byte;
   };
+  DecodingListener strict;
   try {
-    DecodeRecord(source, state, grid);
+    DecodeRecord(source, state, grid, strict);
     image.Close();
   } catch (const OperationFailed& failure) {
     result.outcome = kEndedEarly;

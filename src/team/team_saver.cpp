@@ -8,7 +8,6 @@ SaveResult SaveTeam(CartridgeImage& image, const RecordLocation& location, const
   const auto sink = [&](int row, int offset, std::uint8_t byte) {
     const bool taken = image.WriteField(location.base, row, offset, byte);
     (taken ? result.taken : result.refused).Put(row, offset, byte);
-    return taken;
   };
   static_cast<void>(image.Open(location.image));
   result.end_row = EncodeRecord(grid, state, sink, listener);

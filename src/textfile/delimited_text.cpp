@@ -75,31 +75,25 @@ std::optional<char> DelimitedReader::Next() {
 
 bool DelimitedReader::Read(TextRecord& record) {
   record.line = line_;
-  if (fault_) return false;
+  record.fields.clear();
   std::optional<char> first = Next();
-  std::size_t count = 0;
   FieldEnd end = first ? FieldEnd::kSeparator : FieldEnd::kFault;
   while (end == FieldEnd::kSeparator) {
-    if (count == limits_.fields) return Fail(TextFault::kTooManyFields) != FieldEnd::kFault;
-    if (count == record.fields.size()) record.fields.emplace_back();
-    std::string& field = record.fields.at(count++);
-    field.clear();
-    end = ReadField(first, field);
+    if (record.fields.size() == limits_.fields) {
+      end = Fail(TextFault::kTooManyFields);
+      break;
+    }
+    std::string& field = record.fields.emplace_back();
+    end = first == kQuote ? ReadQuoted(field) : ReadPlain(first, field);
     if (end == FieldEnd::kSeparator) first = Next();
   }
-  record.fields.resize(count);
-  return end == FieldEnd::kRecord && !fault_;
+  return end == FieldEnd::kRecord;
 }
 
 bool DelimitedReader::IsSeparator(char character) {
   constexpr std::string_view kSeparators = ",;\t";
   if (!separator_ && kSeparators.find(character) != std::string_view::npos) separator_ = character;
   return separator_ == character;
-}
-
-DelimitedReader::FieldEnd DelimitedReader::ReadField(std::optional<char> first,
-                                                     std::string& field) {
-  return first == kQuote ? ReadQuoted(field) : ReadPlain(first, field);
 }
 
 DelimitedReader::FieldEnd DelimitedReader::ReadQuoted(std::string& field) {

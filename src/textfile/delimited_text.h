@@ -52,9 +52,9 @@ class DelimitedReader {
   explicit DelimitedReader(CharacterSource source, TextLimits limits = {},
                            std::optional<char> separator = std::nullopt);
 
-  /// Reads the next record into `record`, whose memory is used again. False at the end of the text
-  /// and at a fault; then what `record` holds is unfinished, but its line is that of the fault.
-  /// Throws what the source throws.
+  /// Reads the next record into `record`. False at the end of the text and at a fault; then what
+  /// `record` holds is unfinished, but its line is that of the fault. Throws what the source
+  /// throws.
   [[nodiscard]] bool Read(TextRecord& record);
 
   /// What ended the reading; nothing at the end of the text.
@@ -67,10 +67,9 @@ class DelimitedReader {
   /// The next character, in which every line end is a line feed; nothing at the end.
   [[nodiscard]] std::optional<char> Next();
   [[nodiscard]] bool IsSeparator(char character);
-  /// Reads a field from its first character on.
-  [[nodiscard]] FieldEnd ReadField(std::optional<char> first, std::string& field);
+  /// Reads a field from behind its first quote on.
   [[nodiscard]] FieldEnd ReadQuoted(std::string& field);
-  /// Reads on after a character that is no part of quotes.
+  /// Reads on from a character that is no part of quotes.
   [[nodiscard]] FieldEnd ReadPlain(std::optional<char> character, std::string& field);
   [[nodiscard]] bool Append(std::string& field, char character);
   FieldEnd Fail(TextFault fault);

@@ -11,11 +11,11 @@ namespace morlek {
 namespace {
 
 // Heads that the table of a season has instead of the sheet's own.
-constexpr std::array<std::pair<Column, std::string_view>, 4> kOtherHeads = {
-    {{Column::kName, "NAME"},
-     {Column::kBattingSide, "HAND"},
-     {Column::kThrowingHand, "HAND"},
-     {Column::kLegs, "LEGS"}}};
+constexpr auto kOtherHeads =
+    std::to_array<std::pair<Column, std::string_view>>({{Column::kName, "NAME"},
+                                                        {Column::kBattingSide, "HAND"},
+                                                        {Column::kThrowingHand, "HAND"},
+                                                        {Column::kLegs, "LEGS"}});
 
 bool IsHead(const BlockColumn& column, std::string_view capitals) {
   return capitals == UpperCase(column.caption) ||
@@ -80,14 +80,10 @@ GridWithBlock WithBlock(RosterGrid grid, Cell start, std::string_view text) {
   int row = start.row;
   while (const std::optional<PastedLine> line = lines.Next()) {
     if (HoldsHeads(*line, first)) continue;
-    if (row < end_row) {
-      result.cells += LayLine(*line, row++, first, grid);
-      continue;
-    }
-    const auto is_filled = [](const std::string& cell) { return !cell.empty(); };
-    const auto filled = static_cast<int>(std::ranges::count_if(line->cells, is_filled));
-    result.cells += filled + line->more;
-    if (filled + line->more > 0) ++result.lines;
+    const bool has_row = row < end_row;
+    const int without_place = LayLine(*line, row++, has_row ? first : kColumnCount, grid);
+    result.cells += without_place;
+    if (!has_row && without_place > 0) ++result.lines;
   }
   return {.grid = std::move(grid), .without_place = result};
 }

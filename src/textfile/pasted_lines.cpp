@@ -96,7 +96,7 @@ void PastedLines::TakeLineEnd() {
 std::string PastedText(Column column, std::string cell) {
   std::erase_if(cell, [](char character) { return character == '\r' || character == '\n'; });
   cell = InAverageForm(column, cell);
-  if (cell.size() > kLongestText) cell.resize(kLongestText);
+  cell.resize(std::min(cell.size(), kLongestText));
   return cell;
 }
 

@@ -7,34 +7,21 @@
 namespace morlek {
 namespace {
 
-/// The characters of one line after the other.
-class LineReader {
- public:
-  explicit LineReader(Channel& channel) : channel_(channel) {}
+/// The next character of a line, or nothing at its end.
+std::optional<char> NextOfLine(Channel& channel) {
+  const std::optional<char> character = channel.ReadCharacter();
+  if (character != '\r') return character;
+  if (channel.PeekCharacter() == '\n') static_cast<void>(channel.ReadCharacter());
+  return std::nullopt;
+}
 
-  /// Throws OperationFailed when there is no further line.
-  void RequireLine() {
-    if (!channel_.PeekCharacter()) throw OperationFailed("The file has too few lines.");
-  }
-
-  /// The next character of the line, or nothing at its end.
-  std::optional<char> NextCharacter() {
-    const std::optional<char> character = channel_.ReadCharacter();
-    if (character != '\r') return character;
-    if (channel_.PeekCharacter() == '\n') static_cast<void>(channel_.ReadCharacter());
-    return std::nullopt;
-  }
-
- private:
-  Channel& channel_;
-};
-
-/// Fills a row from the next line. What follows the line's last comma stays in `field`.
-void ReadRow(LineReader& reader, int row, std::string& field, RosterGrid& grid) {
-  reader.RequireLine();
+/// Fills a row from the next line. What follows the line's last comma stays in `field`. Throws
+/// OperationFailed when there is no further line.
+void ReadRow(Channel& channel, int row, std::string& field, RosterGrid& grid) {
+  if (!channel.PeekCharacter()) throw OperationFailed("The file has too few lines.");
   const auto& columns = BlockOf(row).columns;
   std::size_t index = 0;
-  while (const std::optional<char> character = reader.NextCharacter()) {
+  while (const std::optional<char> character = NextOfLine(channel)) {
     if (*character != ',') {
       if (field.size() < kLongestText) field += *character;
       continue;
@@ -60,9 +47,8 @@ ImportResult ImportTeamData(Channel& channel, const std::filesystem::path& path,
   }
   ClearRosterGrid(grid);
   try {
-    LineReader reader(channel);
     std::string field;
-    for (; result.lines < kSlotCount; ++result.lines) ReadRow(reader, result.lines, field, grid);
+    for (; result.lines < kSlotCount; ++result.lines) ReadRow(channel, result.lines, field, grid);
     channel.Close();
   } catch (const OperationFailed&) {
     result.outcome = kEndedEarly;

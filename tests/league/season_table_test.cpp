@@ -70,25 +70,25 @@ TEST_F(LeagueTest, ColumnsAreFoundByTheirHeadsAndWhatIsMissingChangesNothing) {
 TEST_F(LeagueTest, WhatTheGameCannotHoldIsListedAndNothingIsWritten) {
   const std::string table =
       "Team,Slot,Name,P,#,Hand,Bt,Po\n"
-      "Braves,2,J.SM1TH,XX,,X,,\n"
+      "Braves,2,J..SMITH,XX,,X,,\n"
       "Braves,3,JSMITH,C,9,,10,10\n"
       "Braves,4,A.TOOLONGNAME,C,,,,\n"
       "Braves,5,O.K,1B,,,,\n"
-      "Braves,16,J.PE\xC3\x91"
-      "A,,,RX,,\n";
+      "Braves,16,\xC3\x91"
+      ".PEA,,,RX,,\n";
   const std::string no_room = "the game cannot hold it";
   const std::string name = "an initial, a period and up to 8 letters A to Z";
   // clang-format off
   const std::vector<std::array<std::string, 5>> refused = {
       {"4: Braves 4 D.BD", "Name", "A.TOOLONGNAME", "the name is too long", name},
-      {"2: Braves 2 B.BB", "Name", "J.SM1TH", "character 5 is no letter that the game has", name},
+      {"2: Braves 2 B.BB", "Name", "J..SMITH", "a second period stands in the name", name},
       {"2: Braves 2 B.BB", "P", "XX", no_room, "P, C, 1B, 2B, 3B, SS, LF, CF, RF, IF, OF, DH"},
       {"2: Braves 2 B.BB", "Hand", "X", no_room, "R, L or S"},
       {"3: Braves 3 C.BC", "Name", "JSMITH", "no period follows the initial", name},
       {"3: Braves 3 C.BC", "Bt", "10", "Bt and Po share a byte, and Po is not 1 to 9", "1 to 10"},
       {"3: Braves 3 C.BC", "Po", "10", no_room, "1 to 9"},
-      {"6: Braves 16 P.BP", "Name", "J.PE\xC3\x91" "A",
-       "character 5 is no letter that the game has", name},
+      {"6: Braves 16 P.BP", "Name", "\xC3\x91" ".PEA",
+       "character 1 is no letter that the game has", name},
       {"6: Braves 16 P.BP", "Hand", "RX", no_room,
        "R or L, alone or with S, S<, S>, < or > behind it"}};
   // clang-format on

@@ -39,20 +39,10 @@ class AnomalyTest : public TeamTest {
     }
   }
 
-  bool Loads(const char* key) {
-    Load(key);
-    return load.outcome == LoadResult::Outcome::kLoaded;
-  }
-  bool Exports() { return ExportTeamData(channel, kText, grid) == ExportResult::kWritten; }
-  bool Imports() {
-    return ImportTeamData(channel, kText, grid).outcome == ImportResult::Outcome::kRead;
-  }
-
   /// What has been read is there, even if the close fails then.
   [[nodiscard]] bool read_failed() const { return disk.failures > disk.failed_closes; }
 
   int access = 0;
-  bool succeeded = false;
 };
 
 TEST_F(AnomalyTest, IdentityCheck) {
@@ -83,9 +73,9 @@ TEST_F(AnomalyTest, Load) {
   Load("Braves");
   const std::vector<ByteAccess> reads = disk.reads;
   FailEachAccess(
-      [] {}, [this] { succeeded = Loads("Braves"); },
+      [] {}, [this] { Load("Braves"); },
       [this, &reads] {
-        EXPECT_EQ(succeeded, !read_failed());
+        EXPECT_EQ(load.outcome == LoadResult::Outcome::kLoaded, !read_failed());
         EXPECT_EQ(channel.is_open(), read_failed() && access > 1);
         EXPECT_TRUE(disk.writes.empty());
         // The first access opens the image; a read that fails is reported with its place.
@@ -122,9 +112,10 @@ TEST_F(AnomalyTest, Save) {
 TEST_F(AnomalyTest, Export) {
   std::string lines;
   for (int row = 0; row < 25; ++row) lines += ",,,,,,,,,,,,,,\r\n";
-  FailEachAccess([] {}, [this] { succeeded = Exports(); },
-                 [this, &lines] {
-                   EXPECT_EQ(succeeded, disk.failures == 0);
+  ExportResult exported{};
+  FailEachAccess([] {}, [&] { exported = ExportTeamData(channel, kText, grid); },
+                 [this, &lines, &exported] {
+                   EXPECT_EQ(exported == ExportResult::kWritten, disk.failures == 0);
                    const std::vector<std::uint8_t>& file = disk.files[kText];
                    EXPECT_TRUE(lines.starts_with(std::string(file.begin(), file.end())));
                    EXPECT_EQ(file.size() == lines.size(), !read_failed());
@@ -138,13 +129,16 @@ TEST_F(AnomalyTest, Import) {
   std::string lines;
   for (int row = 0; row < 25; ++row) lines += "A,\r\n";
   disk.files[kText].assign(lines.begin(), lines.end());
+  bool succeeded = false;
   FailEachAccess(
       [this] {
         ClearRosterGrid(grid);
         Type({{24, 2, "old"}});
       },
-      [this] { succeeded = Imports(); },
-      [this] {
+      [&] {
+        succeeded = ImportTeamData(channel, kText, grid).outcome == ImportResult::Outcome::kRead;
+      },
+      [&] {
         EXPECT_EQ(succeeded, !read_failed());
         EXPECT_TRUE(Text(1, 24) == "A" || !succeeded);
         EXPECT_EQ(channel.is_open(), read_failed() && access > 1);

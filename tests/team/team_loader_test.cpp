@@ -7,13 +7,6 @@ namespace {
 
 using TeamLoaderTest = TeamTest;
 
-TEST_F(TeamLoaderTest, KnowsWhatItHasRead) {
-  Load("Braves");
-  EXPECT_EQ(load.outcome, LoadResult::Outcome::kLoaded);
-  EXPECT_EQ(load.read.At(24, 16), 24);
-  EXPECT_EQ(load.read.At(24, 17), std::nullopt) << "a byte that no load reads";
-}
-
 TEST_F(TeamLoaderTest, BytesPastTheEndOfAShortImageShowAsZero) {
   file().resize(kBraves - 1 + 32 * 24 + 5);
   Load("Braves");
@@ -58,7 +51,7 @@ std::vector<FieldByte> Unknown(int offset, const FieldByte& other) {
 }
 
 // clang-format off
-const std::vector<LoaderCase> kNameCases = {
+const std::vector<LoaderCase> kLoaderCases = {
     {"NineLetters", {}, Name(3, {0x24, 0x0B, 0x0C, 0x0D, 0x0E, 0x0F, 0x10, 0x11, 0x23}),
      {{3, 1, "Z.ABCDEFGY"}, {4, 1, "E.BE"}}},
     {"NothingIsAPeriod", {}, Name(3, {}), {{3, 1, "."}, {4, 1, "E.BE"}}},
@@ -69,11 +62,10 @@ const std::vector<LoaderCase> kNameCases = {
     {"UnknownAfterABlankIsNothing", {}, Name(3, {0x1C, 0x0A, 0x25, 0x1D}), {{3, 1, "R.S"}}},
     {"FirstOfTheRunUnknown", {}, Name(0, {0xFF, 0x0C, 0x0D}), {{0, 1, "B.C"}}},
     {"UnknownAfterTheRowBefore", {}, {{3, 8, 0x24}, {4, 0, 0xFF}}, {{4, 1, "Z.BE"}}},
-    {"UnknownAfterAnotherTeam", {{24, 8, 0x24}}, {{0, 0, 0xFF}}, {{0, 1, "Z.BA"}}}};
+    {"UnknownAfterAnotherTeam", {{24, 8, 0x24}}, {{0, 0, 0xFF}}, {{0, 1, "Z.BA"}}},
 
-// What a codec keeps comes from the row before, from the last row of another team that was loaded,
-// and from rows of the other kind of player that the grid does not show.
-const std::vector<LoaderCase> kFieldCases = {
+    // What a codec keeps comes from the row before, from the last row of another team that was
+    // loaded, and from rows of the other kind of player that the grid does not show.
     {"Position", {{24, 9, 0x16}}, {{0, 9, 0xFF}, {3, 9, 0x11}}, {{0, 2, "OF"}, {3, 2, "LF"}}},
     {"FirstPositionOfTheRun", {}, {{0, 9, 0x18}}, {{0, 2, ""}}},
     {"Side", {{14, 13, 0x11}, {24, 13, 0x20}}, {{0, 13, 1}}, {{0, 4, "L"}}},
@@ -93,11 +85,10 @@ const std::vector<LoaderCase> kFieldCases = {
       {{15, 9, "2.56"}}},
     {"EarnedRunAverageOfAnotherTeam", {{24, 28, 0x00}, {24, 29, 0x21}}, {{15, 29, 0}},
      {{15, 9, "2.56"}}},
-    {"FirstEarnedRunAverageOfTheRun", {}, {{15, 29, 0}}, {{15, 9, "."}}}};
+    {"FirstEarnedRunAverageOfTheRun", {}, {{15, 29, 0}}, {{15, 9, "."}}},
 
-// One result serves all numbers, so the first unknown one of a pass shows the last of the pass
-// before it.
-const std::vector<LoaderCase> kNumberCases = {
+    // One result serves all numbers, so the first unknown one of a pass shows the last of the pass
+    // before it.
     {"FirstOfTheRun", {}, {{0, 10, 201}, {3, 10, 255}}, {{0, 3, ""}, {3, 3, "3"}}},
     {"UniformNumbersFollowAnotherTeam", {{24, 30, 76}}, {{0, 10, 201}}, {{0, 3, "76"}}},
     {"HomeRunsFollowUniformNumbers", {}, Unknown(26, {24, 10, 71}), {{0, 10, "71"}, {9, 10, "71"}}},
@@ -108,9 +99,7 @@ const std::vector<LoaderCase> kNumberCases = {
     {"PitchersFollowTheBattersOfThePass", {}, {{14, 30, 78}, {15, 30, 201}}, {{15, 11, "78"}}}};
 // clang-format on
 
-INSTANTIATE_TEST_SUITE_P(Names, TeamLoaderCase, ::testing::ValuesIn(kNameCases), kCaseName);
-INSTANTIATE_TEST_SUITE_P(Fields, TeamLoaderCase, ::testing::ValuesIn(kFieldCases), kCaseName);
-INSTANTIATE_TEST_SUITE_P(Numbers, TeamLoaderCase, ::testing::ValuesIn(kNumberCases), kCaseName);
+INSTANTIATE_TEST_SUITE_P(All, TeamLoaderCase, ::testing::ValuesIn(kLoaderCases), kCaseName);
 
 }  // namespace
 }  // namespace morlek

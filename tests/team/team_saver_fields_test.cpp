@@ -13,7 +13,7 @@ struct SaverCase {
 void PrintTo(const SaverCase& saver_case, std::ostream* out) { *out << saver_case.name; }
 
 // clang-format off
-const std::vector<SaverCase> kNames = {
+const std::vector<SaverCase> kSaverCases = {
     {"SmallLetters", {{0, 1, "j.smith"}}, Name(0, {0x14, 0x1D, 0x17, 0x13, 0x1E, 0x12})},
     {"AnythingForThePeriod", {{3, 1, "A1SM"}}, Name(3, {0x0B, 0x1D, 0x17})},
     {"InitialAlone", {{24, 1, "K"}}, Name(24, {0x15})},
@@ -29,10 +29,9 @@ const std::vector<SaverCase> kNames = {
     {"PeriodAloneRepeatsTheInitialBefore", {{3, 1, "."}}, Name(3, {0x0D})},
     {"FirstSurnameFollowsTheLastInitial", {{0, 1, "A..B"}}, Name(0, {0x0B, 0x23, 0x0C})},
     {"FirstInitialOfTheRunHasNoneBefore", {{0, 1, "1.A"}}, Name(0, {0x00, 0x0B})},
-    {"FirstPeriodOfTheSaveHasNoneBefore", {{0, 1, "."}}, Name(0, {})}};
+    {"FirstPeriodOfTheSaveHasNoneBefore", {{0, 1, "."}}, Name(0, {})},
 
-// A text that gives no byte repeats what its field had in the row before, or 0 in the first row.
-const std::vector<SaverCase> kRepeats = {
+    // A text that gives no byte repeats what its field had in the row before, or 0 in the first row.
     {"Position", {{0, 2, "x"}, {3, 2, "C"}, {4, 2, "SP"}, {5, 2, ""}, {6, 2, "LF "}},
      {{0, 9, 0}, {4, 9, 2}, {5, 9, kNotWritten}, {6, 9, 2}}},
     {"UniformNumber", {{2, 3, "07"}, {4, 3, "201"}, {6, 3, ""}, {7, 3, "7.0"}},
@@ -69,9 +68,8 @@ const std::vector<SaverCase> kRepeats = {
      {{2, 14, kNotWritten}, {3, 14, kNotWritten}, {2, 15, kNotWritten}, {3, 15, kNotWritten},
       {2, 16, 7}}},
     {"EmptyIsCarriedOver", {{2, 13, ""}, {3, 13, "x"}, {4, 14, ""}, {5, 14, "x"}},
-     {{3, 15, 0x41}, {5, 16, 0x03}}}};
+     {{3, 15, 0x41}, {5, 16, 0x03}}},
 
-const std::vector<SaverCase> kHands = {
     {"SFlag", {{15, 4, "rs"}, {16, 4, "R<S"}, {17, 4, ""}, {18, 4, "S"}, {19, 4, "XS"}},
      {{15, 17, 1}, {16, 17, 0}, {17, 17, 0}, {18, 17, 0}, {19, 17, 1}}},
     {"HandAndFace", {{15, 4, "rs<"}, {15, 12, "7"}, {16, 4, "L>"}, {16, 12, "1A"},
@@ -90,9 +88,8 @@ const std::vector<SaverCase> kHands = {
       {19, 21, 0x03},
       {20, 14, 0x34}, {20, 21, 0x03}, {21, 21, 0x13}}},
     {"UnknownMarks", {{15, 4, "RX"}, {17, 4, "R<S"}, {18, 4, ""}, {19, 4, "<"}},
-     {{15, 23, 0}, {17, 23, 0x20}, {18, 23, kNotWritten}, {19, 23, 0x20}}}};
+     {{15, 23, 0}, {17, 23, 0x20}, {18, 23, kNotWritten}, {19, 23, 0x20}}},
 
-const std::vector<SaverCase> kCounts = {
     {"Converted", {{2, 10, "045"}, {2, 11, "1e2"}, {16, 8, "2.5"}, {16, 10, "0.5"},
       {16, 11, "&H1F"}},
      {{2, 26, 45}, {2, 28, 100}, {16, 24, 2}, {16, 26, 0}, {16, 30, 31}}},
@@ -118,10 +115,7 @@ TEST_P(TeamSaverField, IsWritten) {
   ExpectWritten(GetParam().bytes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Repeats, TeamSaverField, ::testing::ValuesIn(kRepeats), kCaseName);
-INSTANTIATE_TEST_SUITE_P(Hands, TeamSaverField, ::testing::ValuesIn(kHands), kCaseName);
-INSTANTIATE_TEST_SUITE_P(Counts, TeamSaverField, ::testing::ValuesIn(kCounts), kCaseName);
-INSTANTIATE_TEST_SUITE_P(Names, TeamSaverField, ::testing::ValuesIn(kNames), kCaseName);
+INSTANTIATE_TEST_SUITE_P(All, TeamSaverField, ::testing::ValuesIn(kSaverCases), kCaseName);
 
 }  // namespace
 }  // namespace morlek

@@ -52,11 +52,8 @@ const std::vector<PastedCase> kBlocks = {
      {{CellOfArray(12, 0), "A"}, {CellOfArray(13, 0), "B"}, {CellOfArray(14, 0), "C"},
       {CellOfArray(12, 1), "A,B,C,4,5,6,7,8,9,10,11,12,13,"}}, {.cells = 10, .lines = 0}},
     // Beyond the right edge, and below the last row; what is empty loses nothing.
-    {CellOfArray(1, 24), "A" + std::string(14, '\t') + "x\t\ty\nB\t\tC\n\t\n",
-     {{CellOfArray(1, 24), "A"}, {CellOfArray(2, 24), ""}, {CellOfArray(3, 24), ""}, {CellOfArray(4, 24), ""},
-      {CellOfArray(5, 24), ""}, {CellOfArray(6, 24), ""}, {CellOfArray(7, 24), ""}, {CellOfArray(8, 24), ""},
-      {CellOfArray(9, 24), ""}, {CellOfArray(10, 24), ""}, {CellOfArray(11, 24), ""}, {CellOfArray(12, 24), ""},
-      {CellOfArray(13, 24), ""}, {CellOfArray(14, 24), ""}}, {.cells = 4, .lines = 1}}};
+    {CellOfArray(13, 24), "A" + std::string(14, '\t') + "x\t\ty\nB\t\tC\n\t\n",
+     {{CellOfArray(13, 24), "A"}, {CellOfArray(14, 24), ""}}, {.cells = 4, .lines = 1}}};
 // clang-format on
 
 TEST(PastedBlock, IsLaidRightAndDownAsItIsMeant) {

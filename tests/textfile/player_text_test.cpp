@@ -42,6 +42,7 @@ TEST(PlayerText, ComesBackAsItWent) {
 
 TEST(PlayerText, IsOneLineWithATextForEachColumn) {
   const std::string tabs(13, '\t');
+  EXPECT_TRUE(PlayerFromLine(kBatters, tabs + "\t")) << "nothing stands behind the last one";
   EXPECT_EQ(PlayerFromLine(kPitchers, "A\t\t\t\t3.5" + std::string(9, '\t'))->texts.at(4), "3.50");
   for (const std::string& text :
        {std::string(), tabs.substr(1), tabs + "\tx", tabs + "\n" + tabs, tabs + "\n\n"}) {
