@@ -12,7 +12,6 @@
 #include <functional>
 #include <utility>
 
-#include "shell/menu_bar.h"
 #include "ui/twips.h"
 
 namespace morlek {
@@ -77,7 +76,8 @@ class HelpTextBox : public QPlainTextEdit {
 
  protected:
   bool event(QEvent* event) override {
-    return !LeaveToMenu(*event) && QPlainTextEdit::event(event);
+    // The text editor would claim keys of the menus for itself.
+    return event->type() != QEvent::ShortcutOverride && QPlainTextEdit::event(event);
   }
 
   // The grid below is covered, so the tab key does not go there.
