@@ -50,8 +50,6 @@ void FitColumns(const QFileDialog& dialog) {
 std::optional<QString> DialogUser::Ask(QFileDialog::AcceptMode mode, const FileQuestion& question) {
   QFileDialog dialog(window_);
   dialog.setAcceptMode(mode);
-  // Whether a file can be opened is found out by opening it.
-  dialog.setFileMode(QFileDialog::AnyFile);
   if (mode == QFileDialog::AcceptSave) {
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setLabelText(QFileDialog::LookIn, "Save in:");
@@ -71,7 +69,6 @@ std::optional<QString> DialogUser::Ask(QFileDialog::AcceptMode mode, const FileQ
 
 bool DialogUser::AskYesNo(const QString& text, const QString& title) {
   QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, window_);
-  box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
 }

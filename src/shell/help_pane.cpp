@@ -68,9 +68,7 @@ class HelpTextBox : public QPlainTextEdit {
     setAccessibleName("help");
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setTabChangesFocus(true);
     document()->setDocumentMargin(10);
-    document()->setUndoRedoEnabled(false);
     ShowHeadings(*document());
   }
 
@@ -123,14 +121,12 @@ HelpPane::HelpPane(QWidget* parent)
   setGeometry(RectFromTwips(0, 0, 6615, 9495));
   setAutoFillBackground(true);
   text_->setGeometry(RectFromTwips(60, 60, 6495, 9375));
-  hide();
 }
 
 void HelpPane::Open() {
   if (isVisible()) return;
   focused_before_ = QApplication::focusWidget();
   show();
-  raise();
   // As if it were a menu: the box that had the focus keeps its selection.
   text_->setFocus(Qt::PopupFocusReason);
   emit Covered(true);
