@@ -112,12 +112,6 @@ void StanceView::Try(const std::optional<TriedPicture>& picture) {
   update();
 }
 
-void StanceView::ShowClub(const std::optional<ClubColors>& club) {
-  if (club == club_) return;
-  club_ = club;
-  update();
-}
-
 void StanceView::paintEvent(QPaintEvent* /*event*/) {
   constexpr qreal kRadius = 4;
   constexpr qreal kMargin = 2.5;
@@ -129,7 +123,7 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
   painter.setBrush(shades.tile);
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
   PaintStance(painter, parts.figure.adjusted(kMargin, kMargin, -kMargin, -kMargin),
-              WithTried(player_.codes, tried_), club_);
+              WithTried(player_.codes, tried_), player_.club);
 
   QPainterPath card;
   card.addRoundedRect(rect(), kRadius, kRadius);
@@ -139,8 +133,8 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
     painter.fillPath(card.intersected(part), color);
   };
   // The plate covers what the stripe's part has beyond its edge.
-  paint_part(parts.stripe, club_ ? club_->trim : shades.hover_ring);
-  paint_part(parts.plate, club_ ? club_->main : shades.fill);
+  paint_part(parts.stripe, player_.club ? player_.club->trim : shades.hover_ring);
+  paint_part(parts.plate, player_.club ? player_.club->main : shades.fill);
   painter.setPen(Qt::white);
   PaintWords(painter, parts.plate, player_);
 }

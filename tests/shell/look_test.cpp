@@ -1,6 +1,9 @@
 #include <QBackingStore>
 #include <QDir>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTimer>
+#include <QWindow>
 #include <iostream>
 
 #include "shell/dialog_user.h"
@@ -119,6 +122,13 @@ TEST_F(LookTest, FromTheEmptyWindowToTheHelp) {
   ExpectWindow("empty");
   ChooseWith("mnuOpen", ImagePath());
   ExpectWindow("opened");
+  QMimeData files;
+  files.setUrls({QUrl::fromLocalFile(ImagePath())});
+  QDragEnterEvent drag({9, 300}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(window->windowHandle(), &drag);
+  ExpectPart("labelDrop", "drop");
+  QDragLeaveEvent leave;
+  QApplication::sendEvent(window->windowHandle(), &leave);
   Click("Braves");
   Box(1, 7).setFocus();
   Box(1, 7).deselect();
@@ -133,6 +143,7 @@ TEST_F(LookTest, Choosers) {
   Click("Picture1(36)");
   ExpectPart("StancePanel", "faces");
   ExpectPart("Frame1", "player-in-view");
+  ExpectPart("StanceMark", "mark");
   Box(13, 17).setFocus();
   ExpectPart("StancePanel", "bodies");
   Box(14, 17).setFocus();

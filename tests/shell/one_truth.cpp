@@ -136,15 +136,16 @@ void OneTruth::ExpectFoot() const {
       << foot.toStdString();
   ASSERT_EQ(is_cut, Find("labelStatus").toolTip().startsWith(nameless + "\n"));
   ASSERT_EQ(LabelText("Label3").toStdString(), state().identity);
+  ASSERT_EQ(Find("Label3").accessibleDescription(), LabelText("Label3"));
 }
 
 void OneTruth::ExpectTeam() const {
   ASSERT_EQ(IsShown("Toolbar1"), !state().scene.place.image.empty());
   ASSERT_EQ(IsShown("Frame1"), state().scene.is_grid_shown);
   ASSERT_EQ(IsShown("labelHint"), !state().scene.is_grid_shown);
-  ASSERT_EQ(LabelText("labelHint"), state().scene.place.image.empty()
-                                        ? "Open a ROM with Ctrl+O"
-                                        : "Pick a team above, or press Ctrl+Page Down");
+  ASSERT_EQ(Find("labelHint").accessibleDescription(),
+            state().scene.place.image.empty() ? "Open a ROM with Ctrl+O"
+                                              : "Pick a team above, or press Ctrl+Page Down");
   const Team* team = state().scene.place.team;
   ASSERT_EQ(LabelText("Label4(0)"), team == nullptr ? "" : FromCodePage(team->display_name));
   for (const Team& each : kTeamDirectory) {
@@ -174,6 +175,10 @@ void OneTruth::ExpectFeatures() const {
     ASSERT_LE(marked, 1);
   }
   ASSERT_EQ(Find("StanceView").accessibleDescription(), TextOf(Column::kName));
+  const QWidget& mark = Find("StanceMark");
+  ASSERT_EQ(mark.isVisible(), state().scene.is_grid_shown && window->width() == 666);
+  const QRect row = Box(14, state().stance_row).geometry().translated(Find("Frame1").pos());
+  ASSERT_LE((mark.geometry().center() - row.center() - QPoint(21, 0)).manhattanLength(), 1);
 }
 
 /// What has been painted on the screen is what the whole window would paint now.

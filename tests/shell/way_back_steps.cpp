@@ -100,12 +100,14 @@ void WayBack::CommandPlayer(int place) {
   if (command == 0) {
     Press(Qt::Key_C, kBoth);
     copied = here;
+    EXPECT_TRUE(LabelText("labelStatus").contains("is copied"));
     Enter(RandomPlace());
     CommandPlayer(FocusedPlace());
   } else if (command < 3) {
     Press(command == 1 ? Qt::Key_V : Qt::Key_X, kBoth);
     PutPlayer(texts, row, *copied);
     if (command == 2) copied = here;
+    EXPECT_EQ(LabelText("labelStatus").contains("is copied"), command == 2);
     AddStep(texts);
     ExpectWholeTextIsNew(place, text);
   } else {
