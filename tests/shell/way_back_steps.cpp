@@ -160,8 +160,10 @@ void WayBack::WalkByKeys() {
   if (!marked.isEmpty()) marked << marked.first();
   const QString before = Focused();
   for (const int place : marked) {
+    boxes[place]->deselect();
     Press(Qt::Key_F8, backwards ? Qt::ShiftModifier : Qt::NoModifier);
     ASSERT_EQ(Focused(), boxes[place]->objectName()) << (backwards ? "backwards" : "forwards");
+    ASSERT_EQ(boxes[place]->selectedText(), boxes[place]->text());
     ASSERT_EQ(QToolTip::text(), boxes[place]->toolTip()) << "who comes by keys has no pointer";
   }
   if (marked.isEmpty()) {

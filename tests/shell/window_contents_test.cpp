@@ -72,10 +72,6 @@ TEST_F(WindowContentsTest, ColumnHeadsAndTheBoxesBelow) {
     EXPECT_LE(head.fontMetrics().horizontalAdvance(head.text()), head.width()) << index;
     ExpectToTake(*box, accepted);
   }
-  Box(1, 0).setText("A.B1");
-  const QString unknown_letter = Box(1, 0).toolTip();
-  Box(1, 0).setText("A.B.");
-  EXPECT_NE(Box(1, 0).toolTip(), unknown_letter) << "SAVE makes the same of both";
 }
 
 TEST_F(WindowContentsTest, NamesHintsAndTips) {
