@@ -43,9 +43,8 @@ QSize ContentArea::FitInto(int room) {
 void ContentArea::MoveFeet(QWidget* parent, int down) {
   for (const Foot& foot : feet_) {
     if (foot.widget->parentWidget() != parent) {
-      const bool is_hidden = foot.widget->isHidden();
       foot.widget->setParent(parent);
-      foot.widget->setHidden(is_hidden);
+      foot.widget->show();
     }
     foot.widget->move(foot.widget->x(), foot.top + down);
   }

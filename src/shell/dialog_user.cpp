@@ -29,9 +29,7 @@ void EvenOut(QMessageBox& box) {
     layout->setHorizontalSpacing(0);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   }
-  const int text_column = layout->columnCount() - 1;
-  layout->setColumnStretch(text_column, 1);
-  layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), text_column);
+  layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), layout->columnCount() - 1);
 }
 
 /// The toolkit's own dialog, where the system has none, truncates sizes and dates although it has
@@ -40,7 +38,6 @@ void FitColumns(const QFileDialog& dialog) {
   const auto* details = dialog.findChild<QTreeView*>("treeView");
   if (details == nullptr) return;
   QHeaderView& header = *details->header();
-  header.setStretchLastSection(false);
   header.setSectionResizeMode(QHeaderView::ResizeToContents);
   header.setSectionResizeMode(0, QHeaderView::Stretch);
 }
@@ -50,8 +47,6 @@ void FitColumns(const QFileDialog& dialog) {
 std::optional<QString> DialogUser::Ask(QFileDialog::AcceptMode mode, const FileQuestion& question) {
   QFileDialog dialog(window_);
   dialog.setAcceptMode(mode);
-  // Whether a file can be opened is found out by opening it.
-  dialog.setFileMode(QFileDialog::AnyFile);
   if (mode == QFileDialog::AcceptSave) {
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setLabelText(QFileDialog::LookIn, "Save in:");
@@ -71,7 +66,6 @@ std::optional<QString> DialogUser::Ask(QFileDialog::AcceptMode mode, const FileQ
 
 bool DialogUser::AskYesNo(const QString& text, const QString& title) {
   QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, window_);
-  box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
 }

@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QWindow>
 
-#include "shell/drop_text.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
 
@@ -18,7 +17,6 @@ DropGuide::DropGuide(const Editor& editor, const QWidget& content)
   setAccessibleName("what dropping the file does");
   setFont(theme::Font(kPixels, QFont::Bold));
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  hide();
   // A widget that does not accept a drag hears no more of it; its window does.
   window()->windowHandle()->installEventFilter(this);
 }
@@ -42,17 +40,13 @@ bool DropGuide::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void DropGuide::ShowFor(const QDropEvent& drag) {
-  const DropText text = DropTextOf(drag, editor_.state());
-  if (text.words.isEmpty()) return hide();
-  const bool is_new = isHidden() || text.words != this->text();
-  is_taken_ = text.is_taken;
-  setText(text.words);
-  setAccessibleDescription(text.words);
+  shown_ = DropTextOf(drag, editor_.state());
+  if (shown_.words.isEmpty()) return hide();
+  if (isVisible() && shown_.words == text()) return;
+  setText(shown_.words);
+  setAccessibleDescription(shown_.words);
   setGeometry(content_.geometry());
-  raise();
   show();
-  update();
-  if (!is_new) return;
   QAccessibleEvent alert(this, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
 }
@@ -62,7 +56,7 @@ void DropGuide::paintEvent(QPaintEvent* /*event*/) {
   constexpr float kVeil = 0.7F;
   constexpr QMargins kPadding(18, 14, 18, 14);
   const theme::Shades& shades = theme::ShadesOf(palette());
-  const QColor color = is_taken_ ? shades.accent : shades.lossy_mark;
+  const QColor color = shown_.is_taken ? shades.accent : shades.lossy_mark;
   QColor veil = shades.window;
   veil.setAlphaF(kVeil);
   QPainter painter(this);

@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "editor/editor.h"
+#include "shell/drop_text.h"
 
 namespace morlek {
 
@@ -25,7 +26,7 @@ class DropGuide : public QLabel {
 
   const Editor& editor_;
   const QWidget& content_;
-  bool is_taken_ = false;
+  DropText shown_;
 };
 
 }  // namespace morlek

@@ -13,20 +13,18 @@ namespace {
 
 /// "BOSTON RED SOX" as "Boston Red Sox".
 QString MixedCase(const QString& capitals) {
-  QString text = capitals.toLower();
-  for (qsizetype place = 0; place < text.size(); ++place) {
-    if (place == 0 || text[place - 1] == ' ') text[place] = text[place].toUpper();
-  }
-  return text;
+  QStringList words = capitals.toLower().split(' ');
+  for (QString& word : words) word.replace(0, 1, word.first(1).toUpper());
+  return words.join(' ');
 }
 
 QString WhatItDoes(const QString& path, const EditorState& state) {
   if (state.is_file_held) return "Nothing can be opened: a file is still open (Ctrl+O, Cancel)";
   const Scene& scene = state.scene;
   if (Editor::IsTeamFile(QFileInfo(path).filesystemFilePath())) {
-    const bool has_team = scene.is_grid_shown && scene.place.team != nullptr;
     return QString("Import into %1")
-        .arg(has_team ? MixedCase(FromCodePage(scene.place.team->display_name)) : "the grid");
+        .arg(scene.is_grid_shown ? MixedCase(FromCodePage(scene.place.team->display_name))
+                                 : "the grid");
   }
   const int changes = state.marks.modified_count();
   if (changes == 0) return "Open this image";

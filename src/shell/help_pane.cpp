@@ -12,7 +12,6 @@
 #include <functional>
 #include <utility>
 
-#include "shell/menu_bar.h"
 #include "ui/twips.h"
 
 namespace morlek {
@@ -69,15 +68,14 @@ class HelpTextBox : public QPlainTextEdit {
     setAccessibleName("help");
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setTabChangesFocus(true);
     document()->setDocumentMargin(10);
-    document()->setUndoRedoEnabled(false);
     ShowHeadings(*document());
   }
 
  protected:
   bool event(QEvent* event) override {
-    return !LeaveToMenu(*event) && QPlainTextEdit::event(event);
+    // The text editor would claim keys of the menus for itself.
+    return event->type() != QEvent::ShortcutOverride && QPlainTextEdit::event(event);
   }
 
   // The grid below is covered, so the tab key does not go there.
@@ -123,14 +121,12 @@ HelpPane::HelpPane(QWidget* parent)
   setGeometry(RectFromTwips(0, 0, 6615, 9495));
   setAutoFillBackground(true);
   text_->setGeometry(RectFromTwips(60, 60, 6495, 9375));
-  hide();
 }
 
 void HelpPane::Open() {
   if (isVisible()) return;
   focused_before_ = QApplication::focusWidget();
   show();
-  raise();
   // As if it were a menu: the box that had the focus keeps its selection.
   text_->setFocus(Qt::PopupFocusReason);
   emit Covered(true);

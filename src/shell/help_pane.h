@@ -13,7 +13,7 @@ class HelpPane : public QFrame {
   Q_OBJECT
 
  public:
-  /// The pane covers the grid area of its parent.
+  /// The pane covers the grid area of its parent, which is visible, and all that stands there.
   explicit HelpPane(QWidget* parent);
 
   /// Shows the pane and gives it the keyboard, so that it can be scrolled; does nothing if it is

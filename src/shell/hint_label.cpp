@@ -29,28 +29,27 @@ HintLabel::HintLabel(const QRect& area, QWidget* parent) : QLabel(parent) {
   setGeometry(place);
   setFont(theme::Font(kWordsPixels));
   setAttribute(Qt::WA_Hover);
-  setCursor(Qt::PointingHandCursor);
-  Say(kAskForImage);
+  Ask(true);
 }
 
 void HintLabel::Show(const EditorState& state) {
-  const bool asks_for_image = state.scene.place.image.empty();
-  if (asks_for_image != asks_for_image_) {
-    asks_for_image_ = asks_for_image;
-    setCursor(asks_for_image ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    Say(asks_for_image ? kAskForImage : kAskForTeam);
-  }
+  const bool for_image = state.scene.place.image.empty();
+  if (for_image != AsksForImage()) Ask(for_image);
   setVisible(!state.scene.is_grid_shown);
 }
 
-void HintLabel::Say(const QString& words) {
+bool HintLabel::AsksForImage() const { return text() == kAskForImage; }
+
+void HintLabel::Ask(bool for_image) {
+  const QString words = for_image ? kAskForImage : kAskForTeam;
+  setCursor(for_image ? Qt::PointingHandCursor : Qt::ArrowCursor);
   setText(words);
   setAccessibleDescription(words);
 }
 
 void HintLabel::mouseReleaseEvent(QMouseEvent* event) {
   const bool is_click = event->button() == Qt::LeftButton && rect().contains(event->pos());
-  if (asks_for_image_ && is_click) emit OpenRequested();
+  if (AsksForImage() && is_click) emit OpenRequested();
 }
 
 void HintLabel::paintEvent(QPaintEvent* /*event*/) {
@@ -63,10 +62,10 @@ void HintLabel::paintEvent(QPaintEvent* /*event*/) {
     painter.drawPixmap(icon.topLeft(), QApplication::windowIcon().pixmap(kIconSide, kIconSide));
   }
   QFont words = font();
-  words.setUnderline(asks_for_image_ && underMouse());
+  words.setUnderline(AsksForImage() && underMouse());
   painter.setFont(words);
   const theme::Shades& shades = theme::ShadesOf(palette());
-  painter.setPen(asks_for_image_ ? shades.accent : shades.header_text);
+  painter.setPen(AsksForImage() ? shades.accent : shades.header_text);
   painter.drawText(rect().adjusted(0, kIconSide + kWordsGap, 0, 0), Qt::AlignCenter, text());
 }
 

@@ -27,9 +27,9 @@ class HintLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void Say(const QString& words);
-
-  bool asks_for_image_ = true;
+  /// Asks for an image, else for a team.
+  void Ask(bool for_image);
+  [[nodiscard]] bool AsksForImage() const;
 };
 
 }  // namespace morlek

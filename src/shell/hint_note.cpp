@@ -33,7 +33,6 @@ HintNote::HintNote(const QRect& area, QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   setForegroundRole(QPalette::PlaceholderText);
-  hide();
 }
 
 void HintNote::Show(const EditorState& state) {
@@ -44,7 +43,7 @@ void HintNote::Show(const EditorState& state) {
   }
   setText(words);
   setAccessibleDescription(words);
-  setVisible(state.scene.place.image.empty() && !state.scene.is_grid_shown);
+  setVisible(state.scene.place.image.empty());
 }
 
 }  // namespace morlek

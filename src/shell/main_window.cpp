@@ -44,6 +44,10 @@ std::optional<QString> AskForImage(User& user) {
   return user.AskOpenPath({"Open Dale Harrow Jr. Baseball Rom", "SNES File (*.smc)|*.smc"});
 }
 
+std::optional<QString> AskForTeam(User& user) {
+  return user.AskOpenPath({"Open Dale Harrow Jr. Baseball Team Data", kTeamDataFilter});
+}
+
 void ShowAbout(User& user) {
   const QString text =
       "MORLEK EDITOR for SNES Dale Harrow Baseball.\n"
@@ -59,7 +63,6 @@ MainWindow::MainWindow(Editor& editor, User& user)
     : editor_(editor), user_(user), menus_(new MenuBar(this)) {
   setObjectName("Form1");
   setWindowTitle(kProgramTitle);
-  setAccessibleName(kProgramTitle);
   setMenuBar(menus_);
   connect(menus_, &MenuBar::Chosen, this, &MainWindow::Run);
   BuildContent();
@@ -101,8 +104,6 @@ void MainWindow::BuildContent() {
   connect(toolbar_, &TeamToolbar::TeamPicked, this, [this](auto key) { editor_.LoadTeam(key); });
   connect(toolbar_, &TeamToolbar::StepRequested, this,
           [this](int places) { editor_.LoadTeamBeside(places); });
-
-  identity_->raise();
 }
 
 void MainWindow::AddIdentity() {
@@ -117,8 +118,6 @@ void MainWindow::AddIdentity() {
 
 void MainWindow::AddRoster() {
   roster_ = new RosterFrame(editor_, content_);
-  roster_->stackUnder(identity_);
-  status_->raise();
   connect(roster_, &RosterFrame::SaveRequested, this, [this] {
     // A button that is hidden or behind a dialog can still be pressed by an assistive tool.
     if (editor_.state().scene.is_grid_shown && IsListening()) editor_.Save();
@@ -130,10 +129,12 @@ void MainWindow::AddRoster() {
   });
 
   stances_ = new StancePanel(content_);
-  stances_->stackUnder(identity_);
   connect(stances_, &StancePanel::Picked, this,
           [this](Column feature, const std::string& code) { editor_.Pick(feature, code); });
   stances_->show();
+  // Both stand over the foot of the grid.
+  identity_->raise();
+  status_->raise();
   stance_mark_ = new StanceMark(*roster_, content_);
 
   subscription_ = editor_.Subscribe(
@@ -168,7 +169,6 @@ void MainWindow::FitToScreen() {
   const int borders = frameGeometry().height() - height();
   const int room = screen()->availableGeometry().height() - borders - menu_height;
   setFixedSize(area_->FitInto(room) + QSize(0, menu_height));
-  if (!isVisible()) return;
   // The part by which the window has grown must not be beyond the desktop.
   const QRect desktop = screen()->availableVirtualGeometry();
   const int beyond = frameGeometry().right() - desktop.right();
@@ -183,7 +183,7 @@ void MainWindow::Run(Command command) {
   if (!IsListening()) return;
   switch (command) {
     case Command::kOpen:
-      OpenAnotherImage();
+      if (const auto path = PathIn(AskForImage(user_))) editor_.OpenAnotherImage(*path);
       break;
     case Command::kQuit:
       if (user_.AskYesNo("Are you sure you want to quit MORLEK EDITOR?\n\nIf not then click NO.",
@@ -195,7 +195,7 @@ void MainWindow::Run(Command command) {
       ShowAbout(user_);
       break;
     case Command::kImport:
-      ImportTeam();
+      if (const auto path = PathIn(AskForTeam(user_))) editor_.ImportTeam(*path);
       break;
     case Command::kExport:
       ExportTeam();
@@ -204,10 +204,8 @@ void MainWindow::Run(Command command) {
       editor_.Minimize();
       break;
     case Command::kAlwaysOnTop:
-      SetAlwaysOnTop(true);
-      break;
     case Command::kNotOnTop:
-      SetAlwaysOnTop(false);
+      SetAlwaysOnTop(command == Command::kAlwaysOnTop);
       break;
     case Command::kHelp:
       OpenHelp();
@@ -223,40 +221,24 @@ void MainWindow::OpenFirstImage() {
   editor_.OpenFirstImage(ToPath(path));
 }
 
-void MainWindow::OpenAnotherImage() {
-  if (const auto path = AskForImage(user_)) {
-    editor_.OpenAnotherImage(ToPath(*path));
-  } else {
-    editor_.CancelDialog();
-  }
-}
-
-void MainWindow::ImportTeam() {
-  if (const auto path =
-          user_.AskOpenPath({"Open Dale Harrow Jr. Baseball Team Data", kTeamDataFilter})) {
-    editor_.ImportTeam(ToPath(*path));
-  } else {
-    editor_.CancelDialog();
-  }
+std::optional<std::filesystem::path> MainWindow::PathIn(const std::optional<QString>& answer) {
+  if (answer) return ToPath(*answer);
+  editor_.CancelDialog();
+  return std::nullopt;
 }
 
 void MainWindow::ExportTeam() {
-  if (const auto path =
-          user_.AskSavePath({"Save Dale Harrow Jr. Baseball Team Data", kTeamDataFilter})) {
-    if (editor_.ExportTeam(ToPath(*path)) != ExportResult::kWritten) return;
-    user_.ShowMessage("Your team data has been saved to " + QDir::toNativeSeparators(*path),
-                      kProgramTitle, Message::Icon::kNone);
-  } else {
-    editor_.CancelDialog();
-  }
+  const auto answer =
+      user_.AskSavePath({"Save Dale Harrow Jr. Baseball Team Data", kTeamDataFilter});
+  const auto path = PathIn(answer);
+  if (!path || editor_.ExportTeam(*path) != ExportResult::kWritten) return;
+  user_.ShowMessage("Your team data has been saved to " + QDir::toNativeSeparators(*answer),
+                    kProgramTitle, Message::Icon::kNone);
 }
 
 void MainWindow::SetAlwaysOnTop(bool on_top) {
-  if (on_top) {
-    clsOnTop::MakeTopmost(*windowHandle());
-  } else {
-    clsOnTop::MakeNotTopmost(*windowHandle());
-  }
+  const auto set = on_top ? clsOnTop::MakeTopmost : clsOnTop::MakeNotTopmost;
+  set(*windowHandle());
   menus_->OfferOnTop(!on_top);
 }
 

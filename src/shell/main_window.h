@@ -53,8 +53,8 @@ class MainWindow : public QMainWindow {
 
   void Run(Command command);
   void OpenFirstImage();
-  void OpenAnotherImage();
-  void ImportTeam();
+  /// The path that a dialog gave; nothing when it was cancelled, which is a step of its own.
+  std::optional<std::filesystem::path> PathIn(const std::optional<QString>& answer);
   void ExportTeam();
   void SetAlwaysOnTop(bool on_top);
   void OpenHelp();

@@ -69,6 +69,13 @@ QString NameOf(const RefusedFile& file) {
   return QString::fromStdU16String(file.path.filename().u16string());
 }
 
+/// The import that ended early in the last step; null if there was none.
+const ImportResult* EarlyEnd(const EditorState& state) {
+  const auto* import = std::get_if<ImportResult>(&state.outcome);
+  if (import == nullptr || import->outcome != ImportResult::Outcome::kEndedEarly) return nullptr;
+  return import;
+}
+
 QString LinesRead(int lines) { return QString("%1 of %2 lines read").arg(lines).arg(kSlotCount); }
 
 QString TextOf(std::monostate /*nothing*/, const EditorState& /*state*/) { return {}; }
@@ -136,22 +143,16 @@ QString SummaryOf(const GridMarks& marks) {
 }
 
 QString NoteOf(const EditorState& state) {
-  if (const auto* import = std::get_if<ImportResult>(&state.outcome)) {
-    if (import->outcome == ImportResult::Outcome::kEndedEarly) {
-      return LinesRead(import->lines);
-    }
-  }
-  if (const auto* paste = std::get_if<PasteResult>(&state.outcome)) {
-    if (paste->cells > 0) {
-      return Counted(paste->cells, "cell found no place", "cells found no place");
-    }
+  if (const auto* import = EarlyEnd(state)) return LinesRead(import->lines);
+  const auto* paste = std::get_if<PasteResult>(&state.outcome);
+  if (paste != nullptr && paste->cells > 0) {
+    return Counted(paste->cells, "cell found no place", "cells found no place");
   }
   return std::visit([&state](const auto& note) { return TextOf(note, state); }, state.note);
 }
 
 QString DetailsOf(const EditorState& state) {
-  const auto* import = std::get_if<ImportResult>(&state.outcome);
-  if (import != nullptr && import->outcome == ImportResult::Outcome::kEndedEarly) {
+  if (const auto* import = EarlyEnd(state)) {
     const QString line_ends =
         import->lines <= 1 ? " Perhaps its lines end in LF alone: they have to end in CR LF." : "";
     return QString(

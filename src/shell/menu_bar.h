@@ -3,8 +3,6 @@
 #include <QMenuBar>
 #include <map>
 
-class QEvent;
-
 namespace morlek {
 
 /// What a menu item does.
@@ -37,10 +35,5 @@ class MenuBar : public QMenuBar {
  private:
   std::map<Command, QAction*> items_;
 };
-
-/// True when the event asks a text box whether it wants a menu item's shortcut key for itself. The
-/// event is then ignored, and the box has to return false for it. Otherwise line and text editors
-/// would take Ctrl+A and Ctrl+E.
-[[nodiscard]] bool LeaveToMenu(QEvent& event);
 
 }  // namespace morlek

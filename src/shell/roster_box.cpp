@@ -11,7 +11,6 @@
 #include "shell/code_page_text.h"
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"
-#include "shell/menu_bar.h"
 #include "ui/dropped_file.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
@@ -40,16 +39,12 @@ RosterBox::RosterBox(Cell cell, const QValidator& validator, QWidget* parent)
     setTextMargins(-2, 0, -4, 0);
     setAlignment(Qt::AlignCenter);
   }
-  setMaxLength(kLongestText);
   setValidator(&validator);
 }
 
 void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
-  const bool recolored = mark.is_modified != mark_.is_modified;
-  const bool looks_same = !recolored && mark.is_lossy == mark_.is_lossy;
   mark_ = mark;
-  if (looks_same && tip == accessibleDescription()) return;
-  if (recolored) ColorText();
+  ColorText();
   setToolTip(PlainTip(tip));
   setAccessibleDescription(tip);
   update();
@@ -80,21 +75,18 @@ QColor RosterBox::Background() const {
   if (hasFocus()) return shades.base;
   if (tint_ == Tint::kStanceRow) return shades.stance_row;
   if (tint_ == Tint::kFocusRow) return shades.focus_row;
-  const bool is_odd = (cell_.row - BlockOf(cell_.row).first_row) % 2 != 0;
+  const bool is_odd = cell_.row % 2 != BlockOf(cell_.row).first_row % 2;
   return is_odd ? shades.odd_row : shades.base;
 }
 
 void RosterBox::paintEvent(QPaintEvent* event) {
   ValueEdit::paintEvent(event);
-  // The margins let a text that is too long run over the lines.
-  if (fontMetrics().horizontalAdvance(text()) > width() - 2) {
-    QPainter painter(this);
-    PaintFrame(painter, Qt::transparent);
-  }
-  // The focus ring covers the box and paints the marks itself.
-  if (hasFocus() || !mark_.is_marked()) return;
   QPainter painter(this);
-  PaintMarks(painter);
+  // The margins let a text that is too long run over the lines.
+  const bool is_too_long = fontMetrics().horizontalAdvance(text()) > width() - 2;
+  if (is_too_long) PaintFrame(painter, Qt::transparent);
+  // The focus ring covers the box and paints the marks itself.
+  if (!hasFocus()) PaintMarks(painter);
 }
 
 void RosterBox::PaintMarks(QPainter& painter) const {
@@ -135,18 +127,14 @@ void RosterBox::PaintCorner(QPainter& painter) const {
 }
 
 bool RosterBox::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
-    auto* key = static_cast<QKeyEvent*>(event);
-    // Both are the whole grid's, not the line editor's own.
-    if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) return false;
-  }
-  return !LeaveToMenu(*event) && ValueEdit::event(event);
+  // The line editor would claim keys of the menus, and those of undo and redo, for itself.
+  return event->type() != QEvent::ShortcutOverride && ValueEdit::event(event);
 }
 
 void RosterBox::changeEvent(QEvent* event) {
   ValueEdit::changeEvent(event);
   // The desktop has turned dark or light.
-  if (event->type() == QEvent::PaletteChange && mark_.is_modified) ColorText();
+  if (event->type() == QEvent::PaletteChange) ColorText();
 }
 
 void RosterBox::dragEnterEvent(QDragEnterEvent* event) {
@@ -170,8 +158,7 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
   if (event->modifiers().testFlag(Qt::AltModifier) &&
       !event->modifiers().testFlag(Qt::ControlModifier)) {
     // Meant for a menu, and no text, as the line editor would take it. (With Ctrl it is AltGr.)
-    event->ignore();
-    return;
+    return event->ignore();
   }
   const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   const bool is_return = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -197,10 +184,7 @@ void RosterBox::keyPressEvent(QKeyEvent* event) {
 
 void RosterBox::mouseReleaseEvent(QMouseEvent* event) {
   const auto clipboard = PastingClipboard(*event);
-  if (!clipboard || is_swallowing_press()) {
-    ValueEdit::mouseReleaseEvent(event);
-    return;
-  }
+  if (!clipboard || is_swallowing_press()) return ValueEdit::mouseReleaseEvent(event);
   deselect();
   PasteFrom(*clipboard);
 }

@@ -5,7 +5,6 @@
 #include <QFocusFrame>
 #include <QLabel>
 #include <QPainter>
-#include <QPointer>
 #include <QShortcut>
 #include <QToolTip>
 #include <utility>
@@ -27,6 +26,8 @@ namespace {
 /// The gap above the band of a block's headers, in logical pixels, which separates the blocks.
 constexpr int kHeaderGap = 4;
 
+constexpr int kNoRow = -1;
+
 /// A ring in the accent colour around the box of a grid that has the focus, above its neighbours;
 /// hidden when no box has it. A child of the widget that holds the boxes, made after them. Mouse,
 /// drops and assistive tools reach the box through it: the toolkit's own frame of the focus is no
@@ -37,27 +38,24 @@ class FocusRing : public QFocusFrame {
     setAccessibleName("ring of the focus");
     hide();
     connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget* /*old*/, QWidget* focused) { Follow(focused); });
+            [this](const QWidget* /*old*/, const QWidget* focused) { Follow(focused); });
   }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
-    if (!box_) return;
     QPainter painter(this);
     FrameSnapped(painter, rect(), 2, theme::ShadesOf(palette()).accent);
     box_->PaintMarks(painter);
   }
 
  private:
-  void Follow(QWidget* focused) {
-    const auto* box = qobject_cast<RosterBox*>(focused);
-    const bool is_here = box != nullptr && box->parentWidget() == parentWidget();
-    box_ = is_here ? box : nullptr;
-    if (is_here) setGeometry(box->geometry());
-    setVisible(is_here);
+  void Follow(const QWidget* focused) {
+    box_ = qobject_cast<const RosterBox*>(focused);
+    if (box_ != nullptr) setGeometry(box_->geometry());
+    setVisible(box_ != nullptr);
   }
 
-  QPointer<const RosterBox> box_;
+  const RosterBox* box_ = nullptr;  // null while the ring is hidden
 };
 
 }  // namespace
@@ -88,7 +86,7 @@ void RosterFrame::ShowVisible(bool shown) {
   if (!shown) {
     // A hidden widget that kept the focus would still receive keys.
     QWidget* focused = window()->focusWidget();
-    if (focused != nullptr && isAncestorOf(focused)) focused->clearFocus();
+    if (isAncestorOf(focused)) focused->clearFocus();
   }
   setVisible(shown);
 }
@@ -126,30 +124,31 @@ void RosterFrame::ShowMarks(const EditorState& state, const StateChange& change)
 void RosterFrame::ShowMark(const EditorState& state, Cell cell) {
   RosterBox& box = BoxAt(cell);
   // A tip that came by F8 has no pointer that leaves.
-  if (QToolTip::isVisible() && QToolTip::text() == box.toolTip()) QToolTip::hideText();
+  if (QToolTip::text() == box.toolTip()) QToolTip::hideText();
   box.ShowMark(state.marks.At(cell), TipOf(state, cell));
 }
 
 void RosterFrame::ShowTints() {
   using enum RosterBox::Tint;
   const EditorState& state = editor_.state();
-  TintedRows rows{focus_row_, std::nullopt};
-  if (state.layout == Layout::kWide) rows.stance = state.stance_row;
-  if (rows == std::exchange(tinted_rows_, rows)) return;
+  const int stance_row = state.layout == Layout::kWide ? state.stance_row : kNoRow;
   for (const Cell cell : kAllCells) {
-    BoxAt(cell).SetTint(cell.row == rows.focus    ? kFocusRow
-                        : cell.row == rows.stance ? kStanceRow
-                                                  : kNone);
+    BoxAt(cell).SetTint(cell.row == focus_row_   ? kFocusRow
+                        : cell.row == stance_row ? kStanceRow
+                                                 : kNone);
   }
 }
 
-RosterBox* RosterFrame::FocusedBox() const {
-  QWidget* focused = window()->focusWidget();
-  return focused != nullptr && isAncestorOf(focused) ? qobject_cast<RosterBox*>(focused) : nullptr;
+std::optional<Cell> RosterFrame::FocusedCell() const {
+  const RosterBox* focused = FocusedBox();
+  return focused == nullptr ? std::nullopt : std::optional(focused->cell());
 }
 
-void RosterFrame::paintEvent(QPaintEvent* event) {
-  QFrame::paintEvent(event);
+RosterBox* RosterFrame::FocusedBox() const {
+  return qobject_cast<RosterBox*>(window()->focusWidget());
+}
+
+void RosterFrame::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QColor color = theme::ShadesOf(palette()).header_band;
   for (const BlockLayout& layout : kBlockLayouts) {
@@ -188,7 +187,6 @@ void RosterFrame::AddHeaders(const BlockLayout& layout) {
 void RosterFrame::AddBox(Cell cell) {
   auto* box = new RosterBox(cell, code_page_, this);
   boxes_.at(IndexOf(cell)) = box;
-  box->setText(FromCodePage(editor_.state().grid.Text(cell)));
   connect(box, &RosterBox::textChanged, this, [this, box, cell] {
     // Not the signal's text, from which the box may have taken line breaks by now.
     editor_.Type(cell, ToCodePage(box->text()));
@@ -234,7 +232,6 @@ void RosterFrame::AddKeys() {
   const auto add = [this](const QString& caption, const QList<QKeySequence>& keys, auto run) {
     auto* action = new QAction(caption, this);
     action->setShortcuts(keys);
-    action->setEnabled(false);
     connect(action, &QAction::triggered, this, run);
     addAction(action);
     // Another team can be taken back while no grid is shown.
@@ -252,10 +249,7 @@ void RosterFrame::AddKeys() {
           [this] { GoToLossy(false); });
   connect(new QShortcut(Qt::SHIFT | Qt::Key_F8, this), &QShortcut::activated, this,
           [this] { GoToLossy(true); });
-  players_ = new PlayerCommands(editor_, *this, [this]() -> std::optional<Cell> {
-    const RosterBox* focused = FocusedBox();
-    return focused == nullptr ? std::nullopt : std::optional(focused->cell());
-  });
+  players_ = new PlayerCommands(editor_, *this, [this] { return FocusedCell(); });
   connect(players_, &PlayerCommands::Moved, this,
           [this](Cell cell) { BoxAt(cell).setFocus(Qt::OtherFocusReason); });
 }
@@ -271,10 +265,7 @@ void RosterFrame::GoTo(std::optional<Cell> cell) {
 }
 
 void RosterFrame::GoToLossy(bool backwards) {
-  const RosterBox* focused = FocusedBox();
-  const std::optional<Cell> from =
-      focused == nullptr ? std::nullopt : std::optional(focused->cell());
-  const std::optional<Cell> cell = editor_.state().marks.NextLossy(from, backwards);
+  const std::optional<Cell> cell = editor_.state().marks.NextLossy(FocusedCell(), backwards);
   GoTo(cell);
   if (!cell) return;
   // With the keyboard there is no pointer to rest on the box.

@@ -24,7 +24,7 @@ class RosterFrame : public QFrame {
   Q_OBJECT
 
  public:
-  /// Hidden until a team is shown. The editor outlives the frame.
+  /// Hidden until a team is shown. The editor, whose grid is empty yet, outlives the frame.
   RosterFrame(Editor& editor, QWidget* parent);
 
   /// Shows the current state.
@@ -54,8 +54,9 @@ class RosterFrame : public QFrame {
   void GoToLossy(bool backwards);
 
   [[nodiscard]] RosterBox& BoxAt(Cell cell) const { return *boxes_.at(IndexOf(cell)); }
-  /// The box with the focus, or null.
+  /// The box with the focus, or null, and its cell.
   [[nodiscard]] RosterBox* FocusedBox() const;
+  [[nodiscard]] std::optional<Cell> FocusedCell() const;
 
   void ShowVisible(bool shown);
   void ShowTexts(const StateChange& change);
@@ -73,12 +74,6 @@ class RosterFrame : public QFrame {
   std::array<RosterBox*, kCellCount> boxes_{};
   // Whether each box shows a mark, by the index of its cell.
   std::bitset<kCellCount> marked_;
-  struct TintedRows {
-    std::optional<int> focus;
-    std::optional<int> stance;
-    friend bool operator==(const TintedRows&, const TintedRows&) = default;
-  };
-  TintedRows tinted_rows_;
   std::optional<int> focus_row_;
 };
 

@@ -26,7 +26,6 @@ class SplashPicture : public QAbstractButton {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     PaintSplash(painter, rect());
   }
 };

@@ -19,15 +19,17 @@ constexpr int kTop = 26;
 constexpr int kTileGap = 2;
 constexpr QSize kCheckSize(7, 6);
 
-/// The size of a chooser's tiles. The few legs have room for higher ones, with the code below.
-QSize TileSize(StancePiece piece) {
-  return piece == StancePiece::kLegs ? QSize(50, 68) : QSize(50, 41);
-}
+/// A tile of a chooser, and in it the picture: a square, as large as the tile allows.
+struct Tile {
+  QSize size;
+  QRectF picture;
+  int code_pixels;
+};
 
-/// The part of a tile of this size that shows the picture: a square, as large as the tile allows.
-QRectF PictureArea(const QSize& tile) {
-  return tile.height() > tile.width() ? QRectF(2, 4, tile.width() - 4, tile.width() - 4)
-                                      : QRectF(2, 1, tile.height() - 2, tile.height() - 2);
+/// The few legs have room for higher tiles, with the code below.
+Tile TileOf(StancePiece piece) {
+  if (piece == StancePiece::kLegs) return {{50, 68}, {2, 4, 46, 46}, 11};
+  return {{50, 41}, {2, 1, 39, 39}, 9};
 }
 
 void PaintCheck(QPainter& painter, const QPointF& top_left, const QColor& color) {
@@ -53,7 +55,7 @@ class StancePicture : public MarkedButton {
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
     setMouseTracking(true);
-    const QSize size = TileSize(kind.piece);
+    const QSize size = TileOf(piece_).size;
     setGeometry(QRect(QPoint(kLeft + (size.width() + kTileGap) * (index / kPictureRows),
                              kTop + (size.height() + kTileGap) * (index % kPictureRows)),
                       size));
@@ -72,7 +74,7 @@ class StancePicture : public MarkedButton {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     constexpr qreal kRadius = 4;
-    const int code_pixels = height() > width() ? 11 : 9;
+    const auto [size, picture, code_pixels] = TileOf(piece_);
     const theme::Shades& shades = theme::ShadesOf(palette());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -85,7 +87,7 @@ class StancePicture : public MarkedButton {
     const QRectF tile = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
     painter.drawRoundedRect(tile, kRadius, kRadius);
 
-    PaintPiece(painter, PictureArea(size()), piece_, code_);
+    PaintPiece(painter, picture, piece_, code_);
 
     painter.setPen(marked ? shades.marked_tile_text : shades.tile_faint_text);
     painter.setFont(theme::Font(code_pixels, marked ? QFont::Bold : QFont::Normal));
@@ -111,7 +113,6 @@ StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent)
 
   auto* title = new QLabel(kind.title, this);
   title->setObjectName(kind.label_name);
-  title->setAccessibleName(kind.title);
   title->setToolTip(kind.tool_tip);
   title->setFont(theme::Font(kTitlePixels, QFont::Bold));
   title->move(kLeft, 5);
@@ -128,14 +129,11 @@ StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent)
 }
 
 void StanceChooser::Mark(std::optional<int> code) {
-  if (code == std::exchange(marked_, code)) return;
   for (StancePicture* picture : pictures_) picture->SetMarked(code == picture->code());
 }
 
 void StanceChooser::ShowFitting(std::optional<int> other_code) {
-  if (other_code == std::exchange(fitted_, other_code)) return;
-  const bool shows =
-      kind_.fitting != nullptr && other_code && PictureCodesOf(kind_.piece).Contains(*other_code);
+  const bool shows = other_code && PictureCodesOf(kind_.piece).Contains(*other_code);
   for (StancePicture* picture : pictures_) {
     const bool fits = shows && HaveOneSkin(picture->code(), *other_code);
     picture->SetCheck(fits ? kind_.fitting : QString());
@@ -144,25 +142,23 @@ void StanceChooser::ShowFitting(std::optional<int> other_code) {
 }
 
 bool StanceChooser::eventFilter(QObject* watched, QEvent* event) {
-  const auto* picture = dynamic_cast<const StancePicture*>(watched);
-  if (picture != nullptr && event->type() == QEvent::MouseMove) {
+  if (event->type() == QEvent::MouseMove) {
+    const auto& picture = dynamic_cast<const StancePicture&>(*watched);
     // A button that is held down follows the pointer beyond its edge.
-    const bool is_inside = picture->rect().contains(static_cast<QMouseEvent*>(event)->pos());
-    emit PointedAt(is_inside ? std::optional<int>(picture->code()) : std::nullopt);
+    const bool is_inside = picture.rect().contains(static_cast<QMouseEvent*>(event)->pos());
+    emit PointedAt(is_inside ? std::optional<int>(picture.code()) : std::nullopt);
   } else if (event->type() == QEvent::Leave || event->type() == QEvent::Hide) {
     emit PointedAt(std::nullopt);
   }
   return QFrame::eventFilter(watched, event);
 }
 
-void StanceChooser::paintEvent(QPaintEvent* event) {
-  QFrame::paintEvent(event);
+void StanceChooser::paintEvent(QPaintEvent* /*event*/) {
   if (!shows_fitting_) return;
   constexpr int kPixels = 11;
   constexpr int kGap = 5;
   const QColor color = theme::ShadesOf(palette()).faint_text;
-  const int right = pictures_.back()->geometry().right();
-  const QRect words(0, 5, right + 1, 16);
+  const QRect words({0, 5}, QPoint(pictures_.back()->geometry().right(), 20));
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setFont(theme::Font(kPixels));

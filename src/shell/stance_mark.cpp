@@ -19,7 +19,6 @@ StanceMark::StanceMark(const QWidget& grid, QWidget* parent)
   setObjectName("StanceMark");
   setAccessibleName("mark of the player in view");
   resize(kMarkSize);
-  hide();
 }
 
 void StanceMark::Show(const EditorState& state) {

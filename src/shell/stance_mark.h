@@ -11,7 +11,7 @@ class StanceMark : public QWidget {
   Q_OBJECT
 
  public:
-  /// `grid` is a sibling that holds the boxes.
+  /// `grid` is a sibling that holds the boxes. Hidden in a parent that is visible.
   StanceMark(const QWidget& grid, QWidget* parent);
 
   /// Stands at the stance row while choosers and grid are in view, else it is hidden.

@@ -74,11 +74,12 @@ void StancePanel::Show(const EditorState& state) {
   choosers_[1]->ShowFitting(pieces[0]);
   // A pointer that is left at rest does not hide what a step has changed.
   view_->Try({});
-  if (state.scene.place.team != nullptr) view_->ShowClub(LookOf(*state.scene.place.team).colors);
+  const Team* team = state.scene.place.team;
   view_->ShowPlayer({.name = FromCodePage(text_of(Column::kName)),
                      .number = FromCodePage(text_of(Column::kUniformNumber)),
                      .position = FromCodePage(text_of(Column::kPosition)),
-                     .codes = {pieces[0], pieces[1], pieces[2]}});
+                     .codes = {pieces[0], pieces[1], pieces[2]},
+                     .club = team == nullptr ? std::nullopt : std::optional(LookOf(*team).colors)});
 }
 
 }  // namespace morlek

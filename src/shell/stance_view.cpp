@@ -39,7 +39,7 @@ CardParts PartsOf(const QRectF& card) {
 struct PlateLine {
   int largest_pixels;
   int smallest_pixels;
-  Qt::Alignment alignment;
+  int alignment;
 };
 
 void Write(QPainter& painter, const QRectF& room, const PlateLine& line, const QString& text) {
@@ -52,10 +52,8 @@ void Write(QPainter& painter, const QRectF& room, const PlateLine& line, const Q
     font.setPixelSize(std::max(fitting, line.smallest_pixels));
   }
   painter.setFont(font);
-  QTextOption option(line.alignment);
-  option.setWrapMode(QTextOption::NoWrap);
-  painter.drawText(room, QFontMetricsF(font).elidedText(start, Qt::ElideRight, room.width()),
-                   option);
+  painter.drawText(room, line.alignment,
+                   QFontMetricsF(font).elidedText(start, Qt::ElideRight, room.width()));
 }
 
 /// The number and the position above the name.
@@ -71,11 +69,11 @@ void PaintWords(QPainter& painter, const QRectF& plate, const ShownPlayer& playe
   number.setWidth(number.width() * kNumberPart);
   position.setLeft(number.right());
 
-  const Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
-  Write(painter, number, {is_wide ? 44 : 40, 12, left}, player.number);
+  constexpr int kLeft = Qt::AlignLeft | Qt::AlignVCenter;
+  Write(painter, number, {is_wide ? 44 : 40, 12, kLeft}, player.number);
   Write(painter, position, {is_wide ? 24 : 20, 11, Qt::AlignRight | Qt::AlignVCenter},
         player.position);
-  Write(painter, name, {is_wide ? 24 : 18, 11, left}, player.name);
+  Write(painter, name, {is_wide ? 24 : 18, 11, kLeft}, player.name);
 }
 
 StanceCodes WithTried(StanceCodes codes, const std::optional<TriedPicture>& tried) {
@@ -99,7 +97,6 @@ StanceCodes WithTried(StanceCodes codes, const std::optional<TriedPicture>& trie
 StanceView::StanceView(QWidget* parent) : QWidget(parent) {
   setObjectName("StanceView");
   setAccessibleName("batting stance");
-  setFocusPolicy(Qt::NoFocus);
 }
 
 void StanceView::ShowPlayer(const ShownPlayer& player) {
@@ -115,12 +112,6 @@ void StanceView::Try(const std::optional<TriedPicture>& picture) {
   update();
 }
 
-void StanceView::ShowClub(const std::optional<ClubColors>& club) {
-  if (club == club_) return;
-  club_ = club;
-  update();
-}
-
 void StanceView::paintEvent(QPaintEvent* /*event*/) {
   constexpr qreal kRadius = 4;
   constexpr qreal kMargin = 2.5;
@@ -132,7 +123,7 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
   painter.setBrush(shades.tile);
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
   PaintStance(painter, parts.figure.adjusted(kMargin, kMargin, -kMargin, -kMargin),
-              WithTried(player_.codes, tried_), club_);
+              WithTried(player_.codes, tried_), player_.club);
 
   QPainterPath card;
   card.addRoundedRect(rect(), kRadius, kRadius);
@@ -142,8 +133,8 @@ void StanceView::paintEvent(QPaintEvent* /*event*/) {
     painter.fillPath(card.intersected(part), color);
   };
   // The plate covers what the stripe's part has beyond its edge.
-  paint_part(parts.stripe, club_ ? club_->trim : shades.hover_ring);
-  paint_part(parts.plate, club_ ? club_->main : shades.fill);
+  paint_part(parts.stripe, player_.club ? player_.club->trim : shades.hover_ring);
+  paint_part(parts.plate, player_.club ? player_.club->main : shades.fill);
   painter.setPen(Qt::white);
   PaintWords(painter, parts.plate, player_);
 }

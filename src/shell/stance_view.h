@@ -13,6 +13,7 @@ struct ShownPlayer {
   QString number;
   QString position;
   StanceCodes codes;
+  std::optional<ClubColors> club;  // without one he wears the blue of the single pieces
 
   friend bool operator==(const ShownPlayer&, const ShownPlayer&) = default;
 };
@@ -40,16 +41,12 @@ class StanceView : public QWidget {
   /// Shows the player with another piece; without one, as he is.
   void Try(const std::optional<TriedPicture>& picture);
 
-  /// Dresses the player in these colours; without a club, in the blue of the single pieces.
-  void ShowClub(const std::optional<ClubColors>& club);
-
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   ShownPlayer player_;
   std::optional<TriedPicture> tried_;
-  std::optional<ClubColors> club_;
 };
 
 }  // namespace morlek

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QDir>
 #include <QFileInfo>
+#include <utility>
 
 #include "editor/editor_state.h"
 #include "shell/mark_text.h"
@@ -47,29 +48,26 @@ void StatusLine::Show(const EditorState& state) {
     notes << (state.is_file_held ? QString(kFileHeld) : SummaryOf(state.marks));
   }
   notes.removeAll(QString());
+  const QString path = QString::fromStdU16String(state.scene.place.image.u16string());
+  const QString tip = DetailsOf(state) + QDir::toNativeSeparators(path);
   // Measuring texts takes longer than all else that happens at a key.
-  const std::filesystem::path& image = state.scene.place.image;
-  const QString details = DetailsOf(state);
-  if (image.native() == image_ && notes == notes_ && details == details_) return;
-  const bool is_news = notes != notes_;
-  image_ = image.native();
-  notes_ = notes;
-  details_ = details;
+  if (notes == notes_ && tip == tip_) return;
+  const bool is_news = notes != std::exchange(notes_, notes);
+  tip_ = tip;
 
-  const QString path = QString::fromStdU16String(image.u16string());
   const QString name = QFileInfo(path).fileName();
   const QString said = notes.join(Separator());
   const QFontMetrics metrics(font());
   const int room = width() - metrics.horizontalAdvance(Separator() + said);
   QStringList shown = said.split(Separator(), Qt::SkipEmptyParts);
   // What is said comes before the name, which its tip shows as well.
-  if (room >= kSmallestNameWidth || notes.isEmpty()) {
+  if (room >= kSmallestNameWidth) {
     shown.prepend(metrics.elidedText(name, Qt::ElideMiddle, notes.isEmpty() ? width() : room));
   }
   shown.removeAll(QString());
   setText(Fitted(shown, metrics, width()));
   const QString cut = text().endsWith(said) ? QString() : said + '\n';
-  setToolTip(PlainTip(cut + details + QDir::toNativeSeparators(path)));
+  setToolTip(PlainTip(cut + tip));
   QStringList spoken = notes;
   if (!name.isEmpty()) spoken.prepend(name);
   setAccessibleDescription(spoken.join(Separator()));

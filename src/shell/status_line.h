@@ -2,7 +2,6 @@
 
 #include <QLabel>
 #include <QStringList>
-#include <filesystem>
 
 namespace morlek {
 
@@ -22,10 +21,9 @@ class StatusLine : public QLabel {
   void Show(const EditorState& state);
 
  private:
-  // What the line shows.
-  std::filesystem::path::string_type image_;
+  // What the line shows after the name, and what its tip always shows.
   QStringList notes_;
-  QString details_;
+  QString tip_;
 };
 
 }  // namespace morlek

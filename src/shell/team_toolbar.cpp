@@ -17,7 +17,8 @@ namespace {
 
 constexpr int kTeams = kTeamDirectory.size();
 constexpr int kButtonsInRow = 14;
-constexpr int kRows = (kTeams + kButtonsInRow - 1) / kButtonsInRow;
+constexpr int kRows = 2;
+static_assert(kRows * kButtonsInRow == kTeams);
 constexpr int kButtonWidth = 31;
 constexpr int kButtonHeight = 23;
 
@@ -109,9 +110,8 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
 
 void TeamToolbar::Show(const EditorState& state) {
   setVisible(!state.scene.place.image.empty());
-  if (state.loaded == std::exchange(loaded_, state.loaded)) return;
   for (const Team& team : kTeamDirectory) {
-    buttons_.at(PlaceOf(team))->SetMarked(loaded_ == &team);
+    buttons_.at(PlaceOf(team))->SetMarked(state.loaded == &team);
   }
 }
 

@@ -2,10 +2,12 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QTimer>
+#include <QTreeView>
 
 #include "shell/window_fixture.h"
 
@@ -67,7 +69,15 @@ TEST_F(DialogUserTest, OpenDialogGivesThePathAndLaterOnesForItsKindStartInItsFol
 TEST_F(DialogUserTest, SaveDialogReplacesWithoutAskingAndAddsNoExtension) {
   PutFile(folder / "team", std::string("old"));
   const QString path = PathText(folder / "team");
-  AnswerNext<QFileDialog>([&](QFileDialog& dialog) { TypeNameAndAccept(dialog, path); });
+  AnswerNext<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.labelText(QFileDialog::LookIn), "Save in:");
+    const auto& files = *dialog.findChild<QTreeView*>("treeView");
+    const QHeaderView& heads = *files.header();
+    EXPECT_FALSE(heads.stretchLastSection());
+    EXPECT_EQ(heads.length(), files.viewport()->width());
+    for (const int cut : {1, 2, 3}) EXPECT_EQ(heads.sectionSize(cut), heads.sectionSizeHint(cut));
+    TypeNameAndAccept(dialog, path);
+  });
   EXPECT_EQ(user.AskSavePath({"Save", "Morlek Team Data File (*.txt)|*.txt"}), path);
 }
 

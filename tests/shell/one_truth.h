@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QAccessible>
+#include <QRegularExpression>
 
 #include "shell/code_page_text.h"
 #include "shell/random_window.h"
-#include "shell/tip_grammar.h"
 #include "support/form_columns.h"
 
 namespace morlek {
@@ -51,9 +51,8 @@ class OneTruth : public RandomWindowTest {
   }
 
   void ExpectCells() const;
-  void ExpectMark(int place, const QString& held, const SavePreview& preview,
-                  const SpokenTip& said) const;
-  void ExpectReason(int place, const SpokenTip& said) const;
+  [[nodiscard]] QString TipOf(int place, const QString& held, const SavePreview& preview) const;
+  void TakeFault(int place, QString& tip) const;
   void ExpectFoot() const;
   void ExpectTeam() const;
   void ExpectFeatures() const;

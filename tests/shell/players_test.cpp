@@ -30,6 +30,7 @@ class PlayersWindowTest : public WindowTest {
       QAction* found = nullptr;
       for (QAction* action : menu->actions()) {
         const QString caption = action->text().remove('&');
+        if (action->isSeparator()) enabled << "|";
         if (action->isEnabled() && !caption.isEmpty()) enabled << caption;
         if (caption == chosen) found = action;
       }
@@ -51,9 +52,10 @@ TEST_F(PlayersWindowTest, TheMenuOffersWhatCanBeDone) {
   QApplication::clipboard()->setText("A.B");
   ClickBox(1, 3);
   const QString name = Box(1, 3).text();
-  EXPECT_EQ(OpenMenu("Copy"),
-            "Cut, Copy, Paste, Delete, Select All, Copy Player, Move Player Up, Move Player Down, "
-            "Copy Team");
+  EXPECT_EQ(
+      OpenMenu("Copy"),
+      "|, Cut, Copy, Paste, Delete, |, Select All, |, Copy Player, Move Player Up, Move Player "
+      "Down, Copy Team");
   EXPECT_EQ(QApplication::clipboard()->text(), name);
   OpenMenu("Cut");
   EXPECT_EQ(Box(1, 3).text(), "");
@@ -61,14 +63,15 @@ TEST_F(PlayersWindowTest, TheMenuOffersWhatCanBeDone) {
   OpenMenu("Paste");
   EXPECT_EQ(Box(1, 3).text(), "A.B");
   EXPECT_EQ(OpenMenu("Undo"),
-            "Undo, Paste, Select All, Copy Player, Move Player Up, Move Player Down, Copy Team");
+            "Undo, |, Paste, |, Select All, |, Copy Player, Move Player Up, Move Player Down, Copy "
+            "Team");
   ClickBox(2, 0);
   EXPECT_EQ(OpenMenu("Copy Player").find("Move Player Up"), std::string::npos);
   EXPECT_EQ(QApplication::clipboard()->text(), batter);
   ClickBox(4, 14);
   const std::string with_player =
-      "Redo, Cut, Copy, Paste, Delete, Select All, Copy Player, Paste Player, Exchange with Copied "
-      "Player, Move Player Up, Copy Team";
+      "Redo, |, Cut, Copy, Paste, Delete, |, Select All, |, Copy Player, Paste Player, Exchange "
+      "with Copied Player, Move Player Up, Copy Team";
   EXPECT_EQ(OpenMenu("Paste Player"), with_player);
   EXPECT_EQ(Row(14), batter);
 
@@ -82,6 +85,16 @@ TEST_F(PlayersWindowTest, TheMenuOffersWhatCanBeDone) {
   EXPECT_EQ(Box(1, 14).text(), "X.Y");
   OpenMenu("Copy Team");
   EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 25);
+  EXPECT_TRUE(LabelText("labelStatus").contains("the team is copied"));
+  const auto copied = [this](const QString& player) {
+    Box(1, 14).setText(player);
+    Press(Qt::Key_C, kCtrlShift);
+    return LabelText("labelStatus")
+        .section(" is copied", 0, 0)
+        .section(QString::fromUtf8(" · "), -1);
+  };
+  EXPECT_EQ(copied("A\n3456789012345678901234"), "A 3456789012345678901234");
+  EXPECT_EQ(copied("A23456789012345678901234Z"), QString::fromUtf8("A2345678901…45678901234Z"));
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QMimeData>
-#include <QSignalSpy>
 
 #include "shell/eye.h"
 #include "shell/window_fixture.h"
@@ -90,14 +89,6 @@ TEST_F(RosterBoxTest, OnlyWhatComesInLosesItsLineBreaks) {
     EXPECT_EQ(PictureOf(box).toStdString(), each.after) << each.before;
     EXPECT_EQ(editor->state().grid.Text({Column::kName, 3}), box.text().toStdString());
   }
-}
-
-TEST_F(RosterBoxTest, EachChangeIsReportedOnce) {
-  StartWithTeam();
-  QLineEdit& box = BoxWith("AB|");
-  const QSignalSpy changes(&box, &QLineEdit::textChanged);
-  Commit(box, QString::fromUtf8("中"));
-  EXPECT_EQ(changes, (QList<QVariantList>{{"AB?"}}));
 }
 
 TEST_F(RosterBoxTest, TheRingStaysBehindAMenuAndIsNothingToClickOrToRead) {

@@ -100,12 +100,14 @@ void WayBack::CommandPlayer(int place) {
   if (command == 0) {
     Press(Qt::Key_C, kBoth);
     copied = here;
+    EXPECT_TRUE(LabelText("labelStatus").contains("is copied"));
     Enter(RandomPlace());
     CommandPlayer(FocusedPlace());
   } else if (command < 3) {
     Press(command == 1 ? Qt::Key_V : Qt::Key_X, kBoth);
     PutPlayer(texts, row, *copied);
     if (command == 2) copied = here;
+    EXPECT_TRUE(command == 1 || LabelText("labelStatus").contains("is copied"));
     AddStep(texts);
     ExpectWholeTextIsNew(place, text);
   } else {
@@ -130,9 +132,7 @@ void WayBack::ExpectWholeTextIsNew(int place, const QString& before) const {
 /// Shift+F8 against it.
 void WayBack::WalkByKeys() {
   const bool backwards = dice.OneIn(2);
-  const auto is_cause = [&](int place) {
-    return !ReadTip(boxes[place]->accessibleDescription()).is_consequence();
-  };
+  const auto is_cause = [&](int place) { return !state().marks.At(CellAt(place)).cause; };
   const auto where = [&](int place) {
     const int sign = backwards ? -1 : +1;
     return std::tuple(sign * (is_cause(place) ? 0 : 1), sign * RowOf(place),
@@ -160,8 +160,10 @@ void WayBack::WalkByKeys() {
   if (!marked.isEmpty()) marked << marked.first();
   const QString before = Focused();
   for (const int place : marked) {
+    boxes[place]->deselect();
     Press(Qt::Key_F8, backwards ? Qt::ShiftModifier : Qt::NoModifier);
     ASSERT_EQ(Focused(), boxes[place]->objectName()) << (backwards ? "backwards" : "forwards");
+    ASSERT_EQ(boxes[place]->selectedText(), boxes[place]->text());
     ASSERT_EQ(QToolTip::text(), boxes[place]->toolTip()) << "who comes by keys has no pointer";
   }
   if (marked.isEmpty()) {
@@ -174,22 +176,23 @@ void WayBack::WalkByKeys() {
 
 /// Beside a good text SAVE keeps what it loses because of another cell, and nothing else.
 void WayBack::TryTheOtherCell() {
-  const auto tip_of = [this](int place) { return ReadTip(boxes[place]->accessibleDescription()); };
+  const auto is_lossy = [this](int place) { return state().marks.At(CellAt(place)).is_lossy; };
   int place = RandomPlace();
   const auto is_fit = [&](int each) {
-    return PartnerOf(each) >= 0 && tip_of(each).is_lossy() && tip_of(each).too_long.isEmpty();
+    return PartnerOf(each) >= 0 && is_lossy(each) &&
+           state().marks.At(CellAt(each)).fate != SavePreview::Fate::kNotReached;
   };
   for (int tries = 0; tries < kCells && !is_fit(place); ++tries) place = (place + 1) % kCells;
   if (!is_fit(place)) return;
   Note("a good text beside " + boxes[place]->objectName());
-  const bool is_consequence = tip_of(place).is_consequence();
+  const bool is_consequence = state().marks.At(CellAt(place)).cause.has_value();
   const int other = PartnerOf(place);
   Enter(other);
   boxes[other]->selectAll();
   const QString good = ColumnOf(other) == 4 ? "R" : "1";
   QTest::keyClicks(boxes[other], good);
   AddVisit(other, good);
-  EXPECT_EQ(tip_of(place).is_lossy() || tip_of(other).is_lossy(), !is_consequence);
+  EXPECT_EQ(is_lossy(place) || is_lossy(other), !is_consequence);
 }
 
 void WayBack::GoElsewhereAtRandom() {

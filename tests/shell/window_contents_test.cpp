@@ -72,20 +72,20 @@ TEST_F(WindowContentsTest, ColumnHeadsAndTheBoxesBelow) {
     EXPECT_LE(head.fontMetrics().horizontalAdvance(head.text()), head.width()) << index;
     ExpectToTake(*box, accepted);
   }
-  Box(1, 0).setText("A.B1");
-  const QString unknown_letter = Box(1, 0).toolTip();
-  Box(1, 0).setText("A.B.");
-  EXPECT_NE(Box(1, 0).toolTip(), unknown_letter) << "SAVE makes the same of both";
 }
 
 TEST_F(WindowContentsTest, NamesHintsAndTips) {
   Start(std::nullopt);
   user.paths = {ImagePath()};
+  QWidget& hint = Find("labelHint");
+  QTest::mouseClick(&hint, Qt::RightButton);
+  QTest::mousePress(&hint, Qt::LeftButton);
+  QTest::mouseRelease(&hint, Qt::LeftButton, {}, {-9, -9});
+  EXPECT_FALSE(IsShown("Toolbar1"));
   Click("labelHint");
   EXPECT_TRUE(IsShown("Toolbar1"));
-  const std::size_t questions = user.open_questions.size();
   Click("labelHint");
-  EXPECT_EQ(user.open_questions.size(), questions) << "only who asks for an image opens one";
+  EXPECT_EQ(user.open_questions.size(), 2U) << "only who asks for an image opens one";
   EXPECT_EQ(Find("Label1").toolTip(),
             "This will edit the skin color and facial features of a player but not hair color. "
             "Click to make selection.");
@@ -135,11 +135,15 @@ TEST_F(WindowContentsTest, EveryControlHasANameAndARole) {
   for (QWidget* widget : window->findChildren<QWidget*>() + splash.findChildren<QWidget*>()) {
     const QAccessibleInterface& accessible = *QAccessible::queryAccessibleInterface(widget);
     // What the toolkit puts into a control of ours speaks through that control.
-    const bool is_part =
-        accessible.role() == QAccessible::ScrollBar || accessible.role() == QAccessible::PopupMenu;
-    if (is_part || widget->objectName().startsWith("qt_")) continue;
-    const bool is_named = !accessible.text(QAccessible::Name).isEmpty();
-    EXPECT_TRUE(is_named && accessible.role() != QAccessible::NoRole)
+    const QString id = widget->objectName();
+    const bool is_menu = accessible.role() == QAccessible::PopupMenu;
+    const bool is_part = accessible.role() == QAccessible::ScrollBar || (is_menu && id.isEmpty());
+    if (is_part || id.startsWith("qt_")) continue;
+    // A label's own text is no name for what it says.
+    const QString name = widget->accessibleDescription().isEmpty()
+                             ? accessible.text(QAccessible::Name)
+                             : widget->accessibleName();
+    EXPECT_TRUE(!name.isEmpty() && accessible.role() != QAccessible::NoRole)
         << widget->metaObject()->className() << " " << widget->objectName().toStdString();
   }
 
