@@ -31,7 +31,7 @@ struct InfoText {
   std::string text;
 };
 
-/// Why the arguments are none.
+/// Why the arguments are invalid.
 struct WrongCall {
   std::string why;
 };

@@ -32,7 +32,7 @@ inline constexpr std::string_view kExportHelp =
     R"(morlek-league export [--force] IMAGE [FILE]
 
 Writes all 28 teams of IMAGE to FILE as a table: comma-separated, in UTF-8, with
-a line of heads and then one line for each player. Without FILE, or when it is
+a line of headers and then one line for each player. Without FILE, or when it is
 "-", the table goes to standard output. IMAGE is only read.
 
 A cell is empty when the player has no such column, and when the game's byte
@@ -50,7 +50,7 @@ inline constexpr std::string_view kImportHelp =
     R"(morlek-league import [--dry-run] FILE IMAGE
 
 Writes into IMAGE what the table FILE changes, and nothing else. When FILE is
-"-", the table comes from standard input. Columns are found by their heads, in
+"-", the table comes from standard input. Columns are found by their headers, in
 any order; commas, semicolons or tabs may separate them. A column or line that
 is missing, or an empty cell, changes nothing.
 

@@ -1,4 +1,4 @@
-// The program's beginning on Windows, whose file names are no bytes.
+// The entry point on Windows, whose file names are not bytes.
 
 #include <fcntl.h>
 #include <io.h>
@@ -10,7 +10,7 @@
 #include "cli/run.h"
 
 int wmain(int argument_count, wchar_t** arguments) {
-  // Tables end their lines themselves.
+  // Tables contain their own line ends.
   static_cast<void>(_setmode(0, _O_BINARY));
   static_cast<void>(_setmode(1, _O_BINARY));
   std::ios_base::sync_with_stdio(false);

@@ -28,7 +28,7 @@ std::filesystem::path PathOf(const std::string& name) {
   return {std::u8string(name.begin(), name.end())};
 }
 
-/// Runs a step that has to do with one file, whose name its failure then begins with.
+/// Runs a step on one file; the text of its failure then begins with the file's name.
 template <typename Step>
 auto About(const std::string& name, Step step) {
   try {

@@ -8,11 +8,11 @@
 
 namespace morlek::cli {
 
-/// What the process ends with.
+/// The exit status of the process.
 enum class ExitStatus {
   kDone = 0,
   kRefused = 1,      // or, of a comparison, different
-  kWrongCall = 2,    // the arguments are none
+  kWrongCall = 2,    // the arguments are invalid
   kFileFailure = 3,  // a file could not be opened, read or written
 };
 
@@ -23,8 +23,8 @@ struct Streams {
   std::ostream& messages;
 };
 
-/// Does what the arguments say, of which the program's own name is none. Results go to `out`, all
-/// else to `messages`.
+/// Runs the command that the arguments, without the program's own name, ask for. Results go to
+/// `out`, all else to `messages`.
 [[nodiscard]] ExitStatus Run(std::vector<std::string> arguments, const Disk& disk,
                              const Streams& streams);
 

@@ -11,6 +11,8 @@ namespace {
 constexpr std::uint8_t kBattingMarker = 0x30;
 constexpr std::uint8_t kEraMarker = 0x20;
 
+constexpr int kLargestNumber = 511;
+
 /// The number, 0 to 511, in three decimal digits.
 std::string ThreeDigits(int number) {
   const auto digit = [](int value) { return static_cast<char>('0' + value % 10); };
@@ -38,7 +40,7 @@ std::optional<int> NumberOfThreeDigits(std::string_view digits) {
   const auto is_digit = [](char character) { return character >= '0' && character <= '9'; };
   if (digits.size() != 3 || !std::ranges::all_of(digits, is_digit)) return std::nullopt;
   const int number = (digits[0] - '0') * 100 + (digits[1] - '0') * 10 + (digits[2] - '0');
-  if (number > 511) return std::nullopt;
+  if (number > kLargestNumber) return std::nullopt;
   return number;
 }
 

@@ -8,8 +8,8 @@
 
 namespace morlek {
 
-/// Batting and earned run averages are two-byte words: a number from 0 to 511 above a marker in the
-/// high byte, which is the marker up to 255 and one more from 256 on.
+// Batting and earned run averages are two-byte words: a number from 0 to 511 above a marker in the
+// high byte, which is the marker up to 255 and one more from 256 on.
 
 /// The key by which both decoders look up a pair of bytes: the byte text of the low byte, then that
 /// of the high byte. As it has no leading zeros, some pairs share a key.

@@ -25,7 +25,7 @@ void PutBack(CartridgeImage& image, const std::filesystem::path& path,
   image.Close();
 }
 
-/// Looks at what became of the bytes; nobody else knows after a failure.
+/// Reads the bytes back: after a failure only the disk shows which were written.
 std::vector<LeftByte> Left(CartridgeImage& image, const std::filesystem::path& path,
                            std::span<const ByteChange> bytes) {
   std::vector<LeftByte> left;

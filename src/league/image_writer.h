@@ -21,7 +21,7 @@ struct LeftByte {
   friend bool operator==(const LeftByte&, const LeftByte&) = default;
 };
 
-/// What came of writing into an image.
+/// The outcome of writing into an image.
 struct ImageWriteResult {
   bool is_written = true;
   /// Empty when all is written, and when the image is as it was.

@@ -73,15 +73,15 @@ class TeamPlanner {
   }
 
   void Refuse(Cell cell, const SavePreview& preview) {
-    const std::string head(HeadOf(cell.column));
+    const std::string header(HeaderOf(cell.column));
     const std::string why = ReasonOfRefusal(grid_.Text(cell), cell, preview.FateOf(cell),
                                             CauseElsewhere(grid_, preview, cell))
                                 .value_or("the game cannot hold it");
     complaints_.push_back("line " +
                           std::to_string(asked_.lines.at(static_cast<std::size_t>(cell.row))) +
                           ": " + PlayerOf(team_, cell.row, known_.Text({Column::kName, cell.row})) +
-                          ", " + head + " " + Quoted(asked_.texts.Text(cell)) + ": " + why + "; " +
-                          head + " takes " + AcceptedTexts(cell.column));
+                          ", " + header + " " + Quoted(asked_.texts.Text(cell)) + ": " + why +
+                          "; " + header + " takes " + AcceptedTexts(cell.column));
   }
 
   void TakeBytes(const RecordBytes& written, ImportPlan& plan) {

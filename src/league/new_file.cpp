@@ -47,7 +47,7 @@ NewFileResult WriteNewFile(const Disk& disk, const std::filesystem::path& path, 
   const std::filesystem::path beside = FreePathBeside(disk, path);
   Fill(disk, beside, write);
   if (!may_be_written()) {
-    // It has come into being in the meantime.
+    // It has been created in the meantime.
     disk.remove(beside);
     return NewFileResult::kExists;
   }

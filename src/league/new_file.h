@@ -8,7 +8,7 @@
 
 namespace morlek {
 
-/// What came of writing a new file.
+/// The outcome of writing a new file.
 enum class NewFileResult {
   kWritten,
   kExists,  // something stands there already, and stays as it is

@@ -7,7 +7,7 @@
 namespace morlek {
 namespace {
 
-/// Any text from outside, fit to be shown.
+/// Text from outside, made safe to show.
 std::string Shown(std::string_view text) {
   constexpr std::size_t kLongest = 40;
   constexpr unsigned char kFirstVisible = 0x20;
@@ -47,7 +47,7 @@ std::string PlayerOf(const Team& team, int row, std::string_view name) {
 std::string ChangeText(const SeasonChange& change) {
   const bool is_name = change.cell.column == Column::kName;
   std::string text = PlayerOf(*change.team, change.cell.row, change.name);
-  text.append(": ").append(is_name ? "name" : HeadOf(change.cell.column));
+  text.append(": ").append(is_name ? "name" : HeaderOf(change.cell.column));
   return text.append(" ")
       .append(KnownOr(change.before))
       .append(" -> ")

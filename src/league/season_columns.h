@@ -8,10 +8,10 @@
 
 namespace morlek {
 
-/// A column of a season's table behind those of team and slot: its head, and the columns of the
+/// A column of a season's table behind those of team and slot: its header, and the columns of the
 /// grid that it stands for; nothing where a kind of player has no such column.
 struct SeasonColumn {
-  std::string_view head;
+  std::string_view header;
   std::optional<Column> of_batter;
   std::optional<Column> of_pitcher;
 
@@ -21,7 +21,7 @@ struct SeasonColumn {
   }
 };
 
-/// The heads of the columns that say which player a line is about.
+/// The headers of the columns that say which player a line is about.
 inline constexpr std::string_view kTeamHead = "Team";
 inline constexpr std::string_view kSlotHead = "Slot";
 
@@ -63,10 +63,10 @@ static_assert([] {
   return true;
 }());
 
-/// The head over a column of the grid.
-[[nodiscard]] constexpr std::string_view HeadOf(Column column) {
+/// The header over a column of the grid.
+[[nodiscard]] constexpr std::string_view HeaderOf(Column column) {
   for (const SeasonColumn& each : kSeasonColumns) {
-    if (each.of_batter == column || each.of_pitcher == column) return each.head;
+    if (each.of_batter == column || each.of_pitcher == column) return each.header;
   }
   return {};
 }

@@ -11,13 +11,13 @@
 namespace morlek {
 namespace {
 
-// No cell of a season comes near; some 14,000 of this length are little memory.
+// Far longer than any cell of a season; some 14,000 of this length still need little memory.
 constexpr TextLimits kLimits = {.field_characters = 255, .fields = 256};
 
-// Who has that many complaints has taken the wrong file.
+// With that many complaints it is the wrong file.
 constexpr std::size_t kMostComplaints = 100;
 
-/// What a column of the file stands for, by its head.
+/// What a column of the file stands for, by its header.
 struct FileColumn {
   enum class Kind { kNone, kTeam, kSlot, kCell };
   Kind kind = Kind::kNone;
@@ -26,16 +26,16 @@ struct FileColumn {
   friend bool operator==(const FileColumn&, const FileColumn&) = default;
 };
 
-/// Nothing for a head that no season has.
-std::optional<FileColumn> ColumnOfHead(const std::string& head) {
+/// Nothing for a header that no season has.
+std::optional<FileColumn> ColumnOfHeader(const std::string& header) {
   using enum FileColumn::Kind;
-  const auto is_head = [&head](std::string_view known) {
-    return UpperCase(head) == UpperCase(known);
+  const auto is_header = [&header](std::string_view known) {
+    return UpperCase(header) == UpperCase(known);
   };
-  if (head.empty()) return FileColumn{kNone};
-  if (is_head(kTeamHead)) return FileColumn{kTeam};
-  if (is_head(kSlotHead)) return FileColumn{kSlot};
-  const auto found = std::ranges::find_if(kSeasonColumns, is_head, &SeasonColumn::head);
+  if (header.empty()) return FileColumn{kNone};
+  if (is_header(kTeamHead)) return FileColumn{kTeam};
+  if (is_header(kSlotHead)) return FileColumn{kSlot};
+  const auto found = std::ranges::find_if(kSeasonColumns, is_header, &SeasonColumn::header);
   if (found == kSeasonColumns.end()) return std::nullopt;
   return FileColumn{kCell, &*found};
 }
@@ -83,9 +83,9 @@ class SeasonReader {
   }
 
  private:
-  /// False when no line can be read by these heads.
+  /// False when no line can be read by these headers.
   [[nodiscard]] bool ReadHeads();
-  void TakeHead(const std::string& head);
+  void TakeHeader(const std::string& header);
   void TakeLine();
   void TakeCell(const Team& team, int row, const SeasonColumn& column, const std::string& text);
 
@@ -116,7 +116,7 @@ bool SeasonReader::ReadHeads() {
   } while (record_.is_empty());
 
   const std::size_t before = complaints_.size();
-  for (const std::string& head : record_.fields) TakeHead(head);
+  for (const std::string& header : record_.fields) TakeHeader(header);
   const auto has = [this](FileColumn::Kind kind) {
     return std::ranges::find(columns_, kind, &FileColumn::kind) != columns_.end();
   };
@@ -130,13 +130,13 @@ bool SeasonReader::ReadHeads() {
   return complaints_.size() == before;
 }
 
-void SeasonReader::TakeHead(const std::string& head) {
-  std::optional<FileColumn> column = ColumnOfHead(head);
+void SeasonReader::TakeHeader(const std::string& header) {
+  std::optional<FileColumn> column = ColumnOfHeader(header);
   if (!column) {
-    Complain("no column of a season is headed " + Quoted(head));
+    Complain("no column of a season is headed " + Quoted(header));
     column.emplace();
   } else if (*column != FileColumn() && std::ranges::find(columns_, *column) != columns_.end()) {
-    Complain("two columns are headed " + Quoted(head));
+    Complain("two columns are headed " + Quoted(header));
   }
   columns_.push_back(*column);
 }
@@ -176,7 +176,7 @@ void SeasonReader::TakeCell(const Team& team, int row, const SeasonColumn& colum
     return;
   }
   Complain(PlayerOf(team, row, {}) + " is a " + std::string(BlockOf(row).player) + ", who has no " +
-           std::string(column.head) + "; " + Quoted(text) + " stands there");
+           std::string(column.header) + "; " + Quoted(text) + " stands there");
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace morlek {
 
 void WriteSeason(const Season& season, const LineSink& sink) {
   std::vector<std::string> fields = {std::string(kTeamHead), std::string(kSlotHead)};
-  for (const SeasonColumn& column : kSeasonColumns) fields.emplace_back(column.head);
+  for (const SeasonColumn& column : kSeasonColumns) fields.emplace_back(column.header);
   sink(JoinFields(fields));
 
   for (const Team& team : kTeamDirectory) {

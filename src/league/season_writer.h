@@ -10,7 +10,7 @@ namespace morlek {
 /// Takes a line, without its end. Throws OperationFailed when it cannot.
 using LineSink = std::function<void(std::string_view line)>;
 
-/// Writes the table of a season: a line of heads, then one for each player, team by team. Throws
+/// Writes the table of a season: a line of headers, then one for each player, team by team. Throws
 /// what the sink throws.
 void WriteSeason(const Season& season, const LineSink& sink);
 

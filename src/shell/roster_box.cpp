@@ -11,6 +11,7 @@
 #include "shell/code_page_text.h"
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"
+#include "team/roster_grid.h"
 #include "ui/dropped_file.h"
 #include "ui/snapped_lines.h"
 #include "ui/theme.h"
@@ -39,6 +40,7 @@ RosterBox::RosterBox(Cell cell, const QValidator& validator, QWidget* parent)
     setTextMargins(-2, 0, -4, 0);
     setAlignment(Qt::AlignCenter);
   }
+  setMaxLength(kLongestText);
   setValidator(&validator);
 }
 

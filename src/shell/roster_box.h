@@ -14,9 +14,8 @@ class RosterBox : public ValueEdit, public OwnPanel {
   Q_OBJECT
 
  public:
-  /// An empty box at the position of its cell in the roster frame; like every line edit it takes
-  /// kLongestText characters. `validator` corrects every text and may serve other boxes too;
-  /// without it, once it is destroyed, the box takes any text.
+  /// An empty box at the position of its cell in the roster frame. `validator` corrects every text
+  /// and may serve other boxes too; without it, once it is destroyed, the box takes any text.
   RosterBox(Cell cell, const QValidator& validator, QWidget* parent);
 
   [[nodiscard]] Cell cell() const { return cell_; }

@@ -10,27 +10,28 @@
 namespace morlek {
 namespace {
 
-// Heads that the table of a season has instead of the sheet's own.
-constexpr auto kOtherHeads =
+// Headers that the table of a season has instead of the sheet's own.
+constexpr auto kOtherHeaders =
     std::to_array<std::pair<Column, std::string_view>>({{Column::kName, "NAME"},
                                                         {Column::kBattingSide, "HAND"},
                                                         {Column::kThrowingHand, "HAND"},
                                                         {Column::kLegs, "LEGS"}});
 
-bool IsHead(const BlockColumn& column, std::string_view capitals) {
+bool IsHeader(const BlockColumn& column, std::string_view capitals) {
   return capitals == UpperCase(column.caption) ||
-         std::ranges::find(kOtherHeads, std::pair(column.column, capitals)) != kOtherHeads.end();
+         std::ranges::find(kOtherHeaders, std::pair(column.column, capitals)) !=
+             kOtherHeaders.end();
 }
 
 /// A pitcher's position is P, and F a face like others.
-bool IsHeadAndValue(Column column) {
+bool IsHeaderAndValue(Column column) {
   return column == Column::kPosition || column == Column::kFace;
 }
 
-/// Whether all that a line has for the columns from a place on are heads that stand there, of
+/// Whether all that a line has for the columns from a place on are headers that stand there, of
 /// batters or of pitchers.
-bool HoldsHeads(const PastedLine& line, std::size_t place) {
-  bool holds_heads = false;
+bool HoldsHeaders(const PastedLine& line, std::size_t place) {
+  bool holds_headers = false;
   for (const std::string& cell : line.cells) {
     if (place >= kColumnCount) break;
     const BlockColumn& of_batters = kBatters.columns.at(place);
@@ -38,10 +39,10 @@ bool HoldsHeads(const PastedLine& line, std::size_t place) {
     ++place;
     if (cell.empty()) continue;
     const std::string capitals = UpperCase(cell);
-    if (!IsHead(of_batters, capitals) && !IsHead(of_pitchers, capitals)) return false;
-    holds_heads = holds_heads || !IsHeadAndValue(of_batters.column);
+    if (!IsHeader(of_batters, capitals) && !IsHeader(of_pitchers, capitals)) return false;
+    holds_headers = holds_headers || !IsHeaderAndValue(of_batters.column);
   }
-  return holds_heads;
+  return holds_headers;
 }
 
 /// Lays a line into a row from a place on. Gives how many of its texts find none.
@@ -79,7 +80,7 @@ GridWithBlock WithBlock(RosterGrid grid, Cell start, std::string_view text) {
   PastedLines lines(WithoutLastLineBreak(text));
   int row = start.row;
   while (const std::optional<PastedLine> line = lines.Next()) {
-    if (HoldsHeads(*line, first)) continue;
+    if (HoldsHeaders(*line, first)) continue;
     const bool has_row = row < end_row;
     const int without_place = LayLine(*line, row++, has_row ? first : kColumnCount, grid);
     result.cells += without_place;

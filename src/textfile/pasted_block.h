@@ -29,8 +29,8 @@ struct GridWithBlock {
 
 /// The grid with a block laid into it from `start` on, right and down as the columns stand on the
 /// screen; PastedLines says what its cells are, and PastedText what becomes of each. A line that
-/// holds the heads of the columns is left out. A block that starts in the first column runs on from
-/// the batters into the pitchers, any other ends at the edge of its block.
+/// holds the headers of the columns is left out. A block that starts in the first column runs on
+/// from the batters into the pitchers, any other ends at the edge of its block.
 [[nodiscard]] GridWithBlock WithBlock(RosterGrid grid, Cell start, std::string_view text);
 
 }  // namespace morlek

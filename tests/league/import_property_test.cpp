@@ -64,16 +64,16 @@ TEST(ImportPropertyTest, ACellBecomesWhatSaveMakesOfItAndNothingElseChanges) {
     }
     ASSERT_NO_THROW((void)fuzz::ExportSeason(image)) << round;
     const int row = static_cast<int>(random() % 25);
-    std::vector<std::string> heads = {"Team", "Slot"};
+    std::vector<std::string> headers = {"Team", "Slot"};
     std::vector<std::string> fields = {
         std::string(kTeamDirectory.at(random() % kTeamDirectory.size()).key),
         std::to_string(row + 1)};
     for (const BlockColumn& each : BlockOf(row).columns) {
       if (random() % 4 != 0) continue;
-      heads.emplace_back(HeadOf(each.column));
+      headers.emplace_back(HeaderOf(each.column));
       fields.push_back(AnyText(random, each.column));
     }
-    const std::string table = JoinFields(heads, ';') + "\r\n" + JoinFields(fields, ';') + "\r\n";
+    const std::string table = JoinFields(headers, ';') + "\r\n" + JoinFields(fields, ';') + "\r\n";
     ASSERT_NO_THROW(imported += fuzz::ImportSeason(image, table) ? 1 : 0) << table;
   }
   EXPECT_GT(imported, kRounds / 4);

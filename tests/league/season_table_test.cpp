@@ -107,7 +107,7 @@ TEST_F(LeagueTest, WhatTheGameCannotHoldIsListedAndNothingIsWritten) {
 }
 
 TEST_F(LeagueTest, WhatIsNoSeasonIsRefusedWithTheNumberOfTheLine) {
-  const std::string heads = "Team,Slot,AVG,ERA\n";
+  const std::string headers = "Team,Slot,AVG,ERA\n";
   const std::vector<std::pair<std::string, std::string>> cases = {
       {"", "line 1: the file holds no table"},
       {"\n\n", "line 3: the file holds no table"},
@@ -117,24 +117,24 @@ TEST_F(LeagueTest, WhatIsNoSeasonIsRefusedWithTheNumberOfTheLine) {
       {"\nSlot\n", "line 2: no column is headed Team"},
       {"Team,Slot,AVG,slot\n", "line 1: two columns are headed \"slot\""},
       {"Team,Slot,Avg.\n", "line 1: no column of a season is headed \"Avg.\""},
-      {heads + "Braves,26,.300,\n", "line 2: \"26\" is no slot; slots are 1 to 25"},
-      {heads + "Braves,01,.300,\n", "line 2: \"01\" is no slot; slots are 1 to 25"},
-      {heads + "\n,,,\nBrave,1,.300,\n", "line 4: no team is called \"Brave\""},
-      {heads + "Braves,1,.300,\nCubs,1,.300,\nBraves,1,,\n",
+      {headers + "Braves,26,.300,\n", "line 2: \"26\" is no slot; slots are 1 to 25"},
+      {headers + "Braves,01,.300,\n", "line 2: \"01\" is no slot; slots are 1 to 25"},
+      {headers + "\n,,,\nBrave,1,.300,\n", "line 4: no team is called \"Brave\""},
+      {headers + "Braves,1,.300,\nCubs,1,.300,\nBraves,1,,\n",
        "line 4: Braves 1 stands on line 2 already"},
-      {heads + "Braves,16,.300,3.00\n",
+      {headers + "Braves,16,.300,3.00\n",
        "line 2: Braves 16 is a pitcher, who has no AVG; \".300\" "
        "stands there"},
-      {heads + "Braves,1,.300,,x\n", "line 2: \"x\" stands in a column without a head"},
-      {heads + "Braves,1,\".300,\nBraves,2,.300,\n",
+      {headers + "Braves,1,.300,,x\n", "line 2: \"x\" stands in a column without a head"},
+      {headers + "Braves,1,\".300,\nBraves,2,.300,\n",
        "line 2: quotes begin on this line and do not "
        "end"},
-      {heads + "Braves,1,\".300\"0,\n", "line 2: something stands behind the end of quotes"},
-      {heads + std::string("Braves,1,\0,\n", 12),
+      {headers + "Braves,1,\".300\"0,\n", "line 2: something stands behind the end of quotes"},
+      {headers + std::string("Braves,1,\0,\n", 12),
        "line 2: a NUL character stands here; save the table as text in UTF-8"},
-      {heads + std::string(300, 'x'), "line 2: a cell is longer than 255 characters"},
-      {heads + std::string(300, ','), "line 2: there are more than 256 columns"},
-      {heads + "\x1B[2J" + std::string(60, 'x') + ",1\n",
+      {headers + std::string(300, 'x'), "line 2: a cell is longer than 255 characters"},
+      {headers + std::string(300, ','), "line 2: there are more than 256 columns"},
+      {headers + "\x1B[2J" + std::string(60, 'x') + ",1\n",
        "line 2: no team is called \"?[2J" + std::string(36, 'x') + "...\""},
   };
   const std::vector<std::uint8_t> before = file();
@@ -145,7 +145,7 @@ TEST_F(LeagueTest, WhatIsNoSeasonIsRefusedWithTheNumberOfTheLine) {
   }
   EXPECT_EQ(file(), before);
 
-  std::string much = heads;
+  std::string much = headers;
   for (int line = 0; line < 100000; ++line) much += "nobody,1,,\n";
   EXPECT_EQ(Import(much), 1);
   EXPECT_EQ(std::ranges::count(messages_text, '\n'), 101);

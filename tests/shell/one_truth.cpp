@@ -63,12 +63,12 @@ QString OneTruth::TipOf(int place, const QString& held, const SavePreview& previ
     lines << words.at(fate) + quoted(after) + known;
     const int bad = PartnerOf(place);
     if (state().marks.At(CellAt(place)).cause) {
-      QStringList heads = {HeadOf(place).text(), HeadOf(bad).text()};
-      if (boxes[bad]->x() < boxes[place]->x()) heads.swapItemsAt(0, 1);
-      lines << heads.join(" and ") + " share a byte, and " + HeadOf(bad).text() + " is not " +
+      QStringList headers = {HeaderOf(place).text(), HeaderOf(bad).text()};
+      if (boxes[bad]->x() < boxes[place]->x()) headers.swapItemsAt(0, 1);
+      lines << headers.join(" and ") + " share a byte, and " + HeaderOf(bad).text() + " is not " +
                    TakesOf(bad);
     }
-    lines << HeadOf(place).text() + " takes " + TakesOf(place);
+    lines << HeaderOf(place).text() + " takes " + TakesOf(place);
   }
   if (!IsSame(place, text, held) && !is_told) {
     lines << "Not saved yet; the image holds " + quoted(held);

@@ -32,15 +32,15 @@ class OneTruth : public RandomWindowTest {
     return one == other || essence(one) == essence(other);
   }
 
-  [[nodiscard]] const QLabel& HeadOf(int place) const {
+  [[nodiscard]] const QLabel& HeaderOf(int place) const {
     const QLineEdit& first = Box(ColumnOf(place), RowOf(place) < kBatters ? 0 : kBatters);
-    const QPoint head = first.geometry().center() - QPoint(0, 24);
-    return dynamic_cast<const QLabel&>(*Find("Frame1").childAt(head));
+    const QPoint header = first.geometry().center() - QPoint(0, 24);
+    return dynamic_cast<const QLabel&>(*Find("Frame1").childAt(header));
   }
-  /// What the head of a box's column says that it takes.
+  /// What the header of a box's column says that it takes.
   [[nodiscard]] QString TakesOf(int place) const {
     static const QRegularExpression more("; |\n");
-    return HeadOf(place).accessibleDescription().section(more, 0, 0);
+    return HeaderOf(place).accessibleDescription().section(more, 0, 0);
   }
   /// The box that shares a byte with this one, or -1.
   static int PartnerOf(int place) {

@@ -1,0 +1,61 @@
+#include "team/accepted_texts.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <ranges>
+#include <string>
+
+#include "team/save_preview.h"
+
+namespace morlek {
+namespace {
+
+/// Whether SAVE keeps a text and all that stands beside it.
+bool IsKept(Cell cell, const std::string& text) {
+  using enum Column;
+  const std::map<Column, std::string> others = {
+      {kName, "A.B"},       {kPosition, "P"},          {kBattingSide, "R"},
+      {kThrowingHand, "R"}, {kBattingAverage, ".001"}, {kEarnedRunAverage, "0.01"}};
+  RosterGrid grid;
+  for (const Cell each : kAllCells) {
+    const auto other = others.find(each.column);
+    grid.SetText(each, other == others.end() ? "1" : other->second);
+  }
+  grid.SetText(cell, text);
+  return SavePreview(grid, CodecState(), RecordBytes()).after() == grid;
+}
+
+TEST(AcceptedTexts, RangesEndWhereSaveDoesAndListsHoldWhatItKeeps) {
+  const std::map<std::string, std::string> next = {
+      {"9", "10"},      {"10", "11"},     {"100", "101"}, {"200", "201"},
+      {".511", ".512"}, {"5.11", "5.12"}, {"FF", "100"}};
+  for (const Cell cell : kAllCells) {
+    if (cell.row % 15 != 0 || cell.column == Column::kName) continue;
+    std::string texts = AcceptedTexts(cell.column);
+    SCOPED_TRACE(texts);
+    if (const std::size_t to = texts.find(" to "); to != std::string::npos) {
+      const std::string last = texts.substr(to + 4, texts.find(' ', to + 4) - to - 4);
+      EXPECT_TRUE(IsKept(cell, texts.substr(0, to)) && IsKept(cell, last));
+      EXPECT_FALSE(IsKept(cell, next.at(last)));
+      EXPECT_EQ(IsKept(cell, "0"), texts.front() == '0' && texts.at(1) == ' ');
+      continue;
+    }
+    for (const char* word : {",", " or", " alone", " with", " behind", " it"}) {
+      for (std::size_t at = 0; (at = texts.find(word)) != std::string::npos;) {
+        texts.erase(at, std::string(word).size());
+      }
+    }
+    int count = 0;
+    for (const auto part : std::views::split(texts, ' ')) {
+      std::string text(part.begin(), part.end());
+      if (cell.column == Column::kThrowingHand && count > 1) text.insert(0, "R");
+      EXPECT_TRUE(IsKept(cell, text)) << text;
+      ++count;
+    }
+    EXPECT_EQ(count, cell.column == Column::kPosition ? 12 : cell.row == 0 ? 3 : 7);
+  }
+}
+
+}  // namespace
+}  // namespace morlek
