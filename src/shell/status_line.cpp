@@ -24,12 +24,15 @@ const QString& Separator() {
 
 /// As many of the parts as there is room for; an ellipsis stands for the rest.
 QString Fitted(QStringList parts, const QFontMetrics& metrics, int width) {
+  const auto elided = [&](const QString& text) {
+    return metrics.elidedText(text, Qt::ElideRight, width);
+  };
   QString fitted = parts.join(Separator());
-  while (metrics.horizontalAdvance(fitted) > width && parts.size() > 1) {
+  while (elided(fitted) != fitted && parts.size() > 1) {
     parts.removeLast();
     fitted = parts.join(Separator()) + Separator() + QChar(0x2026);
   }
-  return metrics.elidedText(fitted, Qt::ElideRight, width);
+  return elided(fitted);
 }
 
 }  // namespace
