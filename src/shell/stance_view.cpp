@@ -69,11 +69,11 @@ void PaintWords(QPainter& painter, const QRectF& plate, const ShownPlayer& playe
   number.setWidth(number.width() * kNumberPart);
   position.setLeft(number.right());
 
-  constexpr int kLeft = Qt::AlignLeft | Qt::AlignVCenter;
-  Write(painter, number, {is_wide ? 44 : 40, 12, kLeft}, player.number);
+  constexpr int kAtLeft = Qt::AlignLeft | Qt::AlignVCenter;
+  Write(painter, number, {is_wide ? 44 : 40, 12, kAtLeft}, player.number);
   Write(painter, position, {is_wide ? 24 : 20, 11, Qt::AlignRight | Qt::AlignVCenter},
         player.position);
-  Write(painter, name, {is_wide ? 24 : 18, 11, kLeft}, player.name);
+  Write(painter, name, {is_wide ? 24 : 18, 11, kAtLeft}, player.name);
 }
 
 StanceCodes WithTried(StanceCodes codes, const std::optional<TriedPicture>& tried) {

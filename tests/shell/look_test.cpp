@@ -170,6 +170,8 @@ TEST_F(LookTest, Dialogs) {
 
 TEST_F(LookTest, OneAndAHalfTimesAsLarge) {
   screen = QGuiApplication::screens().at(2);
+  Start(std::nullopt);
+  ExpectWindow("empty-larger");
   MarkTeam();
   ExpectWindow("marks-larger");
   Box(12, 17).setFocus();

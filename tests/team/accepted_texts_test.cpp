@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <ranges>
+#include <sstream>
 #include <string>
 
 #include "team/save_preview.h"
@@ -47,11 +47,10 @@ TEST(AcceptedTexts, RangesEndWhereSaveDoesAndListsHoldWhatItKeeps) {
       }
     }
     int count = 0;
-    for (const auto part : std::views::split(texts, ' ')) {
-      std::string text(part.begin(), part.end());
+    std::istringstream parts(texts);
+    for (std::string text; parts >> text; ++count) {
       if (cell.column == Column::kThrowingHand && count > 1) text.insert(0, "R");
       EXPECT_TRUE(IsKept(cell, text)) << text;
-      ++count;
     }
     EXPECT_EQ(count, cell.column == Column::kPosition ? 12 : cell.row == 0 ? 3 : 7);
   }
