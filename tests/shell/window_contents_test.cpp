@@ -96,6 +96,10 @@ TEST_F(WindowContentsTest, NamesHintsAndTips) {
 
 TEST_F(WindowContentsTest, WhatAnAssistiveToolPressesDoesWhatAClickDoes) {
   StartWithTeam();
+  for (const char* over_grid : {"labelStatus", "Label3"}) {
+    const QWidget& foot = Find(over_grid);
+    EXPECT_EQ(foot.parentWidget()->childAt(foot.geometry().center()), &foot) << "shows its tip";
+  }
   const auto press = [this](const QString& name) {
     QAccessibleActionInterface* actions =
         QAccessible::queryAccessibleInterface(&Find(name))->actionInterface();
@@ -132,6 +136,7 @@ TEST_F(WindowContentsTest, EveryControlHasANameAndARole) {
   StartWithTeam();
   Choose("mnuMorlekHELP");
   const SplashWindow splash;
+  EXPECT_EQ(splash.objectName(), "frmSplash");
   for (QWidget* widget : window->findChildren<QWidget*>() + splash.findChildren<QWidget*>()) {
     const QAccessibleInterface& accessible = *QAccessible::queryAccessibleInterface(widget);
     // What the toolkit puts into a control of ours speaks through that control.
