@@ -222,6 +222,8 @@ class Session {
       const bool is_refused = saved.refused.HasAny(cell.row, offsets);
       Require(!is_refused || known.Text(cell) == before.Text(cell),
               "what was refused, or lost at the close, is not known to be there");
+      Require(!is_refused || offsets.size() > 1 || !saved.taken.HasAny(cell.row, offsets),
+              "a byte that was refused was not taken");
       // Some bytes of a text may have been written.
       const bool may_differ = disk_.failed_closes > 0 || offsets.size() > 1;
       Require((is_refused && may_differ) || is_odd_ || state().grid.Text(cell) == known.Text(cell),
