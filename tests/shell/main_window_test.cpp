@@ -97,6 +97,7 @@ TEST_F(MainWindowTest, HelpCoversTheGridUntilItIsDoubleClicked) {
   Choose("mnuMorlekHELP");
   Choose("mnuMorlekHELP");
   EXPECT_EQ(Find("Frame5").geometry(), QRect(0, 0, 441, 633));
+  EXPECT_EQ(Find("Frame5").toolTip(), "Double-click to close");
 
   auto& help = Find<QPlainTextEdit>("Text15");
   QTest::mouseClick(help.viewport(), Qt::LeftButton);
