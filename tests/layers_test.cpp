@@ -69,14 +69,5 @@ TEST(Layers, EveryIncludeFollowsTheArrows) {
   EXPECT_EQ(seen.size(), kBelow.size());
 }
 
-TEST(Layers, ArrowsTurnedRoundAndOddIncludesAreRefused) {
-  EXPECT_TRUE(MayStand("team", "#include \"image/channel.h\""));
-  for (const std::string header :
-       {"\"codecs/hex_text.h\"", "\"../team/roster_grid.h\"", "\"image/no_such_header.h\"",
-        "\"channel.h\"", "HEADER", "<QString>", "<windows.h>", "<sys/stat.h>"}) {
-    EXPECT_FALSE(MayStand("image", "  #  include " + header + " // only for now")) << header;
-  }
-}
-
 }  // namespace
 }  // namespace morlek

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <sstream>
+#include <regex>
 #include <string>
 
 #include "team/save_preview.h"
@@ -32,7 +32,7 @@ TEST(AcceptedTexts, RangesEndWhereSaveDoesAndListsHoldWhatItKeeps) {
       {".511", ".512"}, {"5.11", "5.12"}, {"FF", "100"}};
   for (const Cell cell : kAllCells) {
     if (cell.row % 15 != 0 || cell.column == Column::kName) continue;
-    std::string texts = AcceptedTexts(cell.column);
+    const std::string texts = AcceptedTexts(cell.column);
     SCOPED_TRACE(texts);
     if (const std::size_t to = texts.find(" to "); to != std::string::npos) {
       const std::string last = texts.substr(to + 4, texts.find(' ', to + 4) - to - 4);
@@ -41,16 +41,12 @@ TEST(AcceptedTexts, RangesEndWhereSaveDoesAndListsHoldWhatItKeeps) {
       EXPECT_EQ(IsKept(cell, "0"), texts.front() == '0' && texts.at(1) == ' ');
       continue;
     }
-    for (const char* word : {",", " or", " alone", " with", " behind", " it"}) {
-      for (std::size_t at = 0; (at = texts.find(word)) != std::string::npos;) {
-        texts.erase(at, std::string(word).size());
-      }
-    }
+    static const std::regex listed("[0-9A-Z<>]+");
     int count = 0;
-    std::istringstream parts(texts);
-    for (std::string text; parts >> text; ++count) {
-      if (cell.column == Column::kThrowingHand && count > 1) text.insert(0, "R");
-      EXPECT_TRUE(IsKept(cell, text)) << text;
+    for (std::sregex_iterator each(texts.begin(), texts.end(), listed), end; each != end; ++each) {
+      const bool is_mark = cell.column == Column::kThrowingHand && count > 1;
+      EXPECT_TRUE(IsKept(cell, (is_mark ? "R" : "") + each->str())) << each->str();
+      ++count;
     }
     EXPECT_EQ(count, cell.column == Column::kPosition ? 12 : cell.row == 0 ? 3 : 7);
   }
