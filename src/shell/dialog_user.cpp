@@ -29,7 +29,9 @@ void EvenOut(QMessageBox& box) {
     layout->setHorizontalSpacing(0);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   }
-  layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), layout->columnCount() - 1);
+  const int text_column = layout->columnCount() - 1;
+  layout->setColumnStretch(text_column, 1);
+  layout->addItem(new QSpacerItem(kWidth, 0), layout->rowCount(), text_column);
 }
 
 /// The toolkit's own dialog, where the system has none, truncates sizes and dates although it has
@@ -38,6 +40,7 @@ void FitColumns(const QFileDialog& dialog) {
   const auto* details = dialog.findChild<QTreeView*>("treeView");
   if (details == nullptr) return;
   QHeaderView& header = *details->header();
+  header.setStretchLastSection(false);
   header.setSectionResizeMode(QHeaderView::ResizeToContents);
   header.setSectionResizeMode(0, QHeaderView::Stretch);
 }

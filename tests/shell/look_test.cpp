@@ -86,7 +86,10 @@ class LookTest : public WindowTest {
       });
     };
     expect_next("message-" + shade);
-    dialogs.ShowMessage("Your changes have been saved.", "MORLEK EDITOR", Message::Icon::kNone);
+    dialogs.ShowMessage(
+        "You've used a letter that is not recognized by MORLEK EDITOR, change the letter and save "
+        "your edits again.",
+        "MORLEK EDITOR", Message::Icon::kNone);
     expect_next("error-" + shade);
     dialogs.ShowMessage("The team cannot be read.", "MORLEK EDITOR", Message::Icon::kCritical);
     expect_next("question-" + shade);
