@@ -91,13 +91,20 @@ type_path() { # PATH [SHOT]
   press_for Return "${2:-}"
 }
 
+# How far to the right the middle of a window is.
+middle_of() {
+  eval "$(xdotool getwindowgeometry --shell "$1")"
+  echo $((X + WIDTH / 2))
+}
+
 # Starts the editor in the folder of the image and takes the splash away; puts its process into
-# $editor_pid.
+# $editor_pid and the middle of the splash into $splash_middle.
 start_editor() { # [SHOT]
   "${editor[@]}" &
   editor_pid=$!
   pids+=("$editor_pid")
   expect_window Form2
+  splash_middle=$(middle_of "$window")
   press_for space "${1:-}"
 }
 answer_open() { answer "Open Dale Harrow Jr. Baseball Rom" none type_path "$@"; } # PATH [SHOT]

@@ -59,7 +59,6 @@ std::optional<Step> History::Undo() {
 }
 
 std::optional<Step> History::Redo() {
-  EndVisit();
   if (!can_redo()) return std::nullopt;
   return steps_.at(done_++);
 }

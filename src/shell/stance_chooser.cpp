@@ -53,7 +53,6 @@ class StancePicture : public MarkedButton {
     setObjectName(QString("%1(%2)").arg(kind.array_name).arg(index));
     setAccessibleName(QString("%1 %2").arg(QString(kind.title).toLower(), code_text_));
     setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_Hover);
     setMouseTracking(true);
     const QSize size = TileOf(piece_).size;
     setGeometry(QRect(QPoint(kLeft + (size.width() + kTileGap) * (index / kPictureRows),

@@ -59,7 +59,6 @@ class TeamButton : public MarkedButton {
       PaintBadge(painter, target, look);
     }));
     setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_Hover);
   }
 
  protected:

@@ -62,13 +62,24 @@ class LookTest : public WindowTest {
 
   void ExpectWindow(const std::string& name) const { ExpectLook(name, PixelsOf(*window)); }
 
-  /// One part of the window: a picture with less in it has more colours for each thing.
-  void ExpectPart(const QString& control, const std::string& name) const {
+  [[nodiscard]] QImage PixelsOfPart(const QString& control) const {
     const QWidget& part = Find(control);
     const qreal scale = window->devicePixelRatio();
     const QRectF pixels(part.mapTo(window.get(), QPointF(0, 0)) * scale,
                         QSizeF(part.size()) * scale);
-    ExpectLook(name, PixelsOf(*window).copy(pixels.toAlignedRect()));
+    return PixelsOf(*window).copy(pixels.toAlignedRect());
+  }
+
+  /// One part of the window: a picture with less in it has more colours for each thing.
+  void ExpectPart(const QString& control, const std::string& name) const {
+    ExpectLook(name, PixelsOfPart(control));
+  }
+
+  void ExpectOtherLookUnderThePointer(const QString& control) const {
+    const QImage before = PixelsOfPart(control);
+    QTest::mouseMove(&Find(control));
+    EXPECT_NE(PixelsOfPart(control), before) << control.toStdString();
+    QTest::mouseMove(&Find("labelStatus"));
   }
 
   void ExpectDialogs(const std::string& shade) const {
@@ -122,6 +133,7 @@ TEST_F(LookTest, Splash) {
 TEST_F(LookTest, FromTheEmptyWindowToTheHelp) {
   Start(std::nullopt);
   ExpectWindow("empty");
+  ExpectOtherLookUnderThePointer("labelHint");
   ChooseWith("mnuOpen", ImagePath());
   ExpectWindow("opened");
   QMimeData files;
@@ -135,6 +147,7 @@ TEST_F(LookTest, FromTheEmptyWindowToTheHelp) {
   Box(1, 7).setFocus();
   Box(1, 7).deselect();
   ExpectWindow("team");
+  ExpectOtherLookUnderThePointer("Mets");
   Choose("mnuMorlekHELP");
   ExpectWindow("help");
 }
@@ -144,6 +157,7 @@ TEST_F(LookTest, Choosers) {
   Box(12, 17).setFocus();
   Click("Picture1(36)");
   ExpectPart("StancePanel", "faces");
+  ExpectOtherLookUnderThePointer("Picture1(20)");
   ExpectPart("Frame1", "player-in-view");
   ExpectPart("StanceMark", "mark");
   Box(13, 17).setFocus();
