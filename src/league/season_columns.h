@@ -22,8 +22,8 @@ struct SeasonColumn {
 };
 
 /// The headers of the columns that say which player a line is about.
-inline constexpr std::string_view kTeamHead = "Team";
-inline constexpr std::string_view kSlotHead = "Slot";
+inline constexpr std::string_view kTeamHeader = "Team";
+inline constexpr std::string_view kSlotHeader = "Slot";
 
 /// All other columns in the order of an export.
 inline constexpr std::array<SeasonColumn, 20> kSeasonColumns = {{

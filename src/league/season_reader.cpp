@@ -33,8 +33,8 @@ std::optional<FileColumn> ColumnOfHeader(const std::string& header) {
     return UpperCase(header) == UpperCase(known);
   };
   if (header.empty()) return FileColumn{kNone};
-  if (is_header(kTeamHead)) return FileColumn{kTeam};
-  if (is_header(kSlotHead)) return FileColumn{kSlot};
+  if (is_header(kTeamHeader)) return FileColumn{kTeam};
+  if (is_header(kSlotHeader)) return FileColumn{kSlot};
   const auto found = std::ranges::find_if(kSeasonColumns, is_header, &SeasonColumn::header);
   if (found == kSeasonColumns.end()) return std::nullopt;
   return FileColumn{kCell, &*found};
@@ -71,7 +71,7 @@ class SeasonReader {
 
   std::optional<Season> Read() {
     const std::size_t before = complaints_.size();
-    if (ReadHeads()) {
+    if (ReadHeaders()) {
       while (reader_.Read(record_) && complaints_.size() - before < kMostComplaints) TakeLine();
       if (complaints_.size() - before >= kMostComplaints) {
         Complain("here the reading ended, because so much is wrong");
@@ -84,7 +84,7 @@ class SeasonReader {
 
  private:
   /// False when no line can be read by these headers.
-  [[nodiscard]] bool ReadHeads();
+  [[nodiscard]] bool ReadHeaders();
   void TakeHeader(const std::string& header);
   void TakeLine();
   void TakeCell(const Team& team, int row, const SeasonColumn& column, const std::string& text);
@@ -107,7 +107,7 @@ class SeasonReader {
   Season season_;
 };
 
-bool SeasonReader::ReadHeads() {
+bool SeasonReader::ReadHeaders() {
   using enum FileColumn::Kind;
   do {
     if (reader_.Read(record_)) continue;

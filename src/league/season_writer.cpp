@@ -8,7 +8,7 @@
 namespace morlek {
 
 void WriteSeason(const Season& season, const LineSink& sink) {
-  std::vector<std::string> fields = {std::string(kTeamHead), std::string(kSlotHead)};
+  std::vector<std::string> fields = {std::string(kTeamHeader), std::string(kSlotHeader)};
   for (const SeasonColumn& column : kSeasonColumns) fields.emplace_back(column.header);
   sink(JoinFields(fields));
 

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 
 #include "shell/code_page_text.h"
+#include "team/roster_grid.h"
 #include "textfile/pasted_block.h"
 
 namespace morlek {
@@ -21,7 +22,7 @@ std::optional<QClipboard::Mode> SelectionClipboard() {
 ClipboardText ReadClipboard(QClipboard::Mode clipboard) {
   std::string text = ToCodePage(QGuiApplication::clipboard()->text(clipboard));
   if (IsBlock(text)) return {.text = std::move(text), .is_block = true};
-  return {.text = std::string(WithoutLastLineBreak(text))};
+  return {.text = std::string(WithoutLastLineBreak(text).substr(0, kLongestText))};
 }
 
 std::optional<QClipboard::Mode> PastingClipboard(const QKeyEvent& key) {

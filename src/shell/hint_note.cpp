@@ -33,6 +33,7 @@ HintNote::HintNote(const QRect& area, QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   setForegroundRole(QPalette::PlaceholderText);
+  hide();
 }
 
 void HintNote::Show(const EditorState& state) {

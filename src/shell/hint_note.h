@@ -12,7 +12,7 @@ class HintNote : public QLabel {
   Q_OBJECT
 
  public:
-  /// Stands in an area of its parent; empty at first.
+  /// Stands in an area of its parent; hidden at first.
   HintNote(const QRect& area, QWidget* parent);
 
   void Show(const EditorState& state);

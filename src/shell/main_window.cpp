@@ -63,6 +63,7 @@ MainWindow::MainWindow(Editor& editor, User& user)
     : editor_(editor), user_(user), menus_(new MenuBar(this)) {
   setObjectName("Form1");
   setWindowTitle(kProgramTitle);
+  setAccessibleName(kProgramTitle);
   setMenuBar(menus_);
   connect(menus_, &MenuBar::Chosen, this, &MainWindow::Run);
   BuildContent();
@@ -169,6 +170,7 @@ void MainWindow::FitToScreen() {
   const int borders = frameGeometry().height() - height();
   const int room = screen()->availableGeometry().height() - borders - menu_height;
   setFixedSize(area_->FitInto(room) + QSize(0, menu_height));
+  if (!isVisible()) return;
   // The part by which the window has grown must not be beyond the desktop.
   const QRect desktop = screen()->availableVirtualGeometry();
   const int beyond = frameGeometry().right() - desktop.right();

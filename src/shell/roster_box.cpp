@@ -45,8 +45,11 @@ RosterBox::RosterBox(Cell cell, const QValidator& validator, QWidget* parent)
 }
 
 void RosterBox::ShowMark(const CellMark& mark, const QString& tip) {
+  const bool recolored = mark.is_modified != mark_.is_modified;
+  const bool looks_same = !recolored && mark.is_lossy == mark_.is_lossy;
   mark_ = mark;
-  ColorText();
+  if (looks_same && tip == accessibleDescription()) return;
+  if (recolored) ColorText();
   setToolTip(PlainTip(tip));
   setAccessibleDescription(tip);
   update();

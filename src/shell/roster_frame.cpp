@@ -26,8 +26,6 @@ namespace {
 /// The gap above the band of a block's headers, in logical pixels, which separates the blocks.
 constexpr int kHeaderGap = 4;
 
-constexpr int kNoRow = -1;
-
 /// A ring in the accent colour around the box of a grid that has the focus, above its neighbours;
 /// hidden when no box has it. A child of the widget that holds the boxes, made after them. Mouse,
 /// drops and assistive tools reach the box through it: the toolkit's own frame of the focus is no
@@ -43,6 +41,7 @@ class FocusRing : public QFocusFrame {
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
+    if (box_ == nullptr) return;
     QPainter painter(this);
     FrameSnapped(painter, rect(), 2, theme::ShadesOf(palette()).accent);
     box_->PaintMarks(painter);
@@ -131,11 +130,13 @@ void RosterFrame::ShowMark(const EditorState& state, Cell cell) {
 void RosterFrame::ShowTints() {
   using enum RosterBox::Tint;
   const EditorState& state = editor_.state();
-  const int stance_row = state.layout == Layout::kWide ? state.stance_row : kNoRow;
+  const TintedRows rows{focus_row_.value_or(kNoRow),
+                        state.layout == Layout::kWide ? state.stance_row : kNoRow};
+  if (rows == std::exchange(tinted_rows_, rows)) return;
   for (const Cell cell : kAllCells) {
-    BoxAt(cell).SetTint(cell.row == focus_row_   ? kFocusRow
-                        : cell.row == stance_row ? kStanceRow
-                                                 : kNone);
+    BoxAt(cell).SetTint(cell.row == rows.focus    ? kFocusRow
+                        : cell.row == rows.stance ? kStanceRow
+                                                  : kNone);
   }
 }
 

@@ -74,6 +74,13 @@ class RosterFrame : public QFrame {
   std::array<RosterBox*, kCellCount> boxes_{};
   // Whether each box shows a mark, by the index of its cell.
   std::bitset<kCellCount> marked_;
+  static constexpr int kNoRow = -1;
+  struct TintedRows {
+    int focus = kNoRow;
+    int stance = kNoRow;
+    friend bool operator==(const TintedRows&, const TintedRows&) = default;
+  };
+  TintedRows tinted_rows_;
   std::optional<int> focus_row_;
 };
 

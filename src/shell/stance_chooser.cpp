@@ -128,10 +128,12 @@ StanceChooser::StanceChooser(const ChooserKind& kind, QWidget* parent)
 }
 
 void StanceChooser::Mark(std::optional<int> code) {
+  if (code == std::exchange(marked_, code)) return;
   for (StancePicture* picture : pictures_) picture->SetMarked(code == picture->code());
 }
 
 void StanceChooser::ShowFitting(std::optional<int> other_code) {
+  if (other_code == std::exchange(fitted_, other_code)) return;
   const bool shows = other_code && PictureCodesOf(kind_.piece).Contains(*other_code);
   for (StancePicture* picture : pictures_) {
     const bool fits = shows && HaveOneSkin(picture->code(), *other_code);

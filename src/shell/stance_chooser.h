@@ -52,6 +52,8 @@ class StanceChooser : public QFrame {
 
  private:
   const ChooserKind& kind_;
+  std::optional<int> marked_;
+  std::optional<int> fitted_;
   bool shows_fitting_ = false;
   std::vector<StancePicture*> pictures_;
 };

@@ -109,8 +109,9 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
 
 void TeamToolbar::Show(const EditorState& state) {
   setVisible(!state.scene.place.image.empty());
+  if (state.loaded == std::exchange(loaded_, state.loaded)) return;
   for (const Team& team : kTeamDirectory) {
-    buttons_.at(PlaceOf(team))->SetMarked(state.loaded == &team);
+    buttons_.at(PlaceOf(team))->SetMarked(loaded_ == &team);
   }
 }
 

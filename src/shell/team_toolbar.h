@@ -8,6 +8,7 @@ namespace morlek {
 
 class MarkedButton;
 struct EditorState;
+struct Team;
 
 /// The team buttons, two rows of fourteen in the team directory's order. They take no keyboard
 /// focus; Ctrl+Page Down and Ctrl+Page Up pick the next and the previous team instead.
@@ -29,6 +30,7 @@ class TeamToolbar : public QWidget {
 
  private:
   std::vector<MarkedButton*> buttons_;  // in the directory's order
+  const Team* loaded_ = nullptr;        // whose button is marked
 };
 
 }  // namespace morlek

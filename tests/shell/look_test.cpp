@@ -164,6 +164,9 @@ TEST_F(LookTest, Choosers) {
   ExpectPart("StancePanel", "bodies");
   Box(14, 17).setFocus();
   ExpectPart("StancePanel", "legs");
+  const QImage worn = PixelsOfPart("StanceView");
+  QTest::mouseMove(&Find("Picture3(2)"));
+  EXPECT_NE(PixelsOfPart("StanceView"), worn) << "tried on";
 }
 
 TEST_F(LookTest, DarkAlsoWhenTheDesktopTurnsItDuringTheRun) {

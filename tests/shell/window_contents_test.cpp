@@ -136,9 +136,10 @@ TEST_F(WindowContentsTest, EveryControlHasANameAndARole) {
   StartWithTeam();
   Choose("mnuMorlekHELP");
   const SplashWindow splash;
-  EXPECT_EQ(QStringList({window->objectName(), window->windowTitle(), splash.objectName(),
-                         splash.windowTitle(), splash.accessibleName()}),
-            QStringList({"Form1", "MORLEK EDITOR", "frmSplash", "Form2", "MORLEK EDITOR"}));
+  EXPECT_EQ(QStringList({window->objectName(), window->windowTitle(), window->accessibleName(),
+                         splash.objectName(), splash.windowTitle(), splash.accessibleName()}),
+            QStringList({"Form1", "MORLEK EDITOR", "MORLEK EDITOR", "frmSplash", "Form2",
+                         "MORLEK EDITOR"}));
   for (QWidget* widget : window->findChildren<QWidget*>() + splash.findChildren<QWidget*>()) {
     const QAccessibleInterface& accessible = *QAccessible::queryAccessibleInterface(widget);
     // What the toolkit puts into a control of ours speaks through that control.
