@@ -103,7 +103,7 @@ TeamToolbar::TeamToolbar(QWidget* parent) : QWidget(parent) {
 
   for (const auto& [key, places] : {std::pair(Qt::Key_PageDown, +1), {Qt::Key_PageUp, -1}}) {
     connect(new QShortcut(Qt::CTRL | key, this), &QShortcut::activated, this,
-            [this, places = places] { emit StepRequested(places); });
+            [this, step = places] { emit StepRequested(step); });
   }
 }
 

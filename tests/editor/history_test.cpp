@@ -43,5 +43,14 @@ TEST(History, OneVisitNeverFillsIt) {
   EXPECT_EQ(StepsBack(history), 2);
 }
 
+TEST(History, TakingBackEndsAVisit) {
+  History history;
+  for (const char* text : {"taken back", "stays"}) {
+    static_cast<void>(history.Undo());
+    history.AddTyping({{Column::kName, 0}, "", text});
+  }
+  EXPECT_EQ(StepsBack(history), 1);
+}
+
 }  // namespace
 }  // namespace morlek
