@@ -12,6 +12,7 @@
 #include <functional>
 #include <utility>
 
+#include "shell/menu_bar.h"
 #include "ui/twips.h"
 
 namespace morlek {
@@ -74,8 +75,7 @@ class HelpTextBox : public QPlainTextEdit {
 
  protected:
   bool event(QEvent* event) override {
-    // The text editor would claim keys of the menus for itself.
-    return event->type() != QEvent::ShortcutOverride && QPlainTextEdit::event(event);
+    return !LeaveToMenu(*event) && QPlainTextEdit::event(event);
   }
 
   // The grid below is covered, so the tab key does not go there.

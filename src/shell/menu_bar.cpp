@@ -1,6 +1,8 @@
 #include "shell/menu_bar.h"
 
 #include <QKeyCombination>
+#include <QKeyEvent>
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -46,6 +48,12 @@ constexpr std::array<MenuTable, 3> kMenus = {{
     {"mnuHelp", "Help", kHelpItems},
 }};
 
+bool IsMenuKey(QKeyCombination key) {
+  return std::ranges::any_of(kMenus, [key](const MenuTable& menu) {
+    return std::ranges::any_of(menu.items, [key](const MenuItem& item) { return item.key == key; });
+  });
+}
+
 }  // namespace
 
 MenuBar::MenuBar(QWidget* parent) : QMenuBar(parent) {
@@ -68,6 +76,13 @@ MenuBar::MenuBar(QWidget* parent) : QMenuBar(parent) {
 void MenuBar::OfferOnTop(bool offered) {
   items_.at(Command::kAlwaysOnTop)->setVisible(offered);
   items_.at(Command::kNotOnTop)->setVisible(!offered);
+}
+
+bool LeaveToMenu(QEvent& event) {
+  if (event.type() != QEvent::ShortcutOverride) return false;
+  if (!IsMenuKey(static_cast<QKeyEvent&>(event).keyCombination())) return false;
+  event.ignore();
+  return true;
 }
 
 }  // namespace morlek

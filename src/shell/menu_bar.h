@@ -3,6 +3,8 @@
 #include <QMenuBar>
 #include <map>
 
+class QEvent;
+
 namespace morlek {
 
 /// What a menu item does.
@@ -35,5 +37,10 @@ class MenuBar : public QMenuBar {
  private:
   std::map<Command, QAction*> items_;
 };
+
+/// True when the event asks a text box whether it wants a menu item's shortcut key for itself. The
+/// event is then ignored, and the box has to return false for it. Otherwise line and text editors
+/// would take Ctrl+A and Ctrl+E.
+[[nodiscard]] bool LeaveToMenu(QEvent& event);
 
 }  // namespace morlek

@@ -11,6 +11,7 @@
 #include "shell/code_page_text.h"
 #include "shell/form_layout.h"
 #include "shell/mark_text.h"
+#include "shell/menu_bar.h"
 #include "team/roster_grid.h"
 #include "ui/dropped_file.h"
 #include "ui/snapped_lines.h"
@@ -132,8 +133,12 @@ void RosterBox::PaintCorner(QPainter& painter) const {
 }
 
 bool RosterBox::event(QEvent* event) {
-  // The line editor would claim keys of the menus, and those of undo and redo, for itself.
-  return event->type() != QEvent::ShortcutOverride && ValueEdit::event(event);
+  if (event->type() == QEvent::ShortcutOverride) {
+    auto* key = static_cast<QKeyEvent*>(event);
+    // Both are the whole grid's, not the line editor's own.
+    if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) return false;
+  }
+  return !LeaveToMenu(*event) && ValueEdit::event(event);
 }
 
 void RosterBox::changeEvent(QEvent* event) {
