@@ -1,11 +1,15 @@
 #include "shell/code_page_text.h"
 
 #include <QList>
+#include <algorithm>
 
 #include "codecs/code_page.h"
 
 namespace morlek {
 namespace {
+
+/// Also false for the two halves of a character outside the basic plane.
+bool IsKnown(QChar character) { return FromUnicode(character.unicode()).has_value(); }
 
 QString Corrected(const QString& text) { return FromCodePage(ToCodePage(text)); }
 
@@ -13,6 +17,7 @@ QString Corrected(const QString& text) { return FromCodePage(ToCodePage(text)); 
 
 QString FromCodePage(std::string_view text) {
   QString result;
+  result.reserve(static_cast<qsizetype>(text.size()));
   for (const char byte : text) result += QChar(ToUnicode(byte));
   return result;
 }
@@ -24,8 +29,10 @@ std::string ToCodePage(const QString& text) {
 }
 
 QValidator::State CodePageValidator::validate(QString& text, int& cursor) const {
-  cursor = static_cast<int>(Corrected(text.first(cursor)).size());
-  text = Corrected(text);
+  if (!std::ranges::all_of(QStringView(text), IsKnown)) {
+    cursor = static_cast<int>(Corrected(text.first(cursor)).size());
+    text = Corrected(text);
+  }
   return Acceptable;
 }
 

@@ -27,8 +27,10 @@ QAction* PlayerCommands::Add(QWidget& frame, const QString& caption, const QKeyS
                              void (PlayerCommands::*run)(Cell)) {
   auto* action = new QAction(caption, this);
   action->setShortcut(key);
+  action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   connect(action, &QAction::triggered, this, [this, run] {
-    if (const std::optional<Cell> cell = focused_cell_()) (this->*run)(*cell);
+    const std::optional<Cell> cell = focused_cell_();
+    if (cell && editor_.state().scene.is_grid_shown) (this->*run)(*cell);
   });
   frame.addAction(action);
   actions_ << action;

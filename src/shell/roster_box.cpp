@@ -87,12 +87,15 @@ QColor RosterBox::Background() const {
 
 void RosterBox::paintEvent(QPaintEvent* event) {
   ValueEdit::paintEvent(event);
-  QPainter painter(this);
   // The margins let a text that is too long run over the lines.
-  const bool is_too_long = fontMetrics().horizontalAdvance(text()) > width() - 2;
-  if (is_too_long) PaintFrame(painter, Qt::transparent);
+  if (fontMetrics().horizontalAdvance(text()) > width() - 2) {
+    QPainter painter(this);
+    PaintFrame(painter, Qt::transparent);
+  }
   // The focus ring covers the box and paints the marks itself.
-  if (!hasFocus()) PaintMarks(painter);
+  if (hasFocus() || !mark_.is_marked()) return;
+  QPainter painter(this);
+  PaintMarks(painter);
 }
 
 void RosterBox::PaintMarks(QPainter& painter) const {

@@ -51,13 +51,15 @@ void StatusLine::Show(const EditorState& state) {
     notes << (state.is_file_held ? QString(kFileHeld) : SummaryOf(state.marks));
   }
   notes.removeAll(QString());
-  const QString path = QString::fromStdU16String(state.scene.place.image.u16string());
-  const QString tip = DetailsOf(state) + QDir::toNativeSeparators(path);
   // Measuring texts takes longer than all else that happens at a key.
-  if (notes == notes_ && tip == tip_) return;
+  const std::filesystem::path& image = state.scene.place.image;
+  const QString details = DetailsOf(state);
+  if (image.native() == image_ && notes == notes_ && details == details_) return;
   const bool is_news = notes != std::exchange(notes_, notes);
-  tip_ = tip;
+  image_ = image.native();
+  details_ = details;
 
+  const QString path = QString::fromStdU16String(image.u16string());
   const QString name = QFileInfo(path).fileName();
   const QString said = notes.join(Separator());
   const QFontMetrics metrics(font());
@@ -70,7 +72,7 @@ void StatusLine::Show(const EditorState& state) {
   shown.removeAll(QString());
   setText(Fitted(shown, metrics, width()));
   const QString cut = text().endsWith(said) ? QString() : said + '\n';
-  setToolTip(PlainTip(cut + tip));
+  setToolTip(PlainTip(cut + details + QDir::toNativeSeparators(path)));
   QStringList spoken = notes;
   if (!name.isEmpty()) spoken.prepend(name);
   setAccessibleDescription(spoken.join(Separator()));

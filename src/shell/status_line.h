@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QStringList>
+#include <filesystem>
 
 namespace morlek {
 
@@ -21,9 +22,10 @@ class StatusLine : public QLabel {
   void Show(const EditorState& state);
 
  private:
-  // What the line shows after the name, and what its tip always shows.
+  // What the line shows.
+  std::filesystem::path::string_type image_;
   QStringList notes_;
-  QString tip_;
+  QString details_;
 };
 
 }  // namespace morlek
