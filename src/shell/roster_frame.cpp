@@ -5,6 +5,7 @@
 #include <QFocusFrame>
 #include <QLabel>
 #include <QPainter>
+#include <QPointer>
 #include <QShortcut>
 #include <QToolTip>
 #include <utility>
@@ -36,25 +37,27 @@ class FocusRing : public QFocusFrame {
     setAccessibleName("ring of the focus");
     hide();
     connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget* /*old*/, const QWidget* focused) { Follow(focused); });
+            [this](const QWidget* /*old*/, QWidget* focused) { Follow(focused); });
   }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
-    if (box_ == nullptr) return;
+    if (!box_) return;
     QPainter painter(this);
     FrameSnapped(painter, rect(), 2, theme::ShadesOf(palette()).accent);
     box_->PaintMarks(painter);
   }
 
  private:
-  void Follow(const QWidget* focused) {
-    box_ = qobject_cast<const RosterBox*>(focused);
-    if (box_ != nullptr) setGeometry(box_->geometry());
-    setVisible(box_ != nullptr);
+  void Follow(QWidget* focused) {
+    const auto* box = qobject_cast<RosterBox*>(focused);
+    const bool is_here = box != nullptr && box->parentWidget() == parentWidget();
+    box_ = is_here ? box : nullptr;
+    if (is_here) setGeometry(box->geometry());
+    setVisible(is_here);
   }
 
-  const RosterBox* box_ = nullptr;  // null while the ring is hidden
+  QPointer<const RosterBox> box_;
 };
 
 }  // namespace
@@ -123,7 +126,7 @@ void RosterFrame::ShowMarks(const EditorState& state, const StateChange& change)
 void RosterFrame::ShowMark(const EditorState& state, Cell cell) {
   RosterBox& box = BoxAt(cell);
   // A tip that came by F8 has no pointer that leaves.
-  if (QToolTip::text() == box.toolTip()) QToolTip::hideText();
+  if (QToolTip::isVisible() && QToolTip::text() == box.toolTip()) QToolTip::hideText();
   box.ShowMark(state.marks.At(cell), TipOf(state, cell));
 }
 
@@ -146,7 +149,8 @@ std::optional<Cell> RosterFrame::FocusedCell() const {
 }
 
 RosterBox* RosterFrame::FocusedBox() const {
-  return qobject_cast<RosterBox*>(window()->focusWidget());
+  QWidget* focused = window()->focusWidget();
+  return focused != nullptr && isAncestorOf(focused) ? qobject_cast<RosterBox*>(focused) : nullptr;
 }
 
 void RosterFrame::paintEvent(QPaintEvent* /*event*/) {
@@ -188,6 +192,7 @@ void RosterFrame::AddHeaders(const BlockLayout& layout) {
 void RosterFrame::AddBox(Cell cell) {
   auto* box = new RosterBox(cell, code_page_, this);
   boxes_.at(IndexOf(cell)) = box;
+  box->setText(FromCodePage(editor_.state().grid.Text(cell)));
   connect(box, &RosterBox::textChanged, this, [this, box, cell] {
     // Not the signal's text, from which the box may have taken line breaks by now.
     editor_.Type(cell, ToCodePage(box->text()));

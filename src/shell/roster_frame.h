@@ -24,7 +24,7 @@ class RosterFrame : public QFrame {
   Q_OBJECT
 
  public:
-  /// Hidden until a team is shown. The editor, whose grid is empty yet, outlives the frame.
+  /// Hidden until a team is shown. The editor outlives the frame.
   RosterFrame(Editor& editor, QWidget* parent);
 
   /// Shows the current state.
