@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QFont>
 #include <QTemporaryFile>
 
 #include "shell/look.h"
